@@ -1,0 +1,30 @@
+# A room of the house is one folder and one static library; a test folder is one test program.
+
+# zub_room(NAME [ROOM...]): the sources of this folder as the library zub_NAME, which may use these rooms.
+function(zub_room name)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  list(TRANSFORM ARGN PREPEND zub_ OUTPUT_VARIABLE uses)
+  if(sources MATCHES "\\.cpp")
+    add_library(zub_${name} STATIC ${sources})
+    target_include_directories(zub_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(zub_${name} PUBLIC ${uses})
+  else()
+    add_library(zub_${name} INTERFACE)
+    target_include_directories(zub_${name} INTERFACE ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(zub_${name} INTERFACE ${uses})
+  endif()
+endfunction()
+
+# zub_test(NAME [ROOM...]): the sources of this folder as the test program test_NAME.
+function(zub_test name)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  if(NOT sources MATCHES "\\.cpp" OR NOT TARGET zub_test_main)
+    return()
+  endif()
+  list(TRANSFORM ARGN PREPEND zub_ OUTPUT_VARIABLE uses)
+  add_executable(test_${name} ${sources})
+  target_include_directories(test_${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(test_${name} PRIVATE ${uses} zub_test_main)
+  add_test(NAME ${name} COMMAND test_${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()

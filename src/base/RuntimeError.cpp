@@ -1,0 +1,52 @@
+#include "base/RuntimeError.h"
+
+#include <utility>
+
+namespace zub {
+
+std::string_view descriptionOf(ErrorNumber number) {
+  switch (number) {
+    case ErrorNumber::InvalidCall:
+      return "Invalid procedure call or argument";
+    case ErrorNumber::Overflow:
+      return "Overflow";
+    case ErrorNumber::TypeMismatch:
+      return "Type mismatch";
+    case ErrorNumber::BadFileName:
+      return "Bad file name or number";
+    case ErrorNumber::FileNotFound:
+      return "File not found";
+    case ErrorNumber::FileAlreadyOpen:
+      return "File already open";
+    case ErrorNumber::DeviceIo:
+      return "Device I/O error";
+    case ErrorNumber::DiskFull:
+      return "Disk full";
+    case ErrorNumber::InputPastEnd:
+      return "Input past end of file";
+    case ErrorNumber::TooManyFiles:
+      return "Too many files";
+    case ErrorNumber::DeviceUnavailable:
+      return "Device unavailable";
+    case ErrorNumber::PermissionDenied:
+      return "Permission denied";
+    case ErrorNumber::DiskNotReady:
+      return "Disk not ready";
+    case ErrorNumber::PathFileAccess:
+      return "Path/File access error";
+    case ErrorNumber::PathNotFound:
+      return "Path not found";
+    case ErrorNumber::InvalidPropertyValue:
+      return "Invalid property value";
+    case ErrorNumber::Automation:
+      return "Automation error";
+  }
+  return "Application-defined or object-defined error";
+}
+
+RuntimeError::RuntimeError(ErrorNumber number) : number_(number), description_(descriptionOf(number)) {}
+
+RuntimeError::RuntimeError(ErrorNumber number, std::string description)
+    : number_(number), description_(std::move(description)) {}
+
+}  // namespace zub

@@ -1,0 +1,38 @@
+// Text helpers. Text is 8-bit, in the PC's ANSI code page; positions are bytes. Nothing here folds case: that
+// needs the code page (platform/CodePage.h).
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace zub {
+
+inline constexpr std::string_view CrLf = "\r\n";
+
+// Blanks are the character 32 only; tabs and line ends stay.
+std::string_view trimLeft(std::string_view text);
+std::string_view trimRight(std::string_view text);
+std::string_view trim(std::string_view text);
+
+// The text left of the first NUL, or all of it.
+std::string_view StripAtNull(std::string_view text);
+
+bool contains(std::string_view text, std::string_view part);
+
+// The part behind the last backslash; all of it where there is none.
+std::string_view lastPathPart(std::string_view path);
+// The part before the last backslash; empty where there is none.
+std::string_view withoutLastPathPart(std::string_view path);
+// The path with a backslash at its end.
+std::string withBackslash(std::string_view path);
+
+// A folder and a relative path with exactly one backslash between. Blanks behind the folder do not hide its
+// own backslash, and stay.
+std::string JoinPath(std::string_view folder, std::string_view path);
+
+// The number that a text begins with after blanks ("7 times" is 7), 0 where there is none. Clamped to 32
+// bits.
+std::int32_t leadingNumber(std::string_view text);
+
+}  // namespace zub

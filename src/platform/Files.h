@@ -1,0 +1,99 @@
+// Files and folders by their Windows paths: ANSI text, parts joined by backslashes (two in a row count as
+// one), found without regard to case, created as written. A path without a drive is on the current drive, one
+// without a root is below the current folder.
+//
+// A link or reparse point is a file of length 0 everywhere: no folder, never entered; removing it removes the
+// link.
+//
+// What fails throws RuntimeError:
+//   52 a name that no file can have          53 no such file          57 device failure          61 disk full
+//   67 too many open files                   70 held by another program, or the disk is read-only
+//   71 the drive is not ready                75 no rights, a folder where a file is meant, or a read-only
+//   file 76 no such folder or drive on the way
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace zub {
+
+namespace attribute {
+inline constexpr std::uint32_t ReadOnly = 1;
+inline constexpr std::uint32_t Hidden = 2;
+inline constexpr std::uint32_t System = 4;
+inline constexpr std::uint32_t Directory = 16;
+inline constexpr std::uint32_t Archive = 32;
+inline constexpr std::uint32_t Normal = 128;
+inline constexpr std::uint32_t Invalid = 0xFFFFFFFF;  // there is no such file
+}  // namespace attribute
+
+struct FoundFile {
+  std::string name;  // without its folder
+  std::uint32_t attributes = 0;
+  std::uint32_t nFileSizeHigh = 0;
+  std::uint32_t nFileSizeLow = 0;
+};
+
+// An enumeration of one folder. Files may be removed while it runs; a removed one may still be told.
+class FileSearch {
+ public:
+  virtual ~FileSearch() = default;
+  // False at the end. The entry's name keeps its capacity from call to call.
+  virtual bool next(FoundFile& found) = 0;
+};
+
+enum class OpenMode : std::uint8_t {
+  Binary,  // read and write, not truncated, made where it is missing
+  Input,   // read an existing file
+  Output,  // write, emptied or made
+};
+
+// An open file. Closed by its destructor at the latest, which swallows failures.
+class FileChannel {
+ public:
+  virtual ~FileChannel() = default;
+  virtual std::int64_t length() = 0;
+  virtual void seek(std::int64_t offset) = 0;            // from the start, 0 is the first byte
+  virtual std::size_t read(std::span<char> buffer) = 0;  // bytes read; 0 at the end
+  virtual void write(std::string_view bytes) = 0;        // all of them; may be kept back until close
+  virtual void close() = 0;                              // writes what was kept back
+  virtual void closeOnDisk() = 0;  // close, and what was written has reached the disk in its old place
+};
+
+class Files {
+ public:
+  virtual ~Files() = default;
+
+  // Enumerates the folder of `path` by the wildcard behind its last backslash: "*" and "?", without regard to
+  // case,
+  // "*.*" is everything, "name." is the name without an extension, blanks and dots at the end of other
+  // patterns do not count. The folder's own "." and ".." may be told. Null where the folder or a match is
+  // missing.
+  virtual std::unique_ptr<FileSearch> find(std::string_view path) = 0;
+
+  // The attribute bits, or attribute::Invalid. Does not fail.
+  virtual std::uint32_t attributes(std::string_view path) = 0;
+  // Clears all attributes. 53 for a missing file also where its folder is missing or the name can name no
+  // file.
+  virtual void resetAttributes(std::string_view path) = 0;
+
+  virtual std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) = 0;
+  // The same as opening for Binary, taking the length and closing, but does not make a missing file: 53.
+  virtual std::int64_t openedLength(std::string_view path) = 0;
+  virtual void remove(std::string_view path) = 0;
+
+  virtual bool fileExists(std::string_view path) = 0;
+  virtual bool folderExists(std::string_view path) = 0;
+  virtual void createFolder(std::string_view path) = 0;  // 75 where it exists, 76 without a parent
+  // Removes the folder with all that it holds, read-only entries too. 76 where it is missing; stops at the
+  // first entry that cannot be removed.
+  virtual void deleteFolder(std::string_view path) = 0;
+
+  // The 8.3 form of an existing path; the empty text for a missing one.
+  virtual std::string shortPath(std::string_view path) = 0;
+};
+
+}  // namespace zub

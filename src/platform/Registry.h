@@ -1,0 +1,100 @@
+// The registry as its nine calls, each with the status that the system gives it: the logic is told in them.
+// Names and paths are ANSI text, found without regard to case and kept as written. A path is relative to an
+// open key or a hive, its parts joined by one backslash, without one at its ends; the empty path is the key
+// itself.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace zub {
+
+// An open key or one of the hives. 0 is no key: every call on it answers InvalidHandle.
+using RegistryKey = std::uintptr_t;
+
+enum class Hive : std::uint32_t {
+  None = 0,
+  ClassesRoot = 0x80000000,
+  CurrentUser = 0x80000001,
+  LocalMachine = 0x80000002,
+  Users = 0x80000003,
+  PerformanceData = 0x80000004,
+  CurrentConfig = 0x80000005,
+  DynData = 0x80000006,
+};
+
+using RegistryStatus = std::int32_t;
+
+namespace status {
+inline constexpr RegistryStatus Success = 0;
+inline constexpr RegistryStatus FileNotFound = 2;  // no such key or value
+inline constexpr RegistryStatus AccessDenied = 5;
+inline constexpr RegistryStatus InvalidHandle = 6;
+inline constexpr RegistryStatus MoreData = 234;  // the buffer is too small
+inline constexpr RegistryStatus NoMoreItems = 259;
+}  // namespace status
+
+namespace access {
+inline constexpr std::uint32_t Write = 0x20006;
+inline constexpr std::uint32_t All = 0x3F;  // query, set, create, enumerate, notify, link
+inline constexpr std::uint32_t Read = 131135;
+}  // namespace access
+
+enum class ValueType : std::uint32_t { None = 0, Text = 1, ExpandText = 2, Binary = 3, Number = 4 };
+
+class Registry {
+ public:
+  virtual ~Registry() = default;
+
+  virtual RegistryKey hive(Hive which) const = 0;
+
+  // Opens an existing key. `opened` is set on Success only.
+  virtual RegistryStatus open(RegistryKey parent, std::string_view path, std::uint32_t rights,
+                              RegistryKey& opened) = 0;
+  // Opens the key and makes it, with all keys on the way, where it is missing.
+  virtual RegistryStatus create(RegistryKey parent, std::string_view path, std::uint32_t rights,
+                                RegistryKey& opened) = 0;
+  // The name of the index-th subkey. `length`: in, the room in `name` in characters with the NUL; out, the
+  // length without it. The name ends in a NUL. MoreData leaves `name` as it was.
+  virtual RegistryStatus enumKey(RegistryKey key, std::uint32_t index, char* name, std::uint32_t& length) = 0;
+  // The name, type and data of the index-th value; `length` as above, `dataLength` in bytes. The unnamed
+  // value has the empty name. With MoreData because of the data the name may or may not have been written.
+  virtual RegistryStatus enumValue(RegistryKey key, std::uint32_t index, char* name, std::uint32_t& length,
+                                   std::uint32_t& type, std::uint8_t* data, std::uint32_t& dataLength) = 0;
+  // The data of one value as stored, with no NUL added. MoreData sets `dataLength` to the length needed.
+  virtual RegistryStatus query(RegistryKey key, std::string_view name, std::uint32_t& type,
+                               std::uint8_t* data, std::uint32_t& dataLength) = 0;
+  virtual RegistryStatus set(RegistryKey key, std::string_view name, std::uint32_t type,
+                             std::span<const std::uint8_t> data) = 0;
+  virtual RegistryStatus deleteValue(RegistryKey key, std::string_view name) = 0;
+  // Deletes a subkey; the empty path deletes the open key itself. A key that has subkeys goes with them on
+  // the 9x family and is refused with AccessDenied on the NT family.
+  virtual RegistryStatus deleteKey(RegistryKey key, std::string_view path) = 0;
+  virtual RegistryStatus close(RegistryKey key) = 0;
+};
+
+// Closes a key when the scope ends.
+class OpenKey {
+ public:
+  explicit OpenKey(Registry& registry) : registry_(registry) {}
+  OpenKey(const OpenKey&) = delete;
+  OpenKey& operator=(const OpenKey&) = delete;
+  ~OpenKey() {
+    if (key_ != 0) registry_.close(key_);
+  }
+
+  RegistryStatus open(Hive hive, std::string_view path, std::uint32_t rights) {
+    return registry_.open(registry_.hive(hive), path, rights, key_);
+  }
+  RegistryStatus create(Hive hive, std::string_view path, std::uint32_t rights) {
+    return registry_.create(registry_.hive(hive), path, rights, key_);
+  }
+  RegistryKey get() const { return key_; }
+
+ private:
+  Registry& registry_;
+  RegistryKey key_ = 0;
+};
+
+}  // namespace zub
