@@ -1,0 +1,192 @@
+#include "engine/Delete.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "engine/Engine.h"
+
+namespace zub {
+namespace {
+
+constexpr std::string_view AllFiles = "*.*";
+constexpr std::size_t BlockSize = 1024;
+
+bool isDots(std::string_view name) {
+  return name == "." || name == "..";
+}
+
+std::string joined(std::initializer_list<std::string_view> parts) {
+  std::string text;
+  for (const std::string_view part : parts) text += part;
+  return text;
+}
+
+}  // namespace
+
+Delete::Delete(Engine& engine) : DelFile(engine.pc, AllFiles, FileLister::Hidden::Include), engine_(engine) {}
+
+bool Delete::DeleteFolder(std::string_view strPath, std::string_view strPattern) {
+  engine_.animated->RemoveEntries(removing::Folder);
+  if (!FolderPresent(strPath)) return true;
+  DeleteSubDir(strPath, strPattern);
+  engine_.animated->RemoveEntries(removing::Files);
+  for (std::size_t file = 0; file < DelFileList.size(); ++file) {
+    engine_.pc.events.DoEvents();
+    if (file < DelFileList.size()) DeleteFile(std::string(DelFileList[file]), 0);
+  }
+  engine_.animated->RemoveEntries(removing::Folder);
+  if (strPattern == AllFiles) {
+    for (std::size_t left = DelDirList.size(); left > 0; left = std::min(left - 1, DelDirList.size())) {
+      engine_.pc.events.DoEvents();
+      if (left > DelDirList.size()) continue;
+      const std::string folder = DelDirList[left - 1];
+      engine_.clean.AddItem(joined({"\tDeleting Folder ", lastPathPart(folder)}));
+      RemoveFolderTree(folder);
+    }
+  }
+  return false;
+}
+
+void Delete::DeleteSubDir(std::string_view strPath, std::string_view strPattern) {
+  mousePointer = MousePointer::Hourglass;
+  ListFilesFolder(strPath, strPattern);
+  mousePointer = MousePointer::Default;
+}
+
+void Delete::ListFilesFolder(std::string_view Path, std::string_view SearchStr) {
+  DelDirList.clear();
+  DelFileList.clear();
+  WalkFolder(withBackslash(Path), SearchStr);
+}
+
+// Depth first, the folders of a level before its files. Folders are found whatever the pattern is.
+void Delete::WalkFolder(const std::string& folder, std::string_view strPattern) {
+  const auto isDirectory = [](const FoundFile& found) {
+    return (found.attributes & attribute::Directory) != 0;
+  };
+  std::vector<std::string> children;
+  FoundFile found;
+  if (const auto search = engine_.pc.files.find(folder + "*")) {
+    while (search->next(found)) {
+      if (isDots(found.name) || !isDirectory(found)) continue;
+      children.push_back(found.name);
+      DelDirList.push_back(folder + found.name);
+    }
+  }
+  if (const auto search = engine_.pc.files.find(joined({folder, strPattern}))) {
+    while (search->next(found)) {
+      engine_.pc.events.DoEvents();
+      if (!isDots(found.name) && !isDirectory(found)) DelFileList.push_back(folder + found.name);
+    }
+  }
+  for (const std::string& child : children) WalkFolder(folder + child + "\\", strPattern);
+}
+
+void Delete::DeleteFilesInFolder(std::string_view strPath, std::string_view strPattern) {
+  try {
+    DelFile.pattern(strPattern);
+    DelFile.path(strPath);
+    const std::string folder = withBackslash(strPath);
+    const std::vector<std::string> names = DelFile.names();
+    for (const std::string& name : names) {
+      engine_.pc.events.DoEvents();
+      DeleteFile(folder + name, 0);
+    }
+  } catch (const RuntimeError& failure) {
+    engine_.clean.AddItem(failure.description());
+  }
+}
+
+void Delete::MakeDir(std::string_view strPath) {
+  try {
+    if (!FolderPresent(strPath)) engine_.pc.files.createFolder(strPath);
+  } catch (const RuntimeError&) {
+  }
+}
+
+void Delete::RemoveFolderTree(std::string_view strPath) {
+  try {
+    if (FolderPresent(strPath)) engine_.pc.files.deleteFolder(strPath);
+  } catch (const RuntimeError&) {
+  }
+}
+
+bool Delete::FolderPresent(std::string_view strPath) {
+  return engine_.pc.files.folderExists(strPath);
+}
+
+bool Delete::DeleteFile(std::string_view strFileName, int nSpecial) {
+  Files& files = engine_.pc.files;
+  engine_.animated->RemoveEntries(removing::Files);
+  try {
+    // First of all, so that a missing file fails before anything could create it.
+    files.resetAttributes(strFileName);
+    const std::int64_t length = files.openedLength(strFileName);
+    const int bleach = engine_.options.chkBleach.Value();
+    if (bleach == 0) engine_.clean.AddItem(joined({"\tDeleting file ", lastPathPart(strFileName)}));
+    if (bleach == 1) ZUBShredder(strFileName, leadingNumber(engine_.options.cmbShredder.Text()));
+    files.remove(strFileName);
+    engine_.TotalBytes = checkedAdd(engine_.TotalBytes, length);
+    return false;
+  } catch (const RuntimeError& failure) {
+    reportFailure(strFileName, nSpecial, failure);
+    return true;
+  }
+}
+
+void Delete::reportFailure(std::string_view strFileName, int nSpecial, const RuntimeError& failure) {
+  const ErrorNumber error = failure.number();
+  engine_.animated->state.timer.Enabled = false;
+  if (error == ErrorNumber::FileNotFound) return;  // leaves the animation standing
+
+  const bool denied = error == ErrorNumber::PermissionDenied;
+  const bool accessError = error == ErrorNumber::PathFileAccess;
+  UserFunctions& user = engine_.userFunctions;
+  if ((nSpecial == 1 && denied) || accessError) {
+    removeAtRestart(strFileName);
+    constexpr std::string_view locked = " you are trying to delete is locked.";
+    constexpr std::string_view restart = "You need to restart your computer to delete this file";
+    user.ShowMessage(joined({"The file ", strFileName, locked, CrLf, restart}), 0, "Delete locked file",
+                     true);
+    engine_.clean.AddItem(
+        joined({"\tDelete locked file: ", "The file ", strFileName, locked, restart, CrLf}));
+  }
+  const std::string_view outcome =
+      denied || accessError ? " is locked or is on a read only drive/network" : " cannot be deleted";
+  user.ShowMessage(joined({"The file ", strFileName, CrLf, outcome}), 0, failure.description(), true);
+  engine_.clean.AddItem(joined({"\t", failure.description(), " The file ", strFileName, outcome, CrLf}));
+  engine_.animated->state.timer.Enabled = true;
+}
+
+void Delete::removeAtRestart(std::string_view strFileName) {
+  Restart& restart = engine_.pc.restart;
+  if (engine_.userFunctions.IsWinNT()) {
+    restart.deleteAtRestart(strFileName);
+  } else {
+    // One key for every file: only the file scheduled last stands in the profile.
+    restart.writeProfile("rename", "nul", engine_.pc.files.shortPath(strFileName), "wininit.ini");
+  }
+}
+
+void Delete::ZUBShredder(std::string_view szname, int nTimes) {
+  static constexpr std::array<char, BlockSize> zeros{};
+  try {
+    const auto file = engine_.pc.files.open(szname, OpenMode::Binary);
+    const std::int64_t blocks = divideRoundHalfEven(file->length(), BlockSize);
+    engine_.clean.AddItem(joined({"\tShredding file ", lastPathPart(szname)}));
+    for (int pass = 1; pass <= nTimes; ++pass) {
+      file->seek(0);
+      for (std::int64_t block = 1; block <= blocks - 1; ++block) {
+        file->write({zeros.data(), zeros.size()});
+        engine_.pc.events.DoEvents();
+      }
+    }
+    file->closeOnDisk();
+  } catch (const RuntimeError&) {
+    // The removal that follows decides what is told.
+  }
+}
+
+}  // namespace zub

@@ -1,0 +1,55 @@
+// The one object through which every file and folder of a wash leaves the disk. It decides the shredding,
+// handles files that cannot be removed now, and tells the report and the progress window what it does.
+//
+// Paths are ANSI text. Failures stay inside and become report lines and messages. One call at a time: a
+// second DeleteFolder inside a first one's turn of the event loop would clear the lists under it.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/RuntimeError.h"
+#include "engine/FileLister.h"
+#include "state/Controls.h"
+
+namespace zub {
+
+class Engine;
+
+class Delete {
+ public:
+  explicit Delete(Engine& engine);
+
+  // Removes the files that match the pattern in the folder and below it; with the pattern "*.*" also all
+  // folders below it, never the folder itself. True when there is no such folder and nothing was done.
+  bool DeleteFolder(std::string_view strPath, std::string_view strPattern);
+  // The matching files of one folder. A failure to list it is reported as a line of its own.
+  void DeleteFilesInFolder(std::string_view strPath, std::string_view strPattern);
+  void MakeDir(std::string_view strPath);
+  // True when the removal failed. A missing file fails silently. nSpecial 1: a file that another program
+  // holds is also scheduled for removal at the next start of the PC.
+  bool DeleteFile(std::string_view strFileName, int nSpecial);
+  // Fills the two lists below.
+  void DeleteSubDir(std::string_view strPath, std::string_view strPattern);
+  void ListFilesFolder(std::string_view Path, std::string_view SearchStr);
+  // Overwrites whole blocks of 1024 bytes with zeros, nTimes over, all but the last block; what it wrote has
+  // reached the disk when it returns. Name, length and tail of the file stay.
+  void ZUBShredder(std::string_view szname, int nTimes);
+
+  std::vector<std::string> DelDirList;   // folders, parents before their children
+  std::vector<std::string> DelFileList;  // matching files
+  FileLister DelFile;
+  MousePointer mousePointer = MousePointer::Default;
+
+ private:
+  void WalkFolder(const std::string& folder, std::string_view strPattern);
+  bool FolderPresent(std::string_view strPath);
+  void RemoveFolderTree(std::string_view strPath);
+  void reportFailure(std::string_view strFileName, int nSpecial, const RuntimeError& failure);
+  void removeAtRestart(std::string_view strFileName);
+
+  Engine& engine_;
+};
+
+}  // namespace zub

@@ -1,0 +1,48 @@
+// What the objects of a wash share: the PC, the options, and the workers that live until the process ends.
+#pragma once
+
+#include "base/Holders.h"
+#include "engine/Delete.h"
+#include "engine/RegistryHelper.h"
+#include "engine/UserFunctions.h"
+#include "engine/frmAnimated.h"
+#include "engine/frmClean.h"
+#include "platform/Platform.h"
+#include "state/Options.h"
+
+namespace zub {
+
+// The main window as the wash sees it.
+class WashOwner {
+ public:
+  virtual ~WashOwner() = default;
+  virtual void Enable() = 0;
+  virtual void FinishedCleaning() = 0;
+  virtual void Unload() = 0;  // ends the process: does not return
+};
+
+class Engine {
+ public:
+  Engine(const Platform& platform, Options& theOptions)
+      : pc(platform),
+        options(theOptions),
+        userFunctions(pc, options),
+        registryHelper(pc.registry, pc.codePage, [this] { animated->RemoveEntries(removing::Registry); }),
+        clean(*this),
+        animated(*this),
+        deleter([this] { return std::make_unique<Delete>(*this); }) {}
+  Engine(const Engine&) = delete;
+  Engine& operator=(const Engine&) = delete;
+
+  const Platform pc;
+  Options& options;
+  WashOwner* owner = nullptr;  // set before the first wash
+  UserFunctions userFunctions;
+  RegistryHelper registryHelper;
+  frmClean clean;
+  AutoLoad<frmAnimated> animated;
+  FirstUse<Delete> deleter;
+  std::int32_t TotalBytes = 0;  // deleted in this wash
+};
+
+}  // namespace zub

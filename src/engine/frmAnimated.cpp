@@ -1,0 +1,91 @@
+#include "engine/frmAnimated.h"
+
+#include "base/Numbers.h"
+#include "engine/Engine.h"
+
+namespace zub {
+namespace {
+
+// The running cycle; the picture at index 0 rests and the one at 5 is never shown.
+constexpr std::array frames{Picture::Frame0, Picture::Frame1, Picture::Frame2,
+                            Picture::Frame3, Picture::Frame4, Picture::Frame5};
+
+struct Kind {
+  std::string_view text;
+  Picture mark;
+};
+constexpr std::array kinds{Kind{"", Picture::None}, Kind{"Removing registry entries.", Picture::KindRegistry},
+                           Kind{"Removing files", Picture::KindFiles},
+                           Kind{"Removing folder", Picture::KindFolder}};
+
+}  // namespace
+
+void frmAnimated::StartClean() {
+  state.lblRemove.Caption.clear();
+  state.lblCurrent.Caption.clear();
+  state.form.Show();
+  engine_.clean.CleanAll();
+}
+
+void frmAnimated::StartAnimation() {
+  state.timer.Enabled = true;
+  state.cmdLog.Visible = false;
+  state.cmdFinish.Caption = "&Cancel";
+}
+
+void frmAnimated::StopAnimation() {
+  state.timer.Enabled = false;
+  state.ImgAnimate.picture = frames[0];
+  state.ImgEntries.picture = Picture::None;
+  state.cmdLog.Visible = true;
+  state.cmdFinish.Caption = "&Finish";
+  AppName("Finished");
+  state.lblCurrent.Caption = "Select Finish to close this dialog";
+
+  const std::string restored = groupedThousands(engine_.TotalBytes);
+  state.lblRemove.Caption =
+      "Total amount of space restored: " + (restored.empty() ? std::string("100") : restored) + " Bytes";
+  Clock& clock = engine_.pc.clock;
+  const SystemTime now = clock.local();
+  engine_.options.lblLastRemoval.Caption =
+      "Last removal on " + clock.dateText(now) + " at " + clock.timeText(now);
+}
+
+void frmAnimated::AppName(std::string_view text) {
+  state.lblApplication.Caption = text;
+  state.StatusBar1[0] = text;
+}
+
+void frmAnimated::RemoveEntries(int kind) {
+  state.RemoveEntries = kind;
+  if (kind < 0 || kind >= static_cast<int>(kinds.size())) return;
+  const Kind& shown = kinds[static_cast<std::size_t>(kind)];
+  state.lblRemove.Caption = shown.text;
+  state.ImgEntries.picture = shown.mark;
+}
+
+void frmAnimated::Timer_Tick() {
+  if (++state.AnimationFrame == 5) state.AnimationFrame = 1;
+  state.ImgAnimate.picture = frames[static_cast<std::size_t>(state.AnimationFrame)];
+}
+
+void frmAnimated::CloseWindowTimer_Tick() {
+  cmdFinish_Click();
+}
+
+void frmAnimated::cmdFinish_Click() {
+  Unload();
+}
+
+void frmAnimated::cmdLog_Click() {
+  engine_.clean.form.Show();
+}
+
+void frmAnimated::Unload() {
+  engine_.owner->Enable();
+  engine_.owner->FinishedCleaning();
+  if (engine_.options.chkCloseAfterWash.Value() == 1) engine_.owner->Unload();
+  engine_.animated.unload();
+}
+
+}  // namespace zub
