@@ -110,6 +110,7 @@ void Delete::RemoveFolderTree(std::string_view strPath) {
   try {
     if (FolderPresent(strPath)) engine_.pc.files.deleteFolder(strPath);
   } catch (const RuntimeError&) {
+    ++engine_.leftBehind;
   }
 }
 
@@ -141,6 +142,7 @@ void Delete::reportFailure(std::string_view strFileName, int nSpecial, const Run
   engine_.animated->state.timer.Enabled = false;
   if (error == ErrorNumber::FileNotFound) return;  // leaves the animation standing
 
+  ++engine_.leftBehind;
   const bool denied = error == ErrorNumber::PermissionDenied;
   const bool accessError = error == ErrorNumber::PathFileAccess;
   UserFunctions& user = engine_.userFunctions;

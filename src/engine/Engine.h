@@ -27,7 +27,7 @@ class Engine {
       : pc(platform),
         options(theOptions),
         userFunctions(pc, options),
-        registryHelper(pc.registry, pc.codePage, [this] { animated->RemoveEntries(removing::Registry); }),
+        registryHelper(*this),
         clean(*this),
         animated(*this),
         deleter([this] { return std::make_unique<Delete>(*this); }) {}
@@ -43,6 +43,7 @@ class Engine {
   AutoLoad<frmAnimated> animated;
   FirstUse<Delete> deleter;
   std::int32_t TotalBytes = 0;  // deleted in this wash
+  int leftBehind = 0;           // files, folders and keys that a wash tried and could not remove
 };
 
 }  // namespace zub

@@ -1,9 +1,8 @@
 #include "engine/RegistryHelper.h"
 
-#include <utility>
-
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "engine/Engine.h"
 
 namespace zub {
 namespace {
@@ -39,11 +38,14 @@ std::string_view textIn(const std::array<char, Size>& buffer) {
 
 }  // namespace
 
-RegistryHelper::RegistryHelper(Registry& registry, const CodePage& codePage, std::function<void()> removing)
-    : registry_(registry), codePage_(codePage), removing_(std::move(removing)) {}
+// A refusal for want of rights is something that a wash leaves behind.
+RegistryStatus RegistryHelper::counted(RegistryStatus result) {
+  if (result == status::AccessDenied) ++engine_.leftBehind;
+  return result;
+}
 
 RegistryHelper::Target RegistryHelper::parse(const std::string& Spec, bool forRemoval) {
-  const std::string hiveText = codePage_.upper(trim(before(Spec, '\\')));
+  const std::string hiveText = engine_.pc.codePage.upper(trim(before(Spec, '\\')));
   const std::string_view rest = std::string_view(Spec).substr(Spec.find('\\') + 1);
   Target target;
   if (forRemoval && trim(rest).ends_with("Key*")) {
@@ -63,13 +65,14 @@ RegistryHelper::Target RegistryHelper::parse(const std::string& Spec, bool forRe
 }
 
 int RegistryHelper::DeleteTrace(const std::string& Spec) {
-  removing_();
+  engine_.animated->RemoveEntries(removing::Registry);
   const Target target = parse(Spec, true);
-  OpenKey key(registry_);
-  if (key.open(hive_, target.path, access::All) != status::Success) return -1;
+  Registry& registry = engine_.pc.registry;
+  OpenKey key(registry);
+  if (counted(key.open(hive_, target.path, access::All)) != status::Success) return -1;
 
   int result = 0;
-  if (ValueMode && registry_.deleteValue(key.get(), target.valueName) != status::Success) result = -1;
+  if (ValueMode && counted(registry.deleteValue(key.get(), target.valueName)) != status::Success) result = -1;
   collectNames(key.get());
   if (KeyMode && wipe(key.get()) != status::Success) result = -1;
   return result;
@@ -78,16 +81,17 @@ int RegistryHelper::DeleteTrace(const std::string& Spec) {
 // A plain walk by index, with no deletion during it. A status other than the end still adds what the buffer
 // holds.
 void RegistryHelper::collectNames(RegistryKey key) {
+  Registry& registry = engine_.pc.registry;
   for (std::uint32_t index = 0; index <= MaxIndex; ++index) {
     auto length = static_cast<std::uint32_t>(keyName_.size());
-    if (registry_.enumKey(key, index, keyName_.data(), length) == status::NoMoreItems) break;
+    if (registry.enumKey(key, index, keyName_.data(), length) == status::NoMoreItems) break;
     lstKey.emplace_back(textIn(keyName_));
   }
   for (std::uint32_t index = 0; index <= MaxIndex; ++index) {
     auto length = static_cast<std::uint32_t>(valueName_.size());
     std::uint32_t type = 0;
     auto dataLength = static_cast<std::uint32_t>(data_.size());
-    if (registry_.enumValue(key, index, valueName_.data(), length, type, data_.data(), dataLength) ==
+    if (registry.enumValue(key, index, valueName_.data(), length, type, data_.data(), dataLength) ==
         status::NoMoreItems) {
       break;
     }
@@ -98,20 +102,22 @@ void RegistryHelper::collectNames(RegistryKey key) {
 
 // One level deep: a subkey is tried once, and whether it may have subkeys of its own the PC decides.
 int RegistryHelper::wipe(RegistryKey key) {
-  for (const std::string& name : lstValue) registry_.deleteValue(key, name);
-  for (const std::string& name : lstKey) registry_.deleteKey(key, name);
-  return registry_.deleteKey(key, "");
+  Registry& registry = engine_.pc.registry;
+  for (const std::string& name : lstValue) registry.deleteValue(key, name);
+  for (const std::string& name : lstKey) registry.deleteKey(key, name);
+  return counted(registry.deleteKey(key, ""));
 }
 
 std::string RegistryHelper::TraceValue(const std::string& Spec) {
   const Target target = parse(Spec, false);
   if (!target.namesValue) return {};
-  OpenKey key(registry_);
+  Registry& registry = engine_.pc.registry;
+  OpenKey key(registry);
   if (key.open(hive_, target.path, access::All) != status::Success) return {};
 
   std::uint32_t type = 0;
   auto length = static_cast<std::uint32_t>(data_.size());
-  if (registry_.query(key.get(), target.valueName, type, data_.data(), length) != status::Success) return {};
+  if (registry.query(key.get(), target.valueName, type, data_.data(), length) != status::Success) return {};
   const std::string_view text(reinterpret_cast<const char*>(data_.data()), length);
   return std::string(trim(text).substr(0, length > 0 ? length - 1 : 0));
 }

@@ -11,19 +11,18 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <string>
 #include <vector>
 
-#include "platform/CodePage.h"
 #include "platform/Registry.h"
 
 namespace zub {
 
+class Engine;
+
 class RegistryHelper {
  public:
-  // `removing` is told when a removal begins.
-  RegistryHelper(Registry& registry, const CodePage& codePage, std::function<void()> removing);
+  explicit RegistryHelper(Engine& engine) : engine_(engine) {}
 
   // 0, or -1 when the key could not be opened, the named value could not be deleted or the last deletion of
   // the key itself failed. RuntimeError 5 for a specification without a backslash, or with a marker and no
@@ -48,12 +47,11 @@ class RegistryHelper {
     bool namesValue = false;
   };
   Target parse(const std::string& Spec, bool forRemoval);
+  RegistryStatus counted(RegistryStatus result);
   void collectNames(RegistryKey key);
   int wipe(RegistryKey key);
 
-  Registry& registry_;
-  const CodePage& codePage_;
-  std::function<void()> removing_;
+  Engine& engine_;
   Hive hive_ = Hive::None;
   std::array<char, 256> keyName_{};
   std::array<char, 256> valueName_{};

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace zub {
 
@@ -74,6 +75,25 @@ struct TextBox {
   bool Enabled = true;
   Color BackColor = colors::White;
   Color ForeColor = colors::Black;
+};
+
+struct Group {
+  std::string Caption;
+  bool Visible = true;
+};
+
+struct MenuEntry {
+  std::string Caption;
+  bool Enabled = true;
+};
+
+// The clock on the main tab: a time, and a colon that blinks.
+struct ClockDisplay {
+  std::string text;
+  bool colon = false;
+
+  void SetText(std::string time) { text = std::move(time); }
+  void Blink() { colon = !colon; }
 };
 
 // The event loop serves it: while enabled, the owner's tick runs once in each Interval.
