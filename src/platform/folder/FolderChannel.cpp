@@ -1,0 +1,87 @@
+#include "platform/folder/FolderChannel.h"
+
+#include <algorithm>
+
+#include "base/RuntimeError.h"
+#include "platform/folder/HostFailure.h"
+
+namespace zub {
+namespace {
+
+constexpr std::size_t WindowSize = 65536;
+
+}  // namespace
+
+FolderChannel::FolderChannel(std::unique_ptr<HostFile> file, bool writable)
+    : file_(std::move(file)), writable_(writable) {}
+
+FolderChannel::~FolderChannel() {
+  try {
+    if (file_) flush();
+  } catch (const RuntimeError&) {
+  }
+}
+
+HostFile& FolderChannel::file() const {
+  if (!file_) throw RuntimeError(ErrorNumber::BadFileName);
+  return *file_;
+}
+
+void FolderChannel::flush() {
+  if (window_.empty()) return;
+  const HostError error = file().write(windowStart_, window_);
+  window_.clear();
+  check(error);
+}
+
+std::int64_t FolderChannel::length() {
+  std::uint64_t bytes = 0;
+  check(file().length(bytes));
+  if (!window_.empty()) bytes = std::max(bytes, windowStart_ + window_.size());
+  return static_cast<std::int64_t>(bytes);
+}
+
+void FolderChannel::seek(std::int64_t offset) {
+  if (offset < 0) throw RuntimeError(ErrorNumber::InvalidCall);
+  offset_ = static_cast<std::uint64_t>(offset);
+}
+
+std::size_t FolderChannel::read(std::span<char> buffer) {
+  flush();
+  std::size_t done = 0;
+  check(file().read(offset_, buffer, done));
+  offset_ += done;
+  return done;
+}
+
+void FolderChannel::write(std::string_view bytes) {
+  if (!writable_) throw RuntimeError(ErrorNumber::PathFileAccess);
+  const bool inWindow = !window_.empty() && offset_ >= windowStart_ &&
+                        offset_ <= windowStart_ + window_.size() &&
+                        offset_ - windowStart_ + bytes.size() <= WindowSize;
+  if (!inWindow) {
+    flush();
+    windowStart_ = offset_;
+    window_.reserve(WindowSize);
+  }
+  const auto place = static_cast<std::size_t>(offset_ - windowStart_);
+  window_.replace(place, std::min(bytes.size(), window_.size() - place), bytes);
+  offset_ += bytes.size();
+}
+
+void FolderChannel::close() {
+  if (!file_) return;
+  const std::unique_ptr<HostFile> closing = std::move(file_);
+  if (window_.empty()) return;
+  const std::string kept = std::move(window_);
+  window_.clear();
+  check(closing->write(windowStart_, kept));
+}
+
+void FolderChannel::closeOnDisk() {
+  flush();
+  if (writable_) check(file().sync());
+  close();
+}
+
+}  // namespace zub

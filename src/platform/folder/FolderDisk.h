@@ -1,0 +1,56 @@
+// The drives of a PC in a folder: finds the place of a Windows path on the host, by open folder handles. The
+// handles along the path asked for last are kept, so that a walk opens each folder about once; a handle that
+// turns out stale is opened anew.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/folder/FolderPath.h"
+#include "platform/folder/HostDir.h"
+#include "platform/folder/PcFacts.h"
+
+namespace zub {
+
+class FolderDisk {
+ public:
+  // Both outlive the disk.
+  FolderDisk(HostDir& root, const PcFacts& facts) : root_(root), facts_(facts) {}
+
+  // Where a path leads. The pointer is good until the next call on the disk.
+  struct Place {
+    HostDir* parent = nullptr;  // null for the root of a drive
+    std::string name;           // on the host; where nothing exists, the name to make
+    HostStat stat;
+    bool exists = false;
+  };
+
+  // RuntimeError 76 where a folder on the way or the drive is missing, 71 where the drive holds no disk.
+  Place place(const FolderPath& path);
+  // The folder that a path names; fails in the same way, for the last part too. Good until the next call.
+  HostDir& folder(const FolderPath& path) { return walk(path, path.parts.size()); }
+  // Forgets the handles. For those who change the disk in another way.
+  void forget() { open_.clear(); }
+
+  // In the order of their letters: the directories named by one upper-case letter and the drives told by the
+  // facts.
+  std::vector<char> drives();
+
+ private:
+  struct Open {
+    std::string name;  // as the path wrote it
+    std::unique_ptr<HostDir> dir;
+  };
+
+  HostDir& walk(const FolderPath& path, std::size_t parts);
+  HostDir& openOn(const FolderPath& path, std::size_t parts);
+  std::unique_ptr<HostDir> openDrive(char letter);
+  std::size_t sharedParts(const FolderPath& path, std::size_t parts) const;
+
+  HostDir& root_;
+  const PcFacts& facts_;
+  std::vector<Open> open_;  // the drive, then folder by folder
+};
+
+}  // namespace zub

@@ -1,0 +1,50 @@
+// Files and folders of a PC in a folder.
+#pragma once
+
+#include "platform/Files.h"
+#include "platform/folder/FolderDisk.h"
+#include "platform/folder/PcFacts.h"
+
+namespace zub {
+
+class FolderFiles : public Files {
+ public:
+  // Both outlive the files.
+  FolderFiles(FolderDisk& disk, PcFacts& facts) : disk_(disk), facts_(facts) {}
+
+  std::unique_ptr<FileSearch> find(std::string_view path) override;
+  std::uint32_t attributes(std::string_view path) override;
+  void resetAttributes(std::string_view path) override;
+  std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override;
+  std::int64_t openedLength(std::string_view path) override;
+  void remove(std::string_view path) override;
+  bool fileExists(std::string_view path) override;
+  bool folderExists(std::string_view path) override;
+  void createFolder(std::string_view path) override;
+  void deleteFolder(std::string_view path) override;
+  std::string shortPath(std::string_view path) override;
+
+  // Forgets what is remembered of the disk. For those who change it in another way.
+  void forget();
+
+ private:
+  using Place = FolderDisk::Place;
+
+  FolderPath parse(std::string_view path) const;
+  Place look(std::string_view path);
+  // Removing a file asks three things of it, one after the other. What resetting its attributes has seen is
+  // good for the two calls that follow on the same path.
+  const Place& lookOn(std::string_view path);
+  void checkWritable(const FolderPath& path, const Place& place) const;
+  bool isLocked(const FolderPath& path) const;
+  void checkDrive(char drive) const;
+  void removeTree(HostDir& parent, const std::string& name, FolderPath& path);
+
+  FolderDisk& disk_;
+  PcFacts& facts_;
+  std::string seenPath_;
+  FolderPath seenParts_;
+  Place seen_;
+};
+
+}  // namespace zub

@@ -1,0 +1,88 @@
+#include "platform/folder/FolderPath.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/folder/CodePage1252.h"
+
+namespace zub {
+namespace {
+
+bool isLetter(char c) {
+  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+bool isIllegal(char c) {
+  return static_cast<unsigned char>(c) < 32 ||
+         std::string_view("<>:\"|?*\\/").find(c) != std::string_view::npos;
+}
+
+// Devices have their names in every folder, with any extension.
+bool isDevice(std::string_view name) {
+  static constexpr std::array<std::string_view, 7> Plain = {"CON",    "PRN",     "AUX",   "NUL",
+                                                            "CONIN$", "CONOUT$", "CLOCK$"};
+  name = name.substr(0, name.find('.'));
+  name = name.substr(0, name.find_last_not_of(' ') + 1);
+  if (std::ranges::any_of(Plain, [&](std::string_view device) { return equalFolded(device, name); })) {
+    return true;
+  }
+  const std::string_view port = name.substr(0, 3);
+  return name.size() == 4 && name[3] >= '1' && name[3] <= '9' &&
+         (equalFolded(port, "COM") || equalFolded(port, "LPT"));
+}
+
+std::string_view withoutEnd(std::string_view part) {
+  return part.substr(0, part.find_last_not_of(". ") + 1);
+}
+
+}  // namespace
+
+std::string FolderPath::text() const {
+  std::string result{drive, ':', '\\'};
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    if (i > 0) result += '\\';
+    result += parts[i];
+  }
+  return result;
+}
+
+std::string FolderPath::key() const {
+  return folded(text());
+}
+
+bool isLegalName(std::string_view name) {
+  return !name.empty() && withoutEnd(name) == name && std::ranges::none_of(name, isIllegal) &&
+         !isDevice(name);
+}
+
+PathFault parsePath(std::string_view path, const FolderPath& current, FolderPath& result) {
+  const auto isSeparator = [](char c) { return c == '\\' || c == '/'; };
+  if (path.empty()) return PathFault::BadName;
+  if (path.size() > 1 && isSeparator(path[0]) && isSeparator(path[1])) return PathFault::NoNetwork;
+
+  result.drive = current.drive;
+  result.parts.clear();
+  if (path.size() > 1 && path[1] == ':' && isLetter(path[0])) {
+    result.drive = static_cast<char>(UpperCase1252[static_cast<unsigned char>(path[0])]);
+    path.remove_prefix(2);
+  }
+  const bool fromRoot = !path.empty() && isSeparator(path[0]);
+  if (!fromRoot && result.drive == current.drive) result.parts = current.parts;
+
+  while (!path.empty()) {
+    const auto end = static_cast<std::size_t>(std::ranges::find_if(path, isSeparator) - path.begin());
+    const std::string_view part = path.substr(0, end);
+    path.remove_prefix(std::min(end + 1, path.size()));
+    if (part.empty() || part == ".") continue;
+    if (part == "..") {
+      if (!result.parts.empty()) result.parts.pop_back();
+      continue;
+    }
+    const std::string_view name = withoutEnd(part);
+    if (!isLegalName(name)) return PathFault::BadName;
+    result.parts.emplace_back(name);
+  }
+  return PathFault::None;
+}
+
+}  // namespace zub

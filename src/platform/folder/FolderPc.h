@@ -1,0 +1,68 @@
+// A PC kept in a folder: drives as directories, the registry, the facts and the tasks as texts.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/Platform.h"
+#include "platform/folder/CodePage1252.h"
+#include "platform/folder/FolderClock.h"
+#include "platform/folder/FolderDisk.h"
+#include "platform/folder/FolderFiles.h"
+#include "platform/folder/FolderRegistry.h"
+#include "platform/folder/FolderServices.h"
+#include "platform/folder/FolderTasks.h"
+#include "platform/folder/HostDir.h"
+#include "platform/folder/PcFacts.h"
+#include "platform/folder/RegistryTree.h"
+
+namespace zub {
+
+class FolderPc {
+ public:
+  static constexpr const char* RegistryName = "registry.reg";
+
+  // The folder at a path of the host, in UTF-8. PcError, with nothing touched, where it is no PC or one of its
+  // texts is damaged. `commandLine` is what the program was started with on that PC.
+  explicit FolderPc(const std::string& folder, std::string commandLine = {});
+
+  // All services; the event loop and the message box are the caller's, and outlive the platform.
+  Platform platform(EventLoop& events, Messages& messages);
+
+  // Makes what has changed in registry and facts lasting. PcError where that fails: then the old text stands,
+  // and a later save tries again.
+  void save();
+
+  // The content, past all services.
+  RegistryTree& registryTree() { return tree_; }
+  PcFacts& facts() { return facts_; }
+  HostDir& root() { return *root_; }
+
+ private:
+  // Below the services that use them, so made before them.
+  std::unique_ptr<HostDir> root_;
+  RegistryTree tree_;
+  PcFacts facts_;
+  FolderRegistry::Rules rules_;
+  FolderDisk disk_;
+
+ public:
+  CodePage1252 codePage;
+  FolderRegistry registry;
+  FolderFiles files;
+  FolderDrives drives;
+  FolderSystemFolders folders;
+  FolderRestart restart;
+  FolderShell shell;
+  FolderClock clock;
+  FolderProcess process;
+  FolderTray tray;
+  FolderTasks tasks;
+};
+
+// Makes an empty, valid PC of the 9x family: an empty registry and drive C: with the folders that the facts
+// name. The folder is made where it is missing (not the folders above it). PcError where it cannot be made or
+// holds anything.
+void createPc(const std::string& folder);
+
+}  // namespace zub

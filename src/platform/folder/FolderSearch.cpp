@@ -1,0 +1,45 @@
+#include "platform/folder/FolderSearch.h"
+
+#include "platform/folder/CodePage1252.h"
+
+namespace zub {
+
+std::uint32_t attributesOf(const HostStat& stat, const FolderPath& path, const PcFacts& facts) {
+  std::uint32_t bits = stat.kind == HostKind::Folder ? attribute::Directory : 0;
+  if (stat.readOnly) bits |= attribute::ReadOnly;
+  if (facts.anyAttributes()) {
+    const std::string key = path.key();
+    if (facts.hidden.contains(key)) bits |= attribute::Hidden;
+    if (facts.system.contains(key)) bits |= attribute::System;
+  }
+  return bits == 0 ? attribute::Normal : bits;
+}
+
+FolderSearch::FolderSearch(std::unique_ptr<HostList> listing, std::string_view pattern,
+                           const FolderPath& folder, const PcFacts& facts)
+    : listing_(std::move(listing)), pattern_(pattern), path_(folder), facts_(facts) {
+  path_.parts.emplace_back();
+  ahead_ = advance();
+}
+
+bool FolderSearch::advance() {
+  std::string& name = path_.parts.back();
+  while (listing_->next(entry_)) {
+    name = ansiFromUtf8(entry_.name);
+    if (pattern_.matches(name) && isLegalName(name)) return true;
+  }
+  return false;
+}
+
+bool FolderSearch::next(FoundFile& found) {
+  if (!ahead_) return false;
+  if (!entry_.complete && entry_.stat.kind == HostKind::File) listing_->complete(entry_);
+  found.name = path_.parts.back();
+  found.attributes = attributesOf(entry_.stat, path_, facts_);
+  found.nFileSizeHigh = static_cast<std::uint32_t>(entry_.stat.size >> 32);
+  found.nFileSizeLow = static_cast<std::uint32_t>(entry_.stat.size);
+  ahead_ = advance();
+  return true;
+}
+
+}  // namespace zub

@@ -1,0 +1,114 @@
+#include "platform/folder/FolderServices.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/RuntimeError.h"
+#include "base/Text.h"
+#include "platform/FileReader.h"
+#include "platform/folder/CodePage1252.h"
+#include "platform/folder/ProfileText.h"
+
+namespace zub {
+namespace {
+
+constexpr std::int32_t Failed = static_cast<std::int32_t>(0x80004005);
+
+// '\0' where the text is no drive.
+char letterOf(std::string_view drive) {
+  const bool isDrive = drive.size() == 1 || (drive.size() > 1 && drive[1] == ':');
+  return isDrive ? static_cast<char>(UpperCase1252[static_cast<unsigned char>(drive[0])]) : '\0';
+}
+
+}  // namespace
+
+std::vector<std::string> FolderDrives::list() {
+  std::vector<std::string> result;
+  for (const char letter : disk_.drives()) result.push_back({letter, ':'});
+  return result;
+}
+
+bool FolderDrives::exists(std::string_view drive) {
+  const std::vector<char> letters = disk_.drives();
+  return std::ranges::find(letters, letterOf(drive)) != letters.end();
+}
+
+DriveType FolderDrives::type(std::string_view drive) {
+  if (!exists(drive)) return DriveType::Unknown;
+  const auto told = facts_.drives.find(letterOf(drive));
+  return told == facts_.drives.end() ? DriveType::Fixed : told->second;
+}
+
+std::string FolderSystemFolders::temp(std::uint32_t room) {
+  std::string path = withBackslash(facts_.temp.text());
+  return path.size() > room ? std::string{} : path;
+}
+
+void FolderRestart::deleteAtRestart(std::string_view file) {
+  FolderPath path;
+  if (parsePath(file, facts_.current, path) == PathFault::None) facts_.addRemoveAtRestart(path);
+}
+
+void FolderRestart::writeProfile(std::string_view section, std::string_view key, std::string_view value,
+                                 std::string_view file) {
+  const bool hasFolder = file.find_first_of("\\/:") != std::string_view::npos;
+  const std::string path = hasFolder ? std::string(file) : JoinPath(facts_.windows.text(), file);
+  try {
+    std::string text;
+    if (files_.fileExists(path)) {
+      FileReader reader(files_, path);
+      for (int c = reader.get(); c != -1; c = reader.get()) text += static_cast<char>(c);
+    }
+    const std::string changed = withProfileKey(text, section, key, value);
+    if (changed == text) return;
+    const auto channel = files_.open(path, OpenMode::Output);
+    channel->write(changed);
+    channel->closeOnDisk();
+  } catch (const RuntimeError&) {
+  }
+}
+
+std::uint32_t FolderRestart::platformId(std::uint32_t recordSize) {
+  if (recordSize == 0) return 0;
+  return facts_.nt ? 2 : 1;
+}
+
+std::int32_t FolderShell::emptyRecycleBin(std::uint32_t) {
+  static constexpr std::array<std::string_view, 3> Bins = {"Recycled", "Recycler", "$Recycle.Bin"};
+  bool emptied = true;
+  for (const std::string& drive : drives_.list()) {
+    if (drives_.type(drive) != DriveType::Fixed) continue;
+    for (const std::string_view bin : Bins) emptied &= emptyFolder(JoinPath(drive, bin));
+  }
+  return emptied ? 0 : Failed;
+}
+
+bool FolderShell::emptyFolder(const std::string& folder) {
+  bool emptied = true;
+  const auto search = files_.find(JoinPath(folder, "*"));
+  FoundFile found;
+  while (search && search->next(found)) {
+    const std::string path = JoinPath(folder, found.name);
+    try {
+      if ((found.attributes & attribute::Directory) != 0) {
+        files_.deleteFolder(path);
+      } else {
+        files_.resetAttributes(path);
+        files_.remove(path);
+      }
+    } catch (const RuntimeError&) {
+      emptied = false;
+    }
+  }
+  return emptied;
+}
+
+void FolderShell::start(std::string_view) {
+  throw RuntimeError(ErrorNumber::FileNotFound);
+}
+
+void FolderProcess::end() {
+  throw EndOfProcess{};
+}
+
+}  // namespace zub

@@ -1,0 +1,91 @@
+// The small services of a PC in a folder.
+#pragma once
+
+#include "platform/Files.h"
+#include "platform/Services.h"
+#include "platform/folder/FolderDisk.h"
+#include "platform/folder/PcFacts.h"
+
+namespace zub {
+
+class FolderDrives : public Drives {
+ public:
+  FolderDrives(FolderDisk& disk, const PcFacts& facts) : disk_(disk), facts_(facts) {}
+
+  std::vector<std::string> list() override;
+  bool exists(std::string_view drive) override;  // "c", "C:" or "C:\"
+  DriveType type(std::string_view drive) override;
+
+ private:
+  FolderDisk& disk_;
+  const PcFacts& facts_;
+};
+
+class FolderSystemFolders : public SystemFolders {
+ public:
+  explicit FolderSystemFolders(const PcFacts& facts) : facts_(facts) {}
+
+  std::string temp(std::uint32_t room) override;
+  std::string windows() override { return facts_.windows.text(); }
+  std::string programFolder() override { return facts_.program.text(); }
+  std::string programFile() override { return "zub.exe"; }
+  std::string current() override { return facts_.current.text(); }
+
+ private:
+  const PcFacts& facts_;
+};
+
+class FolderRestart : public Restart {
+ public:
+  FolderRestart(Files& files, PcFacts& facts) : files_(files), facts_(facts) {}
+
+  void deleteAtRestart(std::string_view file) override;  // as a fact of the PC
+  void writeProfile(std::string_view section, std::string_view key, std::string_view value,
+                    std::string_view file) override;
+  std::uint32_t platformId(std::uint32_t recordSize) override;
+
+ private:
+  Files& files_;
+  PcFacts& facts_;
+};
+
+// The shell of a PC that nobody sits at: there is nothing to open and nobody to ask.
+class FolderShell : public Shell {
+ public:
+  FolderShell(Files& files, Drives& drives) : files_(files), drives_(drives) {}
+
+  // Empties the bin folders of the fixed drives and leaves the folders themselves.
+  std::int32_t emptyRecycleBin(std::uint32_t flags) override;
+  void updateRecycleBinIcon() override {}
+  void open(std::string_view) override {}
+  void start(std::string_view program) override;
+  FolderPick browseForFolder(std::string_view) override { return {}; }
+
+ private:
+  bool emptyFolder(const std::string& folder);
+
+  Files& files_;
+  Drives& drives_;
+};
+
+class FolderProcess : public Process {
+ public:
+  FolderProcess(HostDir& root, std::string commandLine) : root_(root), commandLine_(std::move(commandLine)) {}
+
+  std::string commandLine() override { return commandLine_; }
+  // Takes the PC's folder for this process where no other one has it.
+  bool otherInstanceRuns() override { return root_.take() == HostError::InUse; }
+  [[noreturn]] void end() override;
+
+ private:
+  HostDir& root_;
+  std::string commandLine_;
+};
+
+class FolderTray : public Tray {
+ public:
+  void add(std::string_view) override {}
+  void remove() override {}
+};
+
+}  // namespace zub

@@ -1,0 +1,142 @@
+#include "platform/folder/FolderTasks.h"
+
+#include <algorithm>
+
+#include "base/RuntimeError.h"
+#include "platform/folder/HostText.h"
+#include "platform/folder/PcError.h"
+
+namespace zub {
+namespace {
+
+std::size_t checkedIndex(int position, std::size_t count) {
+  if (position < 1 || static_cast<std::size_t>(position) > count)
+    throw RuntimeError(ErrorNumber::InvalidCall);
+  return static_cast<std::size_t>(position - 1);
+}
+
+[[noreturn]] void refuse() {
+  throw RuntimeError(ErrorNumber::Automation);
+}
+
+// Keeps the task alive that it belongs to.
+class Trigger : public ScheduleTrigger {
+ public:
+  Trigger(std::shared_ptr<TaskRecord> task, std::size_t index) : task_(std::move(task)), index_(index) {}
+
+  void type(int type) override { record().type = type; }
+  void beginDate(const SystemTime& date) override {
+    record().begin.wYear = date.wYear;
+    record().begin.wMonth = date.wMonth;
+    record().begin.wDay = date.wDay;
+  }
+  void startTime(const SystemTime& time) override {
+    record().begin.wHour = time.wHour;
+    record().begin.wMinute = time.wMinute;
+  }
+  std::string text() override { return textOf(record()); }
+
+ private:
+  TriggerRecord& record() {
+    return task_->triggers[checkedIndex(static_cast<int>(index_) + 1, task_->triggers.size())];
+  }
+
+  std::shared_ptr<TaskRecord> task_;
+  std::size_t index_;
+};
+
+class Triggers : public ScheduleTriggers {
+ public:
+  explicit Triggers(std::shared_ptr<TaskRecord> task) : task_(std::move(task)) {}
+
+  int count() override { return static_cast<int>(task_->triggers.size()); }
+  std::unique_ptr<ScheduleTrigger> at(int position) override {
+    return std::make_unique<Trigger>(task_, checkedIndex(position, task_->triggers.size()));
+  }
+  std::unique_ptr<ScheduleTrigger> add() override {
+    task_->triggers.emplace_back();
+    return at(count());
+  }
+  void remove(int position) override {
+    const std::size_t index = checkedIndex(position, task_->triggers.size());
+    task_->triggers.erase(task_->triggers.begin() + static_cast<std::ptrdiff_t>(index));
+  }
+  void update() override {}
+
+ private:
+  std::shared_ptr<TaskRecord> task_;
+};
+
+}  // namespace
+
+class FolderTasks::Task : public ScheduleTask {
+ public:
+  Task(FolderTasks& owner, TaskRecord record)
+      : owner_(owner), record_(std::make_shared<TaskRecord>(std::move(record))), triggers_(record_) {}
+
+  std::string name() override { return record_->name; }
+  void application(std::string_view path) override { record_->application = path; }
+  void parameters(std::string_view text) override { record_->parameters = text; }
+  void comment(std::string_view text) override { record_->comment = text; }
+  ScheduleTriggers& triggers() override { return triggers_; }
+  void save(int) override { owner_.saveTask(*record_); }
+  void showProperties() override { refuse(); }  // nobody sits at this PC
+
+ private:
+  FolderTasks& owner_;
+  std::shared_ptr<TaskRecord> record_;
+  Triggers triggers_;
+};
+
+FolderTasks::FolderTasks(HostDir& root) : root_(root) {
+  saved_ = readTasksText(readHostText(root_, FileName).value_or(""), FileName);
+  for (const TaskRecord& task : saved_) tasks_.push_back(std::make_unique<Task>(*this, task));
+}
+
+FolderTasks::~FolderTasks() = default;
+
+void FolderTasks::refresh() {
+  try {
+    saved_ = readTasksText(readHostText(root_, FileName).value_or(""), FileName);
+  } catch (const PcError&) {
+    refuse();
+  }
+  tasks_.clear();
+  for (const TaskRecord& task : saved_) tasks_.push_back(std::make_unique<Task>(*this, task));
+}
+
+int FolderTasks::count() {
+  return static_cast<int>(tasks_.size());
+}
+
+ScheduleTask& FolderTasks::at(int position) {
+  return *tasks_[checkedIndex(position, tasks_.size())];
+}
+
+ScheduleTask& FolderTasks::add(std::string_view name) {
+  if (name.empty()) refuse();
+  TaskRecord record;
+  record.name = name;
+  tasks_.push_back(std::make_unique<Task>(*this, std::move(record)));
+  return *tasks_.back();
+}
+
+void FolderTasks::saveTask(const TaskRecord& task) {
+  std::vector<TaskRecord> changed = saved_;
+  const auto place = std::ranges::find(changed, task.name, &TaskRecord::name);
+  if (place == changed.end()) {
+    changed.push_back(task);
+  } else {
+    *place = task;
+  }
+  try {
+    const std::string text = writeTasksText(changed);
+    readTasksText(text, FileName);  // what cannot be read again is not saved
+    replaceHostText(root_, FileName, text);
+  } catch (const PcError&) {
+    refuse();
+  }
+  saved_ = std::move(changed);
+}
+
+}  // namespace zub

@@ -1,0 +1,57 @@
+// The task scheduler of a PC in a folder: its tasks are kept in the text tasks.txt.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/TaskScheduler.h"
+#include "platform/folder/HostDir.h"
+
+namespace zub {
+
+struct TriggerRecord {
+  int type = 0;
+  SystemTime begin;  // the date, with the hour and minute of the start
+};
+
+struct TaskRecord {
+  std::string name;
+  std::string application;
+  std::string parameters;
+  std::string comment;
+  std::vector<TriggerRecord> triggers;
+};
+
+// "At 2:20 PM on 9/5/2001".
+std::string textOf(const TriggerRecord& trigger);
+
+// UTF-8 lines "name = value": "task" begins a task, "trigger = 0 2001-09-05 14:20" stands once for each
+// trigger, "#" begins a comment. PcError with the line where it is none of that.
+std::vector<TaskRecord> readTasksText(std::string_view text, const std::string& file);
+std::string writeTasksText(const std::vector<TaskRecord>& tasks);
+
+class FolderTasks : public ScheduleTasks {
+ public:
+  static constexpr const char* FileName = "tasks.txt";
+
+  // Reads the tasks; PcError where their text is damaged. `root` outlives the tasks.
+  explicit FolderTasks(HostDir& root);
+  ~FolderTasks() override;
+
+  void refresh() override;
+  int count() override;
+  ScheduleTask& at(int position) override;
+  ScheduleTask& add(std::string_view name) override;
+
+ private:
+  class Task;
+  void saveTask(const TaskRecord& task);
+
+  HostDir& root_;
+  std::vector<TaskRecord> saved_;  // as the text has them
+  std::vector<std::unique_ptr<Task>> tasks_;
+};
+
+}  // namespace zub

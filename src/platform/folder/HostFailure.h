@@ -1,0 +1,14 @@
+// What the host's failures are to the program.
+#pragma once
+
+#include "base/RuntimeError.h"
+#include "platform/folder/HostDir.h"
+
+namespace zub {
+
+ErrorNumber errorNumberOf(HostError error);
+
+// Throws RuntimeError unless there is no error.
+void check(HostError error);
+
+}  // namespace zub

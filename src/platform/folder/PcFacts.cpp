@@ -1,0 +1,165 @@
+#include "platform/folder/PcFacts.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/folder/CodePage1252.h"
+#include "platform/folder/PcError.h"
+#include "platform/folder/RegistryTree.h"
+
+namespace zub {
+namespace {
+
+struct DriveKind {
+  std::string_view name;
+  DriveType type;
+};
+constexpr std::array<DriveKind, 6> DriveKinds{{{"unknown", DriveType::Unknown},
+                                               {"removable", DriveType::Removable},
+                                               {"fixed", DriveType::Fixed},
+                                               {"network", DriveType::Network},
+                                               {"cdrom", DriveType::CdRom},
+                                               {"ramdisk", DriveType::RamDisk}}};
+
+std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t\r");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t\r") + 1 - first);
+}
+
+// The reading of one value; what it throws is a reason.
+struct Refused {
+  std::string reason;
+};
+
+FolderPath pathOf(std::string_view value) {
+  FolderPath path;
+  const bool absolute = value.size() > 2 && value[1] == ':' && value[2] == '\\';
+  if (!absolute || parsePath(value, FolderPath{}, path) != PathFault::None) {
+    throw Refused{"\"" + utf8From1252(value) + "\" is no path such as C:\\WINDOWS"};
+  }
+  return path;
+}
+
+char driveOf(std::string_view value) {
+  const char letter =
+      value.size() == 1 ? static_cast<char>(UpperCase1252[static_cast<unsigned char>(value[0])]) : '\0';
+  if (letter < 'A' || letter > 'Z') throw Refused{"\"" + utf8From1252(value) + "\" is no drive letter"};
+  return letter;
+}
+
+DriveType kindOf(std::string_view value) {
+  for (const DriveKind& kind : DriveKinds) {
+    if (equalFolded(kind.name, value)) return kind.type;
+  }
+  throw Refused{"\"" + utf8From1252(value) +
+                "\" is no kind of drive: fixed, removable, network, cdrom, ramdisk or unknown"};
+}
+
+bool isNt(std::string_view value) {
+  if (equalFolded(value, "nt")) return true;
+  if (equalFolded(value, "9x")) return false;
+  throw Refused{"the family is 9x or nt"};
+}
+
+std::string registryPath(std::string_view value) {
+  const std::string_view hive = value.substr(0, value.find('\\'));
+  const bool known =
+      std::ranges::any_of(HiveNames, [&](const auto& row) { return equalFolded(row.name, hive); });
+  if (!known || value.ends_with('\\')) {
+    throw Refused{"\"" + utf8From1252(value) + "\" is no path such as HKEY_LOCAL_MACHINE\\Software"};
+  }
+  return std::string(value);
+}
+
+struct Fact {
+  std::string_view name;
+  bool many;
+  void (*take)(PcFacts&, std::string_view);
+};
+
+constexpr std::array<Fact, 11> Facts{{
+    {"family", false, [](PcFacts& pc, std::string_view value) { pc.nt = isNt(value); }},
+    {"windows", false, [](PcFacts& pc, std::string_view value) { pc.windows = pathOf(value); }},
+    {"temp", false, [](PcFacts& pc, std::string_view value) { pc.temp = pathOf(value); }},
+    {"program", false, [](PcFacts& pc, std::string_view value) { pc.program = pathOf(value); }},
+    {"current", false, [](PcFacts& pc, std::string_view value) { pc.current = pathOf(value); }},
+    {"read only", true,
+     [](PcFacts& pc, std::string_view value) { pc.readOnlyDrives.insert(driveOf(value)); }},
+    {"locked", true, [](PcFacts& pc, std::string_view value) { pc.locked.insert(pathOf(value).key()); }},
+    {"hidden", true, [](PcFacts& pc, std::string_view value) { pc.hidden.insert(pathOf(value).key()); }},
+    {"system", true, [](PcFacts& pc, std::string_view value) { pc.system.insert(pathOf(value).key()); }},
+    {"no rights", true,
+     [](PcFacts& pc, std::string_view value) { pc.noRights.push_back(registryPath(value)); }},
+    {"remove at restart", true,
+     [](PcFacts& pc, std::string_view value) { pc.removeAtRestart.push_back(pathOf(value).text()); }},
+}};
+
+constexpr std::string_view DrivePrefix = "drive ";
+
+}  // namespace
+
+PcFacts::PcFacts(std::string_view text)
+    : windows{'C', {"WINDOWS"}},
+      temp{'C', {"WINDOWS", "TEMP"}},
+      program{'C', {"Program Files", "Zubrane"}},
+      current{'C', {}} {
+  for (int number = 1; !text.empty(); ++number) {
+    const std::string_view line =
+        text.substr(0, text.find('\n') + 1 == 0 ? text.size() : text.find('\n') + 1);
+    text.remove_prefix(line.size());
+    lines_.push_back({std::string(line), {}});
+    try {
+      take(trimmed(line.substr(0, line.find('\n'))), number);
+    } catch (const Refused& refused) {
+      throw PcError(FileName, number, refused.reason);
+    }
+  }
+}
+
+void PcFacts::take(std::string_view line, int number) {
+  constexpr std::string_view mark = "\xEF\xBB\xBF";
+  if (number == 1 && line.starts_with(mark)) line.remove_prefix(mark.size());
+  if (line.empty() || line.starts_with('#')) return;
+  const std::string ansi = ansiFromUtf8(line);
+  const auto equals = ansi.find('=');
+  if (equals == std::string::npos) throw Refused{"is no \"name = value\""};
+  const std::string_view name = trimmed(std::string_view(ansi).substr(0, equals));
+  const std::string_view value = trimmed(std::string_view(ansi).substr(equals + 1));
+
+  if (name.size() > DrivePrefix.size() && equalFolded(name.substr(0, DrivePrefix.size()), DrivePrefix)) {
+    const char letter = driveOf(trimmed(name.substr(DrivePrefix.size())));
+    if (!drives.emplace(letter, kindOf(value)).second) {
+      throw Refused{"the drive was told before"};
+    }
+    return;
+  }
+  const auto fact = std::ranges::find_if(Facts, [&](const Fact& row) { return equalFolded(row.name, name); });
+  if (fact == Facts.end()) throw Refused{"unknown name \"" + utf8From1252(name) + "\""};
+  if (!fact->many && !seen_.insert(folded(name)).second) throw Refused{"the name can stand only once"};
+  fact->take(*this, value);
+  if (fact->name == "hidden" || fact->name == "system") lines_.back().key = pathOf(value).key();
+}
+
+void PcFacts::dropAttributes(const std::string& key) {
+  if (hidden.erase(key) + system.erase(key) == 0) return;
+  std::erase_if(lines_, [&](const Line& line) { return line.key == key; });
+  changed_ = true;
+}
+
+void PcFacts::addRemoveAtRestart(const FolderPath& path) {
+  const std::string text = path.text();
+  if (std::ranges::find(removeAtRestart, text) != removeAtRestart.end()) return;
+  removeAtRestart.push_back(text);
+  if (!lines_.empty() && !lines_.back().text.ends_with('\n')) lines_.back().text += '\n';
+  lines_.push_back({"remove at restart = " + utf8From1252(text) + "\n", {}});
+  changed_ = true;
+}
+
+std::string PcFacts::text() const {
+  std::string result;
+  for (const Line& line : lines_) result += line.text;
+  return result;
+}
+
+}  // namespace zub

@@ -1,0 +1,61 @@
+// The facts of a PC in a folder that are no files and no registry: the text pc.txt, one "name = value" a
+// line. The lines are kept as they stand, with their comments, so that a save changes only what the program
+// changed.
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Services.h"
+#include "platform/folder/FolderPath.h"
+
+namespace zub {
+
+class PcFacts {
+ public:
+  static constexpr const char* FileName = "pc.txt";
+
+  // `text` is UTF-8, lines end in LF or CR LF. PcError with the line where a name is unknown, a value is bad
+  // or a fact that can stand once stands twice.
+  explicit PcFacts(std::string_view text);
+
+  bool nt = false;
+  FolderPath windows;
+  FolderPath temp;
+  FolderPath program;
+  FolderPath current;
+  std::map<char, DriveType> drives;  // those that are told
+  std::set<char> readOnlyDrives;     // by their letters
+  std::set<std::string> locked;      // FolderPath::key of each
+  std::set<std::string> hidden;
+  std::set<std::string> system;
+  std::vector<std::string> noRights;  // registry paths as written
+  std::vector<std::string> removeAtRestart;
+
+  bool anyAttributes() const { return !hidden.empty() || !system.empty(); }
+
+  // What the program changes.
+  void dropAttributes(const std::string& key);  // hidden and system of this path
+  void addRemoveAtRestart(const FolderPath& path);
+
+  bool changed() const { return changed_; }
+  void saved() { changed_ = false; }
+  std::string text() const;
+
+ private:
+  struct Line {
+    std::string text;  // with its end
+    std::string key;   // of a hidden or system fact
+  };
+
+  void take(std::string_view line, int number);
+
+  std::vector<Line> lines_;
+  std::set<std::string> seen_;
+  bool changed_ = false;
+};
+
+}  // namespace zub

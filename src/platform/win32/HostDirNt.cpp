@@ -1,0 +1,242 @@
+// The machine that holds a PC folder, where it is a Windows of the NT family.
+#include <cstdio>
+#include <vector>
+
+#include "platform/folder/HostDir.h"
+#include "platform/win32/HostFileNt.h"
+#include "platform/win32/HostListNt.h"
+#include "platform/win32/NtCalls.h"
+
+namespace zub {
+namespace {
+
+constexpr ACCESS_MASK FolderRights = FILE_LIST_DIRECTORY | FILE_TRAVERSE | FILE_READ_ATTRIBUTES | SYNCHRONIZE;
+constexpr ACCESS_MASK RemoveRights = DELETE | FILE_READ_ATTRIBUTES | SYNCHRONIZE;
+constexpr ULONG ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr ULONG Itself = FILE_OPEN_REPARSE_POINT | FILE_SYNCHRONOUS_IO_NONALERT;
+
+struct ModeRow {
+  ACCESS_MASK rights;
+  ULONG disposition;
+};
+
+// By HostOpen. A file to be emptied is looked at before it is.
+constexpr ModeRow modes[] = {
+    {FILE_GENERIC_READ, FILE_OPEN},
+    {FILE_GENERIC_READ | FILE_GENERIC_WRITE, FILE_OPEN},
+    {FILE_GENERIC_READ | FILE_GENERIC_WRITE, FILE_OPEN_IF},
+    {FILE_GENERIC_READ | FILE_GENERIC_WRITE, FILE_OPEN_IF},
+    {FILE_GENERIC_READ | FILE_GENERIC_WRITE, FILE_CREATE},
+};
+
+// One part of a path, so that no call can leave its folder; a colon would name a stream of the file.
+bool isPart(const std::string& name) {
+  return !name.empty() && name != "." && name != ".." &&
+         name.find_first_of(std::string_view("\\/:\0", 4)) == std::string::npos;
+}
+
+NTSTATUS setFacts(const NtHandle& file, void* facts, std::size_t size, int which) {
+  IO_STATUS_BLOCK io;
+  return nt().setInformation(file.get(), &io, facts, static_cast<ULONG>(size),
+                             static_cast<FILE_INFORMATION_CLASS>(which));
+}
+
+NTSTATUS basicFacts(const NtHandle& file, FILE_BASIC_INFORMATION& facts) {
+  IO_STATUS_BLOCK io;
+  return nt().queryInformation(file.get(), &io, &facts, sizeof facts, FileBasicInformation);
+}
+
+HostError removeOpened(const NtHandle& file) {
+  FILE_DISPOSITION_INFORMATION remove{TRUE};
+  return hostError(setFacts(file, &remove, sizeof remove, FileDispositionInformation));
+}
+
+struct Opened {
+  HostError error;
+  HostKind kind;
+  NtHandle handle;
+};
+
+class HostDirNt : public HostDir {
+ public:
+  explicit HostDirNt(NtHandle folder) : folder_(std::move(folder)) {}
+
+  HostError openDir(const std::string& name, std::unique_ptr<HostDir>& child) override;
+  HostError list(std::unique_ptr<HostList>& listing) override;
+  HostError stat(const std::string& name, HostStat& result) override;
+  HostError openFile(const std::string& name, HostOpen mode, std::unique_ptr<HostFile>& file) override;
+  HostError removeFile(const std::string& name) override;
+  HostError removeDir(const std::string& name) override;
+  HostError makeDir(const std::string& name) override;
+  HostError setReadOnly(const std::string& name, bool readOnly) override;
+  HostError rename(const std::string& from, const std::string& to) override;
+  HostError sync() override { return HostError::None; }
+  HostError take() override;
+
+ private:
+  static UNICODE_STRING textOf(std::wstring& name);
+  OBJECT_ATTRIBUTES objectOf(UNICODE_STRING& name);
+  NTSTATUS open(const std::string& name, ACCESS_MASK rights, ULONG disposition, ULONG options,
+                NtHandle& opened);
+  Opened openKnown(const std::string& name, ACCESS_MASK rights, ULONG disposition, ULONG options);
+
+  NtHandle folder_;
+  NtHandle taken_;
+};
+
+// Both stand on what they are given.
+UNICODE_STRING HostDirNt::textOf(std::wstring& name) {
+  const auto bytes = static_cast<USHORT>(name.size() * sizeof(wchar_t));
+  return {bytes, bytes, name.data()};
+}
+
+OBJECT_ATTRIBUTES HostDirNt::objectOf(UNICODE_STRING& name) {
+  OBJECT_ATTRIBUTES object;
+  InitializeObjectAttributes(&object, &name, OBJ_CASE_INSENSITIVE, folder_.get(), nullptr);
+  return object;
+}
+
+// The empty name opens the folder once more.
+NTSTATUS HostDirNt::open(const std::string& name, ACCESS_MASK rights, ULONG disposition, ULONG options,
+                         NtHandle& opened) {
+  std::wstring wide = wideName(name);
+  UNICODE_STRING text = textOf(wide);
+  OBJECT_ATTRIBUTES object = objectOf(text);
+  IO_STATUS_BLOCK io;
+  return nt().createFile(opened.out(), rights, &object, &io, nullptr, FILE_ATTRIBUTE_NORMAL, ShareAll,
+                         disposition, options | Itself, nullptr, 0);
+}
+
+// Opens what the name stands for, a reparse point as itself, and tells what it is. Wine opens what a link of
+// its host leads to; that is not kept open, and the kind is Link all the same.
+Opened HostDirNt::openKnown(const std::string& name, ACCESS_MASK rights, ULONG disposition, ULONG options) {
+  if (!isPart(name)) return {HostError::BadName, HostKind::Other, NtHandle()};
+  HostStat named;
+  const bool link = stat(name, named) == HostError::None && named.kind == HostKind::Link;
+  NtHandle handle;
+  NTSTATUS status = open(name, rights, disposition, options, handle);
+  FILE_BASIC_INFORMATION facts;
+  if (status >= 0) status = basicFacts(handle, facts);
+  if (status < 0) return {hostError(status), HostKind::Other, NtHandle()};
+  const HostKind kind = hostStat(facts.FileAttributes, {}).kind;
+  if (link && kind != HostKind::Link) return {HostError::None, HostKind::Link, NtHandle()};
+  return {HostError::None, kind, std::move(handle)};
+}
+
+HostError HostDirNt::openDir(const std::string& name, std::unique_ptr<HostDir>& child) {
+  Opened folder = openKnown(name, FolderRights, FILE_OPEN, FILE_DIRECTORY_FILE);
+  if (folder.error != HostError::None) return folder.error;
+  if (folder.kind != HostKind::Folder) return HostError::NotAFolder;
+  child = std::make_unique<HostDirNt>(std::move(folder.handle));
+  return HostError::None;
+}
+
+HostError HostDirNt::list(std::unique_ptr<HostList>& listing) {
+  NtHandle folder;
+  const NTSTATUS status = open("", FolderRights, FILE_OPEN, FILE_DIRECTORY_FILE, folder);
+  if (status >= 0) listing = std::make_unique<HostListNt>(std::move(folder));
+  return hostError(status);
+}
+
+HostError HostDirNt::stat(const std::string& name, HostStat& result) {
+  if (!isPart(name)) return HostError::BadName;
+  std::wstring wide = wideName(name);
+  UNICODE_STRING text = textOf(wide);
+  OBJECT_ATTRIBUTES object = objectOf(text);
+  FILE_NETWORK_OPEN_INFORMATION facts;
+  const NTSTATUS status = nt().queryAttributes(&object, &facts);
+  if (status >= 0) result = hostStat(facts.FileAttributes, facts.EndOfFile);
+  return hostError(status);
+}
+
+HostError HostDirNt::openFile(const std::string& name, HostOpen mode, std::unique_ptr<HostFile>& file) {
+  const ModeRow& row = modes[static_cast<std::size_t>(mode)];
+  Opened opened = openKnown(name, row.rights, row.disposition, FILE_NON_DIRECTORY_FILE);
+  if (opened.error != HostError::None) return opened.error;
+  if (opened.kind != HostKind::File) return HostError::NotAFile;
+  if (mode == HostOpen::Empty) {
+    FILE_END_OF_FILE_INFORMATION end{};
+    const NTSTATUS status = setFacts(opened.handle, &end, sizeof end, FileEndOfFileInformation);
+    if (status < 0) return hostError(status);
+  }
+  file = std::make_unique<HostFileNt>(std::move(opened.handle));
+  return HostError::None;
+}
+
+HostError HostDirNt::removeFile(const std::string& name) {
+  const Opened file = openKnown(name, RemoveRights, FILE_OPEN, 0);
+  if (file.error != HostError::None) return file.error;
+  if (file.kind == HostKind::Folder) return HostError::NotAFile;
+  return file.handle.get() != nullptr ? removeOpened(file.handle) : HostError::NoRights;
+}
+
+HostError HostDirNt::removeDir(const std::string& name) {
+  const Opened folder = openKnown(name, RemoveRights, FILE_OPEN, FILE_DIRECTORY_FILE);
+  if (folder.error != HostError::None) return folder.error;
+  return folder.kind == HostKind::Folder ? removeOpened(folder.handle) : HostError::NotAFolder;
+}
+
+HostError HostDirNt::makeDir(const std::string& name) {
+  if (!isPart(name)) return HostError::BadName;
+  NtHandle made;
+  return hostError(open(name, FolderRights, FILE_CREATE, FILE_DIRECTORY_FILE, made));
+}
+
+HostError HostDirNt::setReadOnly(const std::string& name, bool readOnly) {
+  const Opened file =
+      openKnown(name, FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES | SYNCHRONIZE, FILE_OPEN, 0);
+  if (file.error != HostError::None) return file.error;
+  if (file.kind == HostKind::Folder) return HostError::None;
+  if (file.kind != HostKind::File) return HostError::NotAFile;
+  FILE_BASIC_INFORMATION facts;
+  const NTSTATUS status = basicFacts(file.handle, facts);
+  if (status < 0) return hostError(status);
+  FILE_BASIC_INFORMATION changed{};  // a time of 0 stays as it is, attributes of 0 do too
+  changed.FileAttributes = facts.FileAttributes & ~ULONG{FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_NORMAL};
+  if (readOnly) changed.FileAttributes |= FILE_ATTRIBUTE_READONLY;
+  if (changed.FileAttributes == 0) changed.FileAttributes = FILE_ATTRIBUTE_NORMAL;
+  return hostError(setFacts(file.handle, &changed, sizeof changed, FileBasicInformation));
+}
+
+HostError HostDirNt::rename(const std::string& from, const std::string& to) {
+  if (!isPart(to)) return HostError::BadName;
+  const Opened file = openKnown(from, RemoveRights, FILE_OPEN, 0);
+  if (file.error != HostError::None) return file.error;
+  const std::wstring name = wideName(to);
+  const std::size_t size = sizeof(FILE_RENAME_INFORMATION) + name.size() * sizeof(wchar_t);
+  std::vector<ULONGLONG> room(size / sizeof(ULONGLONG) + 1);  // aligned as the record wants it
+  auto* facts = reinterpret_cast<FILE_RENAME_INFORMATION*>(room.data());
+  facts->ReplaceIfExists = TRUE;
+  facts->RootDirectory = folder_.get();
+  facts->FileNameLength = static_cast<ULONG>(name.size() * sizeof(wchar_t));
+  name.copy(facts->FileName, name.size());
+  return hostError(setFacts(file.handle, facts, size, FileRenameInformation));
+}
+
+// By a named object of the system that goes with its last handle, however the process ends.
+HostError HostDirNt::take() {
+  BY_HANDLE_FILE_INFORMATION facts;
+  if (GetFileInformationByHandle(folder_.get(), &facts) == 0) return HostError::DeviceFailure;
+  char name[64];
+  std::snprintf(name, sizeof name, "Global\\Zubrane folder %lx %lx %lx", facts.dwVolumeSerialNumber,
+                facts.nFileIndexHigh, facts.nFileIndexLow);
+  NtHandle taken(CreateMutexA(nullptr, FALSE, name));
+  if (taken.get() == nullptr || GetLastError() == ERROR_ALREADY_EXISTS) return HostError::InUse;
+  taken_ = std::move(taken);
+  return HostError::None;
+}
+
+}  // namespace
+
+std::unique_ptr<HostDir> openHostDir(const std::string& path) {
+  if (!nt().complete()) return nullptr;
+  const HANDLE opened = CreateFileW(wideName(path).c_str(), FolderRights, ShareAll, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (opened == INVALID_HANDLE_VALUE) return nullptr;
+  NtHandle folder(opened);
+  FILE_BASIC_INFORMATION facts;
+  if (basicFacts(folder, facts) < 0 || (facts.FileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return nullptr;
+  return std::make_unique<HostDirNt>(std::move(folder));
+}
+
+}  // namespace zub

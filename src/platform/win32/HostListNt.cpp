@@ -1,0 +1,39 @@
+#include "platform/win32/HostListNt.h"
+
+namespace zub {
+
+HostStat hostStat(ULONG attributes, LARGE_INTEGER size) {
+  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) return {HostKind::Link, false, 0};
+  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return {HostKind::Folder, false, 0};
+  return {HostKind::File, (attributes & FILE_ATTRIBUTE_READONLY) != 0,
+          static_cast<std::uint64_t>(size.QuadPart)};
+}
+
+bool HostListNt::fill() {
+  IO_STATUS_BLOCK io;
+  const NTSTATUS status = nt().queryDirectory(folder_.get(), nullptr, nullptr, nullptr, &io, buffer_.data(),
+                                              static_cast<ULONG>(buffer_.size() * sizeof(ULONGLONG)),
+                                              FileDirectoryInformation, FALSE, nullptr, FALSE);
+  if (status < 0 || io.Information == 0) return false;
+  record_ = reinterpret_cast<const FILE_DIRECTORY_INFORMATION*>(buffer_.data());
+  return true;
+}
+
+bool HostListNt::next(HostEntry& entry) {
+  while (record_ != nullptr || fill()) {
+    const FILE_DIRECTORY_INFORMATION& record = *record_;
+    record_ = record.NextEntryOffset == 0
+                  ? nullptr
+                  : reinterpret_cast<const FILE_DIRECTORY_INFORMATION*>(
+                        reinterpret_cast<const char*>(&record) + record.NextEntryOffset);
+    const std::wstring_view name(record.FileName, record.FileNameLength / sizeof(wchar_t));
+    if (name == L"." || name == L"..") continue;
+    setName(entry.name, name.data(), name.size());
+    entry.stat = hostStat(record.FileAttributes, record.EndOfFile);
+    entry.complete = true;
+    return true;
+  }
+  return false;
+}
+
+}  // namespace zub

@@ -1,0 +1,58 @@
+// The file calls of the NT family that work relative to an open folder. They are looked up when they are
+// first needed: the 9x family lacks them.
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "platform/folder/HostDir.h"
+#include "platform/win32/WindowsHeader.h"
+
+namespace zub {
+
+struct NtCalls {
+  decltype(&::NtCreateFile) createFile;
+  NTSTATUS(NTAPI* queryInformation)(HANDLE, IO_STATUS_BLOCK*, void*, ULONG, FILE_INFORMATION_CLASS);
+  NTSTATUS(NTAPI* setInformation)(HANDLE, IO_STATUS_BLOCK*, void*, ULONG, FILE_INFORMATION_CLASS);
+  NTSTATUS(NTAPI* queryAttributes)(OBJECT_ATTRIBUTES*, FILE_NETWORK_OPEN_INFORMATION*);
+  NTSTATUS(NTAPI* queryDirectory)
+  (HANDLE, HANDLE, void*, void*, IO_STATUS_BLOCK*, void*, ULONG, FILE_INFORMATION_CLASS, BOOLEAN,
+   UNICODE_STRING*, BOOLEAN);
+  NTSTATUS(NTAPI* read)
+  (HANDLE, HANDLE, void*, void*, IO_STATUS_BLOCK*, void*, ULONG, LARGE_INTEGER*, ULONG*);
+  NTSTATUS(NTAPI* write)
+  (HANDLE, HANDLE, void*, void*, IO_STATUS_BLOCK*, const void*, ULONG, LARGE_INTEGER*, ULONG*);
+  NTSTATUS(NTAPI* flush)(HANDLE, IO_STATUS_BLOCK*);
+
+  bool complete() const;
+};
+
+const NtCalls& nt();
+
+HostError hostError(NTSTATUS status);
+
+// Host names are UTF-8 outside, UTF-16 in the calls.
+std::wstring wideName(const std::string& name);
+void setName(std::string& name, const wchar_t* wide, std::size_t length);
+
+// Closes a handle of the system when the scope ends.
+class NtHandle {
+ public:
+  NtHandle() = default;
+  explicit NtHandle(HANDLE handle) : handle_(handle) {}
+  NtHandle(NtHandle&& other) noexcept : handle_(other.handle_) { other.handle_ = nullptr; }
+  NtHandle& operator=(NtHandle&& other) noexcept {
+    std::swap(handle_, other.handle_);
+    return *this;
+  }
+  ~NtHandle() {
+    if (handle_ != nullptr) CloseHandle(handle_);
+  }
+  HANDLE get() const { return handle_; }
+  HANDLE* out() { return &handle_; }
+
+ private:
+  HANDLE handle_ = nullptr;
+};
+
+}  // namespace zub

@@ -1,0 +1,47 @@
+#include "platform/win32/Win32Error.h"
+
+namespace zub {
+namespace {
+
+struct Row {
+  DWORD systemError;
+  ErrorNumber number;
+};
+
+constexpr Row table[] = {
+    {ERROR_FILE_NOT_FOUND, ErrorNumber::FileNotFound},
+    {ERROR_PATH_NOT_FOUND, ErrorNumber::PathNotFound},
+    {ERROR_INVALID_DRIVE, ErrorNumber::PathNotFound},
+    {ERROR_DIRECTORY, ErrorNumber::PathNotFound},
+    {ERROR_BAD_NETPATH, ErrorNumber::PathNotFound},
+    {ERROR_TOO_MANY_OPEN_FILES, ErrorNumber::TooManyFiles},
+    {ERROR_ACCESS_DENIED, ErrorNumber::PathFileAccess},
+    {ERROR_FILE_EXISTS, ErrorNumber::PathFileAccess},
+    {ERROR_ALREADY_EXISTS, ErrorNumber::PathFileAccess},
+    {ERROR_WRITE_PROTECT, ErrorNumber::PermissionDenied},
+    {ERROR_SHARING_VIOLATION, ErrorNumber::PermissionDenied},
+    {ERROR_LOCK_VIOLATION, ErrorNumber::PermissionDenied},
+    {ERROR_NOT_READY, ErrorNumber::DiskNotReady},
+    {ERROR_DISK_FULL, ErrorNumber::DiskFull},
+    {ERROR_HANDLE_DISK_FULL, ErrorNumber::DiskFull},
+    {ERROR_INVALID_NAME, ErrorNumber::BadFileName},
+    {ERROR_BAD_PATHNAME, ErrorNumber::BadFileName},
+    {ERROR_CRC, ErrorNumber::DeviceIo},
+    {ERROR_SECTOR_NOT_FOUND, ErrorNumber::DeviceIo},
+    {ERROR_IO_DEVICE, ErrorNumber::DeviceIo},
+};
+
+}  // namespace
+
+ErrorNumber errorNumberOf(DWORD systemError) {
+  for (const Row& row : table) {
+    if (row.systemError == systemError) return row.number;
+  }
+  return ErrorNumber::PathFileAccess;
+}
+
+void throwLastError() {
+  throw RuntimeError(errorNumberOf(GetLastError()));
+}
+
+}  // namespace zub

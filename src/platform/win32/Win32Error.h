@@ -1,0 +1,13 @@
+// Failures of the system's calls as run-time errors.
+#pragma once
+
+#include "base/RuntimeError.h"
+#include "platform/win32/WindowsHeader.h"
+
+namespace zub {
+
+ErrorNumber errorNumberOf(DWORD systemError);
+// Throws what the last call of this thread failed with.
+[[noreturn]] void throwLastError();
+
+}  // namespace zub

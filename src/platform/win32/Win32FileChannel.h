@@ -1,0 +1,38 @@
+// An open file with a write-behind buffer. A reparse point is opened as itself and is empty.
+#pragma once
+
+#include "platform/Files.h"
+#include "platform/win32/WindowsHeader.h"
+
+namespace zub {
+
+// Opens as the mode says; `makes` false: never makes a missing file. Throws.
+HANDLE openFile(const char* path, OpenMode mode, bool makes);
+// 0 for a reparse point.
+std::int64_t lengthOf(HANDLE file);
+
+class Win32FileChannel : public FileChannel {
+ public:
+  explicit Win32FileChannel(HANDLE file) : file_(file) {}
+  Win32FileChannel(const Win32FileChannel&) = delete;
+  Win32FileChannel& operator=(const Win32FileChannel&) = delete;
+  ~Win32FileChannel() override;
+
+  std::int64_t length() override;
+  void seek(std::int64_t offset) override;
+  std::size_t read(std::span<char> buffer) override;
+  void write(std::string_view bytes) override;
+  void close() override;
+  void closeOnDisk() override;
+
+ private:
+  bool give(std::string_view bytes);
+  void flush();
+  bool finish(bool onDisk);
+
+  HANDLE file_;
+  std::string kept_;    // written by the program, not yet given to the system
+  bool given_ = false;  // something was given
+};
+
+}  // namespace zub

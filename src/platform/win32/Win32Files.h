@@ -1,0 +1,23 @@
+// The PC's own files. Names that the ANSI code page cannot write go by their short form, where they have one.
+#pragma once
+
+#include "platform/Files.h"
+
+namespace zub {
+
+class Win32Files : public Files {
+ public:
+  std::unique_ptr<FileSearch> find(std::string_view path) override;
+  std::uint32_t attributes(std::string_view path) override;
+  void resetAttributes(std::string_view path) override;
+  std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override;
+  std::int64_t openedLength(std::string_view path) override;
+  void remove(std::string_view path) override;
+  bool fileExists(std::string_view path) override;
+  bool folderExists(std::string_view path) override;
+  void createFolder(std::string_view path) override;
+  void deleteFolder(std::string_view path) override;
+  std::string shortPath(std::string_view path) override;
+};
+
+}  // namespace zub

@@ -1,0 +1,18 @@
+// The system's message box.
+#pragma once
+
+#include "platform/Services.h"
+#include "platform/win32/OwnerWindow.h"
+
+namespace zub {
+
+class Win32Messages : public Messages {
+ public:
+  explicit Win32Messages(OwnerWindow owner) : owner_(std::move(owner)) {}
+  void show(std::string_view prompt, int style, std::string_view title) override;
+
+ private:
+  OwnerWindow owner_;
+};
+
+}  // namespace zub

@@ -1,0 +1,51 @@
+#include "platform/win32/Win32Shell.h"
+
+#include "base/RuntimeError.h"
+#include "platform/win32/LoadedCall.h"
+
+namespace zub {
+
+// The recycle bin's calls came with Internet Explorer 4; where they are missing the program starts all the
+// same.
+std::int32_t Win32Shell::emptyRecycleBin(std::uint32_t flags) {
+  const auto call = loadedCall<HRESULT(WINAPI*)(HWND, LPCSTR, DWORD)>("shell32.dll", "SHEmptyRecycleBinA");
+  return call != nullptr ? call(nullptr, "", flags) : E_NOTIMPL;
+}
+
+void Win32Shell::updateRecycleBinIcon() {
+  const auto call = loadedCall<HRESULT(WINAPI*)()>("shell32.dll", "SHUpdateRecycleBinIcon");
+  if (call != nullptr) call();
+}
+
+void Win32Shell::open(std::string_view document) {
+  ShellExecuteA(static_cast<HWND>(owner_()), "open", std::string(document).c_str(), nullptr, nullptr,
+                SW_SHOWNORMAL);
+}
+
+void Win32Shell::start(std::string_view program) {
+  std::string line = '"' + std::string(program) + '"';
+  STARTUPINFOA startup{};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process;
+  if (CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                     &process) == 0)
+    throw RuntimeError(ErrorNumber::FileNotFound);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+}
+
+FolderPick Win32Shell::browseForFolder(std::string_view prompt) {
+  const std::string title(prompt);
+  BROWSEINFOA browse{};
+  browse.lpszTitle = title.c_str();
+  FolderPick pick;
+  LPITEMIDLIST item = SHBrowseForFolderA(&browse);
+  if (item == nullptr) return pick;
+  pick.chosen = true;
+  char path[MAX_PATH];
+  if (SHGetPathFromIDListA(item, path) != 0) pick.path = path;
+  CoTaskMemFree(item);
+  return pick;
+}
+
+}  // namespace zub

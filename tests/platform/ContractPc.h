@@ -1,0 +1,75 @@
+// The PCs that the contract suite runs on. Each case is a template over them:
+//   TEST_CASE_TEMPLATE("...", Pc, CONTRACT_PCS) { Pc pc; ... }
+// and every PC has
+//   Platform& platform();
+//   std::string folder();                   an empty scratch folder, by its full path without a backslash
+//   behind std::string key();                      a path below HKEY_CURRENT_USER where no key is yet
+//   std::string task();                     a name that no task has yet
+//   void file(path, bytes);                 makes a file, not by the platform
+//   std::string bytes(path);                what is in it, not by the platform
+//   void readOnly(path);                    gives it the read-only attribute
+//   void lock(path); void unlock(path);     as another program would hold it
+//   bool link(path, folder);                makes a link to a folder; false where this PC can make none
+//   bool deviates(name);                    this PC breaks the contract in a way that is listed by this name
+#pragma once
+
+#include <doctest/doctest.h>
+
+#include <string>
+#include <string_view>
+
+#include "base/RuntimeError.h"
+#include "support/TestPc.h"
+
+#ifdef _WIN32
+#include "platform/Win32ContractPc.h"
+#endif
+
+namespace zub {
+
+class FolderContractPc {
+ public:
+  explicit FolderContractPc(const char* family) : pc_({std::string("family = ") + family}) {
+    pc_.folder(folder());
+  }
+  Platform& platform() { return pc_.platform(); }
+  std::string folder() const { return "C:\\Scratch"; }
+  std::string key() const { return "Software\\ZubraneTest"; }
+  std::string task() const { return "ZubraneTest"; }
+  void file(const std::string& path, std::string_view bytes) { pc_.file(path, bytes); }
+  std::string bytes(const std::string& path) const { return pc_.bytes(path); }
+  void readOnly(const std::string& path) { pc_.readOnly(path); }
+  void lock(const std::string& path) { pc_.lock(path); }
+  void unlock(const std::string& path) { pc_.unlock(path); }
+  bool link(const std::string& path, const std::string& target);
+  bool deviates(std::string_view) const { return false; }
+
+ private:
+  TestPc pc_;
+};
+
+struct FolderPc9x : FolderContractPc {
+  FolderPc9x() : FolderContractPc("9x") {}
+};
+struct FolderPcNt : FolderContractPc {
+  FolderPcNt() : FolderContractPc("nt") {}
+};
+
+#ifdef _WIN32
+#define CONTRACT_PCS FolderPc9x, FolderPcNt, Win32ContractPc
+#else
+#define CONTRACT_PCS FolderPc9x, FolderPcNt
+#endif
+
+// The number of the error that the call fails with; 0 where it does not fail.
+template <class Call>
+int failure(Call call) {
+  try {
+    call();
+  } catch (const RuntimeError& error) {
+    return static_cast<int>(error.number());
+  }
+  return 0;
+}
+
+}  // namespace zub

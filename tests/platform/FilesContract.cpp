@@ -1,0 +1,318 @@
+#include <algorithm>
+#include <vector>
+
+#include "base/Text.h"
+#include "platform/ContractPc.h"
+
+namespace zub {
+namespace {
+
+// The names that a search tells, sorted, without "." and "..", joined by blanks and commas; "null" for none.
+std::string found(Files& files, const std::string& pattern) {
+  const auto search = files.find(pattern);
+  if (!search) return "null";
+  std::vector<std::string> names;
+  FoundFile entry;
+  while (search->next(entry)) {
+    if (entry.name != "." && entry.name != "..") names.push_back(entry.name);
+  }
+  std::ranges::sort(names);
+  std::string text;
+  for (const std::string& name : names) text += text.empty() ? name : ", " + name;
+  return text;
+}
+
+std::string contentByPieces(FileChannel& channel, std::size_t piece) {
+  std::string content;
+  std::string buffer(piece, '\0');
+  while (const std::size_t count = channel.read(buffer)) content += buffer.substr(0, count);
+  return content;
+}
+
+}  // namespace
+
+TEST_CASE_TEMPLATE("files: wildcards find what Windows finds", Pc, CONTRACT_PCS) {
+  Pc pc;
+  const std::string base = pc.folder() + '\\';
+  for (const char* name : {"a.tmp", "B.TMP", "cc.tmp", "Trash", "Trash.txt", "x y.old", "two.dots.tmp"})
+    pc.file(base + name, "x");
+  pc.platform().files.createFolder(base + "Sub");
+  const std::string all = "B.TMP, Sub, Trash, Trash.txt, a.tmp, cc.tmp, two.dots.tmp, x y.old";
+  const struct {
+    const char* pattern;
+    std::string expected;
+  } rows[] = {
+      {"*.*", all},
+      {"*", all},
+      {"*.tmp", "B.TMP, a.tmp, cc.tmp, two.dots.tmp"},
+      {"*.tmp ", "B.TMP, a.tmp, cc.tmp, two.dots.tmp"},
+      {"*.TMP", "B.TMP, a.tmp, cc.tmp, two.dots.tmp"},
+      {"?.tmp", "B.TMP, a.tmp"},
+      {"Trash.", "Trash"},
+      {"trash.*", "Trash, Trash.txt"},
+      {"*.", "Sub, Trash"},
+      {"Trash.txt", "Trash.txt"},
+      {"Trash.txt  ", "Trash.txt"},
+      {"x y.*", "x y.old"},
+      {"*dots*", "two.dots.tmp"},
+      {"sub", "Sub"},
+      {"*.none", "null"},
+      {"a.tm", "null"},
+      {"missing\\*.*", "null"},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(std::string(row.pattern));
+    if (row.pattern == std::string("*.") && pc.deviates("star dot")) continue;
+    CHECK(found(pc.platform().files, base + row.pattern) == row.expected);
+  }
+}
+
+TEST_CASE_TEMPLATE("files: a search tells sizes and attributes, and files may go meanwhile", Pc,
+                   CONTRACT_PCS) {
+  Pc pc;
+  Files& files = pc.platform().files;
+  const std::string base = pc.folder() + '\\';
+  pc.file(base + "some.bin", std::string(70000, 'x'));
+  pc.readOnly(base + "some.bin");
+  FoundFile entry;
+  const auto one = files.find(base + "SOME.*");
+  REQUIRE(one);
+  REQUIRE(one->next(entry));
+  CHECK(entry.name == "some.bin");
+  CHECK(entry.nFileSizeHigh == 0);
+  CHECK(entry.nFileSizeLow == 70000);
+  CHECK((entry.attributes & (attribute::ReadOnly | attribute::Directory)) == attribute::ReadOnly);
+  CHECK_FALSE(one->next(entry));
+  CHECK_FALSE(one->next(entry));
+
+  for (int number = 0; number < 300; ++number) pc.file(base + std::to_string(number) + ".dat", "x");
+  const auto search = files.find(base + "*.dat");
+  REQUIRE(search);
+  while (search->next(entry)) files.remove(base + entry.name);
+  CHECK(found(files, base + "*.*") == "some.bin");
+}
+
+TEST_CASE_TEMPLATE("files: paths are found without case, with doubled backslashes, from here", Pc,
+                   CONTRACT_PCS) {
+  Pc pc;
+  Files& files = pc.platform().files;
+  files.createFolder(pc.folder() + "\\Inner");
+  pc.file(pc.folder() + "\\Inner\\File.Txt", "12345");
+  for (const char* path : {"\\inner\\FILE.TXT", "\\\\INNER\\\\file.txt"}) {
+    CHECK(files.fileExists(pc.folder() + path));
+    CHECK(files.openedLength(pc.folder() + path) == 5);
+  }
+  CHECK(found(files, pc.folder() + "\\*") == "Inner");  // as written
+
+  const std::string here = pc.platform().folders.current();
+  files.open("Relative.txt", OpenMode::Output)->write("here");
+  CHECK(pc.bytes(JoinPath(here, "Relative.txt")) == "here");
+  CHECK(files.fileExists(JoinPath(here, "relative.TXT").substr(2)));  // on the current drive
+}
+
+TEST_CASE_TEMPLATE("files: what is a file and what is a folder", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Files& files = pc.platform().files;
+  pc.file(pc.folder() + "\\file", "x");
+  const std::string drive = pc.folder().substr(0, 2);
+  const struct {
+    std::string path;
+    bool file;
+    bool folder;
+  } rows[] = {
+      {pc.folder() + "\\file", true, false},
+      {pc.folder(), false, true},
+      {pc.folder() + '\\', false, true},
+      {drive + '\\', false, true},
+      {pc.folder() + "\\missing", false, false},
+      {pc.folder() + "\\missing\\file", false, false},
+      {pc.folder() + "\\file\\below", false, false},
+      {"B:\\file", false, false},
+      {"", false, false},
+      {pc.folder() + "\\f*", false, false},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.path);
+    CHECK(files.fileExists(row.path) == row.file);
+    CHECK(files.folderExists(row.path) == row.folder);
+    const std::uint32_t bits = files.attributes(row.path);
+    CHECK((bits == attribute::Invalid) == (!row.file && !row.folder));
+    if (bits != attribute::Invalid) CHECK(((bits & attribute::Directory) != 0) == row.folder);
+  }
+}
+
+TEST_CASE_TEMPLATE("files: every failure has its number", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Files& files = pc.platform().files;
+  const std::string base = pc.folder() + '\\';
+  files.createFolder(base + "folder");
+  pc.file(base + "plain", "x");
+  pc.file(base + "readonly", "x");
+  pc.readOnly(base + "readonly");
+  pc.file(base + "locked", "x");
+  pc.lock(base + "locked");
+  enum { None, Reset, Length, Binary, Input, Output, Remove, Make, DeleteTree };
+  const struct {
+    const char* name;
+    int expected[9];  // by call; 0 for success, -1 for what is not tried
+  } rows[] = {
+      //  name                -  reset len bin  in  out  rem make tree
+      {"missing", {-1, 53, 53, -1, 53, -1, 53, -1, 76}},
+      {"nowhere\\file", {-1, 53, 76, 76, 76, 76, 76, 76, 76}},
+      {"folder", {-1, -1, 75, 75, 75, 75, 75, 75, -1}},
+      {"plain", {-1, -1, 0, 0, 0, -1, -1, 75, 76}},
+      {"readonly", {-1, -1, 75, 75, 0, 75, 75, 75, 76}},
+      {"locked", {-1, -1, 70, 70, 70, 70, 70, 75, 76}},
+      {"a|b", {-1, 53, 52, 52, 52, 52, 52, 52, 76}},
+      {"a*b", {-1, 53, 52, 52, 52, 52, 52, 52, 76}},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(std::string(row.name));
+    const std::string path = base + row.name;
+    const auto fails = [&](int call, auto action) {
+      CAPTURE(call);
+      const bool writes = call == Length || call == Binary || call == Output;
+      if (writes && row.name == std::string("readonly") && pc.deviates("read-only")) return;
+      if (row.expected[call] >= 0) CHECK(failure(action) == row.expected[call]);
+    };
+    fails(Reset, [&] { files.resetAttributes(path); });
+    fails(Length, [&] { files.openedLength(path); });
+    fails(Binary, [&] { files.open(path, OpenMode::Binary); });
+    fails(Input, [&] { files.open(path, OpenMode::Input); });
+    fails(Output, [&] { files.open(path, OpenMode::Output); });
+    fails(Remove, [&] { files.remove(path); });
+    fails(Make, [&] { files.createFolder(path); });
+    fails(DeleteTree, [&] { files.deleteFolder(path); });
+  }
+  const int noDrive = pc.deviates("missing drive") ? 53 : 76;
+  CHECK(failure([&] { files.openedLength("B:\\file"); }) == noDrive);
+  CHECK(failure([&] { files.remove("B:\\file"); }) == noDrive);
+  CHECK(failure([&] { files.resetAttributes("B:\\file"); }) == 53);
+  CHECK(found(files, base + "*") == "folder, locked, plain, readonly");  // nothing came or went
+
+  files.resetAttributes(base + "readonly");
+  CHECK(failure([&] { files.remove(base + "readonly"); }) == 0);
+  pc.unlock(base + "locked");
+  CHECK(failure([&] { files.remove(base + "locked"); }) == 0);
+  CHECK(found(files, base + "*") == "folder, plain");
+}
+
+TEST_CASE_TEMPLATE("files: each mode opens what it is for", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Files& files = pc.platform().files;
+  const std::string path = pc.folder() + "\\File.dat";
+  files.open(path, OpenMode::Binary);
+  CHECK(pc.bytes(path).empty());
+  files.open(path, OpenMode::Output)->write("0123456789");
+  CHECK(pc.bytes(path) == "0123456789");
+  {
+    const auto channel = files.open(path, OpenMode::Binary);
+    CHECK(channel->length() == 10);
+    channel->seek(3);
+    channel->write("AB");
+    std::string rest(4, '\0');
+    CHECK(channel->read(rest) == 4);  // goes on behind what was written
+    CHECK(rest == "5678");
+    channel->seek(0);
+    CHECK(contentByPieces(*channel, 4) == "012AB56789");
+    channel->write("end");
+    CHECK(channel->length() == 13);  // counts what was kept back
+    channel->close();
+    channel->close();
+  }
+  CHECK(pc.bytes(path) == "012AB56789end");
+  CHECK(contentByPieces(*files.open(path, OpenMode::Input), 100) == "012AB56789end");
+  files.open(path, OpenMode::Output);
+  CHECK(pc.bytes(path).empty());
+}
+
+TEST_CASE_TEMPLATE("files: what is written in pieces arrives whole", Pc, CONTRACT_PCS) {
+  Pc pc;
+  const std::string path = pc.folder() + "\\big.dat";
+  std::string expected(300000, 'o');
+  pc.file(path, expected);
+  const auto channel = pc.platform().files.open(path, OpenMode::Binary);
+  const auto overwrite = [&](std::size_t place, std::size_t piece, int times, char letter) {
+    channel->seek(static_cast<std::int64_t>(place));
+    for (int time = 0; time < times; ++time) channel->write(std::string(piece, letter));
+    const std::size_t size = piece * static_cast<std::size_t>(times);
+    expected.replace(place, size, size, letter);
+  };
+  overwrite(0, 1024, 200, 'a');
+  overwrite(1000, 100000, 1, 'b');  // more than is ever kept back
+  overwrite(65536, 65536, 1, 'c');
+  overwrite(299990, 7, 10, 'd');  // across the end
+  channel->closeOnDisk();
+  CHECK(pc.bytes(path) == expected);
+}
+
+TEST_CASE_TEMPLATE("files: a folder goes with all that it holds", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Files& files = pc.platform().files;
+  const std::string base = pc.folder() + '\\';
+  for (const char* folder : {"tree", "tree\\a", "tree\\a\\deep", "tree\\b", "beside"})
+    files.createFolder(base + folder);
+  for (const char* file : {"tree\\1", "tree\\a\\2", "tree\\a\\deep\\3", "beside\\kept"})
+    pc.file(base + file, "x");
+  pc.readOnly(base + "tree\\a\\deep\\3");
+  pc.file(base + "tree\\b\\held", "x");
+  pc.lock(base + "tree\\b\\held");
+  CHECK(failure([&] { files.deleteFolder(base + "tree"); }) == 70);
+  CHECK(files.fileExists(base + "tree\\b\\held"));
+  pc.unlock(base + "tree\\b\\held");
+  files.deleteFolder(base + "TREE\\");
+  CHECK(found(files, base + "*") == "beside");
+  CHECK(files.fileExists(base + "beside\\kept"));
+}
+
+TEST_CASE_TEMPLATE("files: a link to a folder is an empty file, never a way in", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Files& files = pc.platform().files;
+  const std::string base = pc.folder() + '\\';
+  files.createFolder(base + "target");
+  pc.file(base + "target\\kept", "x");
+  files.createFolder(base + "empty");
+  files.createFolder(base + "tree");
+  if (!pc.link(base + "link", base + "target") || !pc.link(base + "tree\\link", base + "empty")) {
+    MESSAGE("this PC cannot make a link");
+    return;
+  }
+  CHECK((files.attributes(base + "link") & attribute::Directory) == 0);
+  CHECK_FALSE(files.folderExists(base + "link"));
+  const auto search = files.find(base + "link");
+  REQUIRE(search);
+  FoundFile entry;
+  REQUIRE(search->next(entry));
+  CHECK((entry.attributes & attribute::Directory) == 0);
+  CHECK(entry.nFileSizeLow == 0);
+  CHECK(failure([&] { files.deleteFolder(base + "link"); }) == 76);
+  if (pc.deviates("link")) {
+    CHECK(failure([&] { files.openedLength(base + "link"); }) == 75);
+    CHECK(failure([&] { files.remove(base + "link"); }) == 75);
+    CHECK(failure([&] { files.deleteFolder(base + "tree"); }) == 75);
+  } else {
+    CHECK(files.openedLength(base + "link") == 0);
+    files.deleteFolder(base + "tree");
+    files.resetAttributes(base + "link");
+    files.remove(base + "link");
+    CHECK(found(files, base + "*") == "empty, target");
+  }
+  CHECK(files.fileExists(base + "target\\kept"));
+  CHECK(files.folderExists(base + "empty"));
+}
+
+TEST_CASE_TEMPLATE("files: the short path of a file is in 8.3 and leads to it", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Files& files = pc.platform().files;
+  const std::string path = pc.folder() + "\\a long file name.text";
+  pc.file(path, "1234567");
+  const std::string shortPath = files.shortPath(path);
+  REQUIRE_FALSE(shortPath.empty());
+  CHECK(files.openedLength(shortPath) == 7);
+  const std::string_view name = lastPathPart(shortPath);
+  CHECK(name.size() <= 12);
+  CHECK(name.find(' ') == std::string_view::npos);
+  CHECK(files.shortPath(pc.folder() + "\\missing").empty());
+}
+
+}  // namespace zub

@@ -1,0 +1,251 @@
+#include <algorithm>
+#include <vector>
+
+#include "platform/ContractPc.h"
+
+namespace zub {
+namespace {
+
+// The scratch key, open, with shorter calls.
+struct Scratch {
+  template <class Pc>
+  explicit Scratch(Pc& pc) : registry(pc.platform().registry), path(pc.key()), key(registry) {
+    REQUIRE(key.create(Hive::CurrentUser, path, access::All) == status::Success);
+  }
+
+  RegistryStatus set(std::string_view name, std::uint32_t kind, std::string_view data) {
+    return registry.set(key.get(), name, kind,
+                        {reinterpret_cast<const std::uint8_t*>(data.data()), data.size()});
+  }
+  RegistryStatus make(std::string_view below) {
+    OpenKey made(registry);
+    return made.create(Hive::CurrentUser, path + '\\' + std::string(below), access::All);
+  }
+  bool has(std::string_view below) {
+    OpenKey opened(registry);
+    return opened.open(Hive::CurrentUser, path + '\\' + std::string(below), access::All) == status::Success;
+  }
+  RegistryStatus query(std::string_view name, std::uint32_t room = 1024) {
+    length = room;
+    return registry.query(key.get(), name, type, buffer, length);
+  }
+  std::string data() const { return {reinterpret_cast<const char*>(buffer), length}; }
+  std::vector<RegistryStatus> deleteValues(std::vector<std::string> names) {
+    std::vector<RegistryStatus> results;
+    for (const std::string& name : names) results.push_back(registry.deleteValue(key.get(), name));
+    return results;
+  }
+  std::vector<std::string> subkeys() {
+    std::vector<std::string> names;
+    char name[256];
+    for (std::uint32_t index = 0; index < 100; ++index) {
+      std::uint32_t size = sizeof name;
+      const RegistryStatus result = registry.enumKey(key.get(), index, name, size);
+      if (result == status::NoMoreItems) return names;
+      REQUIRE(result == status::Success);
+      CHECK(std::string(name).size() == size);
+      names.emplace_back(name);
+    }
+    return names;
+  }
+  std::vector<std::string> values() {
+    std::vector<std::string> names;
+    char name[256];
+    for (std::uint32_t index = 0; index < 100; ++index) {
+      std::uint32_t size = sizeof name;
+      length = sizeof buffer;
+      const RegistryStatus result = registry.enumValue(key.get(), index, name, size, type, buffer, length);
+      if (result == status::NoMoreItems) return names;
+      REQUIRE(result == status::Success);
+      CHECK(std::string(name).size() == size);
+      names.emplace_back(std::string(name) + '=' + data());
+    }
+    return names;
+  }
+
+  Registry& registry;
+  std::string path;
+  OpenKey key;
+  std::uint32_t type = 0;
+  std::uint32_t length = 0;
+  std::uint8_t buffer[1024] = {};
+};
+
+std::vector<std::string> sorted(std::vector<std::string> names) {
+  std::ranges::sort(names);
+  return names;
+}
+
+}  // namespace
+
+TEST_CASE_TEMPLATE("registry: a key is opened, made with its parents, and refused", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Registry& registry = pc.platform().registry;
+  const RegistryKey user = registry.hive(Hive::CurrentUser);
+  RegistryKey key = 77;
+  CHECK(registry.open(user, pc.key(), access::All, key) == status::FileNotFound);
+  CHECK(key == 77);
+  REQUIRE(registry.create(user, pc.key() + "\\One\\Two", access::All, key) == status::Success);
+  CHECK(registry.close(key) == status::Success);
+  // Names have no case; making what is there opens it with what it holds; the empty path is the key itself.
+  RegistryKey parent = 0;
+  REQUIRE(registry.open(user, pc.key() + "\\ONE", access::All, parent) == status::Success);
+  CHECK(registry.set(parent, "kept", 1, {}) == status::Success);
+  RegistryKey same = 0;
+  REQUIRE(registry.create(user, pc.key() + "\\one", access::All, same) == status::Success);
+  RegistryKey itself = 0;
+  REQUIRE(registry.open(same, "", access::All, itself) == status::Success);
+  CHECK(registry.deleteValue(itself, "KEPT") == status::Success);
+  CHECK(registry.deleteKey(itself, "Two") == status::Success);
+  for (const RegistryKey opened : {parent, same, itself}) CHECK(registry.close(opened) == status::Success);
+}
+
+TEST_CASE_TEMPLATE("registry: no key is an invalid handle for every call", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Registry& registry = pc.platform().registry;
+  CHECK(registry.hive(Hive::None) == 0);
+  RegistryKey key = 0;
+  char name[16] = "";
+  std::uint8_t data[16];
+  std::uint32_t type = 0;
+  std::uint32_t length = sizeof name;
+  std::uint32_t dataLength = sizeof data;
+  CHECK(registry.open(0, "Software", access::All, key) == status::InvalidHandle);
+  CHECK(registry.create(0, "Software", access::All, key) == status::InvalidHandle);
+  CHECK(registry.enumKey(0, 0, name, length) == status::InvalidHandle);
+  CHECK(registry.enumValue(0, 0, name, length, type, data, dataLength) == status::InvalidHandle);
+  CHECK(registry.query(0, "x", type, data, dataLength) == status::InvalidHandle);
+  CHECK(registry.set(0, "x", 1, {}) == status::InvalidHandle);
+  CHECK(registry.deleteValue(0, "x") == status::InvalidHandle);
+  CHECK(registry.deleteKey(0, "x") == status::InvalidHandle);
+  CHECK(registry.close(0) == status::InvalidHandle);
+}
+
+TEST_CASE_TEMPLATE("registry: subkeys are told as written, in a standing order, to the end", Pc,
+                   CONTRACT_PCS) {
+  Pc pc;
+  Scratch scratch(pc);
+  const std::vector<std::string> written = {"Alpha", "beta", "gAMMA", "delta x"};
+  for (const std::string& name : written) CHECK(scratch.make(name) == status::Success);
+  CHECK(scratch.make("ALPHA\\below") == status::Success);  // found, not made anew
+  const std::vector<std::string> names = scratch.subkeys();
+  CHECK(sorted(names) == sorted(written));
+  CHECK(scratch.subkeys() == names);
+
+  char name[256] = "untouched";
+  for (const std::uint32_t index : {4u, 16000u}) {
+    std::uint32_t length = sizeof name;
+    CHECK(scratch.registry.enumKey(scratch.key.get(), index, name, length) == status::NoMoreItems);
+  }
+  // The room counts the NUL: one less than the name needs is refused, and nothing is written.
+  std::uint32_t length = static_cast<std::uint32_t>(names[0].size());
+  CHECK(scratch.registry.enumKey(scratch.key.get(), 0, name, length) == status::MoreData);
+  CHECK(std::string(name) == "untouched");
+  length = static_cast<std::uint32_t>(names[0].size() + 1);
+  CHECK(scratch.registry.enumKey(scratch.key.get(), 0, name, length) == status::Success);
+  CHECK(std::string(name) == names[0]);
+}
+
+TEST_CASE_TEMPLATE("registry: a value keeps its type and every byte", Pc, CONTRACT_PCS) {
+  using namespace std::string_literals;
+  Pc pc;
+  Scratch scratch(pc);
+  const struct {
+    const char* name;
+    std::uint32_t type;
+    std::string data;
+  } rows[] = {
+      {"text", 1, "C:\\Temp\0"s},
+      {"text without a NUL", 1, "1"s},
+      {"text with a NUL inside", 1, "one\0two\0"s},
+      {"text beyond ASCII", 1, "\xE9\xDF\xFC\x80\0"s},
+      {"no text at all", 1, ""s},
+      {"expand", 2, "%TEMP%\0"s},
+      {"binary", 3, "\0\1\xFF\0"s},
+      {"no bytes", 3, ""s},
+      {"number", 4, "\1\2\3\4"s},
+      {"several", 7, "a\0b\0\0"s},
+      {"none", 0, "xyz"s},
+  };
+  for (const auto& row : rows) REQUIRE(scratch.set(row.name, row.type, row.data) == status::Success);
+  for (const auto& row : rows) {
+    CAPTURE(std::string(row.name));
+    REQUIRE(scratch.query(row.name) == status::Success);
+    CHECK(scratch.type == row.type);
+    CHECK(scratch.data() == row.data);
+  }
+  // The exact room is enough; less is told with the length that is needed.
+  CHECK(scratch.query("text", 8) == status::Success);
+  CHECK(scratch.query("text", 7) == status::MoreData);
+  CHECK(scratch.length == 8);
+  CHECK(scratch.query("missing") == status::FileNotFound);
+  CHECK(scratch.query("") == status::FileNotFound);
+}
+
+TEST_CASE_TEMPLATE("registry: values are found without case, replaced, told and deleted", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Scratch scratch(pc);
+  CHECK(scratch.values().empty());
+  CHECK(scratch.set("Name", 3, "old") == status::Success);
+  CHECK(scratch.set("NAME", 3, "new") == status::Success);
+  CHECK(scratch.set("", 3, "unnamed") == status::Success);
+  CHECK(scratch.set(" blank", 3, "b") == status::Success);
+  const std::vector<std::string> told = scratch.values();
+  CHECK(sorted(told) == sorted({"Name=new", "=unnamed", " blank=b"}));
+  CHECK(scratch.values() == told);
+  CHECK(scratch.query("name") == status::Success);
+  CHECK(scratch.deleteValues({"nAME", ""}) == std::vector<RegistryStatus>{status::Success, status::Success});
+  CHECK(scratch.deleteValues({"Name", "", "[Default]"}) ==
+        std::vector<RegistryStatus>(3, status::FileNotFound));
+  CHECK(scratch.values() == std::vector<std::string>{" blank=b"});
+}
+
+TEST_CASE_TEMPLATE("registry: a value that does not fit is told as such", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Scratch scratch(pc);
+  REQUIRE(scratch.set("abcd", 3, "12345678") == status::Success);
+  const struct {
+    std::uint32_t nameRoom;
+    std::uint32_t dataRoom;
+    RegistryStatus result;
+  } rows[] = {{5, 8, status::Success}, {4, 8, status::MoreData}, {5, 7, status::MoreData}};
+  for (const auto& row : rows) {
+    CAPTURE(row.nameRoom);
+    CAPTURE(row.dataRoom);
+    char name[16];
+    std::uint32_t length = row.nameRoom;
+    std::uint32_t dataLength = row.dataRoom;
+    CHECK(scratch.registry.enumValue(scratch.key.get(), 0, name, length, scratch.type, scratch.buffer,
+                                     dataLength) == row.result);
+  }
+}
+
+TEST_CASE_TEMPLATE("registry: a key with subkeys goes on the 9x family and stays on NT", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Scratch scratch(pc);
+  const bool nt = pc.platform().restart.platformId(148) == 2;
+  REQUIRE(scratch.make("Parent\\Child\\Grandchild") == status::Success);
+  REQUIRE(scratch.make("Empty") == status::Success);
+  CHECK(scratch.registry.deleteKey(scratch.key.get(), "Missing") == status::FileNotFound);
+  CHECK(scratch.registry.deleteKey(scratch.key.get(), "empty") == status::Success);
+  CHECK_FALSE(scratch.has("Empty"));
+  const RegistryStatus refused = nt ? status::AccessDenied : status::Success;
+  CHECK(scratch.registry.deleteKey(scratch.key.get(), "Parent") == refused);
+  CHECK(scratch.has("Parent\\Child\\Grandchild") == nt);
+  CHECK(scratch.registry.deleteKey(scratch.key.get(), "") == refused);
+  CHECK(scratch.has("Parent") == nt);
+}
+
+TEST_CASE_TEMPLATE("registry: the empty path deletes the open key itself", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Scratch scratch(pc);
+  REQUIRE(scratch.make("Inner") == status::Success);
+  REQUIRE(scratch.set("value", 3, "x") == status::Success);
+  OpenKey inner(scratch.registry);
+  REQUIRE(inner.open(Hive::CurrentUser, scratch.path + "\\Inner", access::All) == status::Success);
+  CHECK(scratch.registry.deleteKey(inner.get(), "") == status::Success);
+  CHECK(scratch.subkeys().empty());
+  CHECK(scratch.values() == std::vector<std::string>{"value=x"});
+}
+
+}  // namespace zub

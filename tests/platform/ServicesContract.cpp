@@ -1,0 +1,119 @@
+#include <algorithm>
+
+#include "base/Text.h"
+#include "platform/ContractPc.h"
+
+namespace zub {
+
+TEST_CASE_TEMPLATE("drives: the listed ones exist, others do not", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Drives& drives = pc.platform().drives;
+  const std::vector<std::string> list = drives.list();
+  CHECK(std::ranges::is_sorted(list));
+  for (char letter = 'A'; letter <= 'Z'; ++letter) {
+    const std::string drive = {letter, ':'};
+    const bool listed =
+        std::ranges::any_of(list, [&](const std::string& entry) { return entry.starts_with(drive); });
+    CAPTURE(drive);
+    CHECK(drives.exists(drive) == listed);
+    if (!listed) CHECK(drives.type(drive) == DriveType::Unknown);
+  }
+  const std::string drive = pc.folder().substr(0, 2);
+  CHECK(drives.type(drive) == DriveType::Fixed);
+  CHECK(drives.exists(drive));
+  for (const char* none : {"", "C", "::", "1:"}) CHECK_FALSE(drives.exists(none));
+}
+
+TEST_CASE_TEMPLATE("folders: the system's own folders are there", Pc, CONTRACT_PCS) {
+  Pc pc;
+  SystemFolders& folders = pc.platform().folders;
+  Files& files = pc.platform().files;
+  const std::string temp = folders.temp(512);
+  CHECK(temp.ends_with('\\'));
+  CHECK(files.folderExists(temp));
+  CHECK(folders.temp(4).empty());
+  CHECK(folders.temp(static_cast<std::uint32_t>(temp.size()) - 1).empty());
+  CHECK_FALSE(folders.windows().ends_with('\\'));
+  CHECK(files.folderExists(folders.windows()));
+  CHECK(files.folderExists(folders.programFolder()));
+  CHECK_FALSE(folders.programFile().empty());
+  CHECK_FALSE(contains(folders.programFile(), "\\"));
+  CHECK(files.folderExists(folders.current()));
+}
+
+TEST_CASE_TEMPLATE("restart: a profile's key stands once in its section", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Restart& restart = pc.platform().restart;
+  const std::string file = pc.platform().folders.windows() + "\\zubtest.ini";
+  pc.file(file, "[other]\r\nnul=stays\r\n");
+  restart.writeProfile("rename", "nul", "C:\\FIRST", "zubtest.ini");
+  restart.writeProfile("rename", "nul", "C:\\SECOND", "zubtest.ini");
+  restart.writeProfile("RENAME", "NUL", "C:\\THIRD", "zubtest.ini");
+  restart.writeProfile("rename", "two", "x", "zubtest.ini");
+  std::string text = pc.bytes(file);
+  pc.platform().files.remove(file);
+  // Blank lines between sections are the writer's own affair.
+  for (std::size_t blank; (blank = text.find("\r\n\r\n")) != std::string::npos;) text.erase(blank, 2);
+  CHECK(text == "[other]\r\nnul=stays\r\n[rename]\r\nnul=C:\\THIRD\r\ntwo=x\r\n");
+}
+
+TEST_CASE_TEMPLATE("restart: the platform number needs a record that tells its size", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Restart& restart = pc.platform().restart;
+  const std::uint32_t family = restart.platformId(148);
+  CHECK((family == 1 || family == 2));
+  for (const std::uint32_t size : {0u, 147u, 100000u}) CHECK(restart.platformId(size) == 0);
+}
+
+TEST_CASE_TEMPLATE("clock: what it writes it reads", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Clock& clock = pc.platform().clock;
+  const SystemTime times[] = {
+      {2001, 9, 3, 5, 14, 20, 30, 0},
+      {2000, 2, 2, 29, 0, 0, 0, 0},
+      {2026, 12, 4, 31, 23, 59, 59, 0},
+      {2024, 1, 1, 1, 12, 5, 9, 0},
+  };
+  for (const SystemTime& time : times) {
+    const std::string date = clock.dateText(time);
+    const std::string hours = clock.timeText(time);
+    CAPTURE(date);
+    CAPTURE(hours);
+    SystemTime onlyDate = time;
+    onlyDate.wHour = onlyDate.wMinute = onlyDate.wSecond = 0;
+    CHECK(clock.parse(date) == onlyDate);
+    CHECK(clock.parse(hours) == SystemTime{1899, 12, 6, 30, time.wHour, time.wMinute, time.wSecond, 0});
+    CHECK(clock.parse(date + ' ' + hours) == time);
+  }
+}
+
+TEST_CASE_TEMPLATE("clock: what is no date and no time is a mismatch", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Clock& clock = pc.platform().clock;
+  for (const char* text : {"", "   ", "tomorrow", "25:00", "10:60", "1/2/3/4", "13/32/2001", "2/29/2001",
+                           "12:", "9/5/2001 at noon", "\xFF\xFE"}) {
+    CAPTURE(std::string(text));
+    CHECK(failure([&] { clock.parse(text); }) == 13);
+  }
+  const std::uint64_t first = clock.ticks();
+  CHECK(clock.ticks() >= first);
+  CHECK(clock.local().wMonth >= 1);
+}
+
+TEST_CASE_TEMPLATE("code page: upper case byte for byte", Pc, CONTRACT_PCS) {
+  Pc pc;
+  const CodePage& codePage = pc.platform().codePage;
+  const struct {
+    const char* text;
+    const char* upper;
+  } rows[] = {
+      {"", ""},
+      {"HKey_Current_User\\[z{`@~", "HKEY_CURRENT_USER\\[Z{`@~"},
+      {"\xE0\xE9\xFC\xFE", "\xC0\xC9\xDC\xDE"},
+      {"\xDF\xF7\xD7\xAA", "\xDF\xF7\xD7\xAA"},  // sharp s, signs: no upper case of one byte
+      {"\x9A\x9C\x9E\xFF", "\x8A\x8C\x8E\x9F"},
+  };
+  for (const auto& row : rows) CHECK(codePage.upper(row.text) == row.upper);
+}
+
+}  // namespace zub

@@ -1,0 +1,151 @@
+#ifdef _WIN32
+#include "platform/Win32ContractPc.h"
+
+#include <doctest/doctest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include "platform/WineDeviations.h"
+#include "platform/win32/ComPointer.h"
+#include "platform/win32/LoadedCall.h"
+#include "platform/win32/Text.h"
+
+namespace zub {
+namespace {
+
+bool underWine() {
+  return GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
+}
+
+// Where Wine keeps a file.
+std::string hostPath(const std::string& path) {
+  const auto call = loadedCall<char*(CDECL*)(LPCWSTR)>("kernel32.dll", "wine_get_unix_file_name");
+  char* text = call(wide(path).c_str());
+  const std::string result = text;
+  HeapFree(GetProcessHeap(), 0, text);
+  return result;
+}
+
+bool isLink(const std::string& path) {
+  const DWORD attributes = GetFileAttributesA(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
+// Wine starts a program of the host but cannot wait for its end: waits for what it does instead.
+void onHost(const std::string& command, const std::string& path, bool linkAfterwards) {
+  std::system(("start /unix " + command).c_str());
+  const DWORD begin = GetTickCount();
+  while (isLink(path) != linkAfterwards && GetTickCount() - begin < 10000) SwitchToThread();
+}
+
+void deleteTree(const std::string& folder) {
+  WIN32_FIND_DATAA entry;
+  const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &entry);
+  if (search == INVALID_HANDLE_VALUE) return;
+  do {
+    const std::string name = entry.cFileName;
+    if (name == "." || name == "..") continue;
+    const std::string path = folder + '\\' + name;
+    SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    const bool link = (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+      DeleteFileA(path.c_str());
+    else if (link)
+      RemoveDirectoryA(path.c_str());
+    else
+      deleteTree(path);
+  } while (FindNextFileA(search, &entry) != 0);
+  FindClose(search);
+  RemoveDirectoryA(folder.c_str());
+}
+
+void deleteKeyTree(HKEY parent, const std::string& path) {
+  HKEY key = nullptr;
+  if (RegOpenKeyExA(parent, path.c_str(), 0, KEY_ALL_ACCESS, &key) != ERROR_SUCCESS) return;
+  char name[256];
+  while (RegEnumKeyA(key, 0, name, sizeof name) == ERROR_SUCCESS) deleteKeyTree(key, name);
+  RegCloseKey(key);
+  RegDeleteKeyA(parent, path.c_str());
+}
+
+void deleteTask(const std::string& name) {
+  ComPointer<ITaskScheduler> service;
+  if (SUCCEEDED(CoCreateInstance(CLSID_CTaskScheduler, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskScheduler,
+                                 service.outVoid())))
+    service->Delete(wide(name).c_str());
+}
+
+}  // namespace
+
+Win32ContractPc::Win32ContractPc() {
+  char text[MAX_PATH];
+  GetTempPathA(MAX_PATH, text);
+  folder_ = text + ("zubtest" + std::to_string(GetCurrentProcessId()));
+  GetCurrentDirectoryA(MAX_PATH, text);
+  before_ = text;
+  CreateDirectoryA(folder_.c_str(), nullptr);
+  SetCurrentDirectoryA(folder_.c_str());
+  deleteKeyTree(HKEY_CURRENT_USER, key());
+  deleteTask(task());
+}
+
+Win32ContractPc::~Win32ContractPc() {
+  for (const auto& [path, handle] : locks_) CloseHandle(handle);
+  for (const std::string& link : hostLinks_) onHost("/bin/rm -f " + hostPath(link), link, false);
+  SetCurrentDirectoryA(before_.c_str());
+  deleteTree(folder_);
+  deleteKeyTree(HKEY_CURRENT_USER, key());
+  deleteTask(task());
+}
+
+void Win32ContractPc::file(const std::string& path, std::string_view bytes) {
+  std::ofstream stream(path, std::ios::binary);
+  stream << bytes;
+  REQUIRE(stream.good());
+}
+
+std::string Win32ContractPc::bytes(const std::string& path) const {
+  std::ifstream stream(path, std::ios::binary);
+  REQUIRE(stream.good());
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void Win32ContractPc::readOnly(const std::string& path) {
+  REQUIRE(SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY) != 0);
+}
+
+void Win32ContractPc::lock(const std::string& path) {
+  const HANDLE handle =
+      CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  REQUIRE(handle != INVALID_HANDLE_VALUE);
+  locks_[path] = handle;
+}
+
+void Win32ContractPc::unlock(const std::string& path) {
+  CloseHandle(locks_.at(path));
+  locks_.erase(path);
+}
+
+// A junction, which needs no rights; under Wine, which makes none, a link of the host.
+bool Win32ContractPc::link(const std::string& path, const std::string& target) {
+  if (underWine()) {
+    onHost("/bin/ln -s " + hostPath(target) + ' ' + hostPath(path), path, true);
+    hostLinks_.push_back(path);
+  } else {
+    std::system(("mklink /J " + path + ' ' + target + " >nul").c_str());
+  }
+  return isLink(path);
+}
+
+bool Win32ContractPc::deviates(std::string_view name) const {
+  for (const WineDeviation& row : wineDeviations) {
+    if (row.name == name) return underWine();
+  }
+  FAIL("no such deviation");
+  return false;
+}
+
+}  // namespace zub
+#endif

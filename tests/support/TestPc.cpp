@@ -1,0 +1,260 @@
+#include "support/TestPc.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "base/Text.h"
+#include "platform/folder/FolderPc.h"
+#include "platform/folder/HostText.h"
+#include "support/Snapshot.h"
+#include "support/TempFolder.h"
+#include "support/TestServices.h"
+
+namespace zub {
+namespace {
+
+constexpr std::string_view ShellFolders =
+    "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
+
+std::string factName(std::string_view line) {
+  return folded(trim(line.substr(0, line.find('='))));
+}
+
+// The facts of a new PC with the given ones in their place or behind.
+std::string mergedFacts(std::string_view defaults, const std::vector<std::string>& facts) {
+  std::string text;
+  while (!defaults.empty()) {
+    const std::string_view line = defaults.substr(0, defaults.find('\n') + 1);
+    defaults.remove_prefix(line.size());
+    const bool replaced =
+        std::ranges::any_of(facts, [&](const std::string& fact) { return factName(fact) == factName(line); });
+    if (!replaced) text += line;
+  }
+  for (const std::string& fact : facts) text += fact + "\n";
+  return text;
+}
+
+// Makes an empty PC with these facts in a folder and gives that folder.
+const std::string& preparePc(TempFolder& folder, const std::vector<std::string>& facts) {
+  createPc(folder.path());
+  const std::string defaults = readHostFile(folder.dir(), PcFacts::FileName);
+  writeHostFile(folder.dir(), PcFacts::FileName, mergedFacts(defaults, facts));
+  return folder.path();
+}
+
+FolderPath parsed(std::string_view path) {
+  FolderPath parts;
+  if (parsePath(path, FolderPath{}, parts) != PathFault::None) {
+    throw std::invalid_argument("no path for a test: " + std::string(path));
+  }
+  return parts;
+}
+
+void require(HostError error, const FolderPath& path) {
+  if (error != HostError::None) throw std::runtime_error("the test cannot make " + path.text());
+}
+
+}  // namespace
+
+class TestPc::Impl {
+ public:
+  Impl(TestPc& owner, const std::vector<std::string>& facts)
+      : pc(preparePc(temp, facts)),
+        disk(pc.root(), pc.facts()),
+        files(pc.files, fileFaults),
+        registry(pc.registry, keyFaults),
+        clock(owner),
+        shell(owner),
+        restart(owner, pc.restart),
+        process(owner),
+        events(owner),
+        messages(owner),
+        tray(owner),
+        platform{pc.codePage, registry, files,  pc.drives, pc.folders, restart, shell,
+                 clock,       process,  events, messages,  tray,       pc.tasks} {
+    for (const auto& [letter, kind] : pc.facts().drives) pc.root().makeDir({letter});
+    for (const FolderPath* path :
+         {&pc.facts().windows, &pc.facts().temp, &pc.facts().program, &pc.facts().current}) {
+      makeFolder(*path);
+    }
+  }
+
+  void makeFolder(const FolderPath& path) {
+    FolderPath made{path.drive, {}};
+    for (const std::string& part : path.parts) {
+      made.parts.push_back(part);
+      const FolderDisk::Place place = disk.place(made);
+      if (!place.exists) require(place.parent->makeDir(place.name), made);
+    }
+    pc.files.forget();
+  }
+
+  // Where a file or folder is or is to be, its folder made.
+  FolderDisk::Place makeParent(const FolderPath& path) {
+    FolderPath parent = path;
+    parent.parts.pop_back();
+    makeFolder(parent);
+    return disk.place(path);
+  }
+
+  std::optional<FolderDisk::Place> find(std::string_view path) {
+    try {
+      disk.forget();
+      FolderDisk::Place place = disk.place(parsed(path));
+      if (place.exists) return place;
+    } catch (const RuntimeError&) {
+    }
+    return std::nullopt;
+  }
+
+  RegistryNode& makeKey(std::string_view path) {
+    RegistryNode* node = pc.registryTree().make(path);
+    if (node == nullptr) throw std::invalid_argument("no key for a test: " + std::string(path));
+    pc.registry.changed(true);
+    return *node;
+  }
+
+  const RegistryValue* findValue(std::string_view key, std::string_view name) {
+    const RegistryNode* node = pc.registryTree().find(key);
+    return node == nullptr ? nullptr : node->values.find(name);
+  }
+
+  TempFolder temp;
+  FolderPc pc;
+  FolderDisk disk;
+  FileFaults fileFaults;
+  KeyFaults keyFaults;
+  TestFiles files;
+  TestRegistry registry;
+  TestClock clock;
+  TestShell shell;
+  TestRestart restart;
+  TestProcess process;
+  TestEvents events;
+  TestMessages messages;
+  TestTray tray;
+  Platform platform;
+};
+
+TestPc::TestPc(std::vector<std::string> facts) : impl_(std::make_unique<Impl>(*this, facts)) {}
+TestPc::~TestPc() = default;
+
+Platform& TestPc::platform() {
+  return impl_->platform;
+}
+
+const std::string& TestPc::hostFolder() const {
+  return impl_->temp.path();
+}
+
+void TestPc::file(std::string_view path, std::string_view bytes) {
+  const FolderPath parts = parsed(path);
+  const FolderDisk::Place place = impl_->makeParent(parts);
+  writeHostFile(*place.parent, place.name, bytes);
+}
+
+void TestPc::folder(std::string_view path) {
+  impl_->makeFolder(parsed(path));
+}
+
+void TestPc::readOnly(std::string_view path) {
+  const auto place = impl_->find(path);
+  if (!place || place->parent == nullptr) throw std::invalid_argument("no file: " + std::string(path));
+  require(place->parent->setReadOnly(place->name, true), parsed(path));
+  impl_->pc.files.forget();
+}
+
+void TestPc::key(std::string_view path) {
+  impl_->makeKey(path);
+}
+
+void TestPc::value(std::string_view key, std::string_view name, std::string_view text) {
+  value(key, name, static_cast<std::uint32_t>(ValueType::Text), std::string(text) + '\0');
+}
+
+void TestPc::value(std::string_view key, std::string_view name, std::uint32_t type, std::string_view data) {
+  impl_->makeKey(key).values[name] = {type, std::string(data)};
+}
+
+void TestPc::shellFolder(std::string_view name, std::string_view path) {
+  value(ShellFolders, name, path);
+}
+
+bool TestPc::hasFile(std::string_view path) const {
+  const auto place = impl_->find(path);
+  return place && place->stat.kind != HostKind::Folder;
+}
+
+bool TestPc::hasFolder(std::string_view path) const {
+  const auto place = impl_->find(path);
+  return place && place->stat.kind == HostKind::Folder;
+}
+
+std::string TestPc::bytes(std::string_view path) const {
+  const auto place = impl_->find(path);
+  if (!place || place->stat.kind != HostKind::File)
+    throw std::invalid_argument("no file: " + std::string(path));
+  return readHostFile(*place->parent, place->name);
+}
+
+bool TestPc::hasKey(std::string_view path) const {
+  return impl_->pc.registryTree().find(path) != nullptr;
+}
+
+bool TestPc::hasValue(std::string_view key, std::string_view name) const {
+  return impl_->findValue(key, name) != nullptr;
+}
+
+std::optional<std::string> TestPc::data(std::string_view key, std::string_view name) const {
+  const RegistryValue* value = impl_->findValue(key, name);
+  return value == nullptr ? std::nullopt : std::optional(value->data);
+}
+
+std::optional<std::string> TestPc::text(std::string_view key, std::string_view name) const {
+  const RegistryValue* value = impl_->findValue(key, name);
+  if (value == nullptr) return std::nullopt;
+  return std::string(StripAtNull(value->data));
+}
+
+std::vector<std::string> TestPc::valueNames(std::string_view key) const {
+  std::vector<std::string> names;
+  if (const RegistryNode* node = impl_->pc.registryTree().find(key)) {
+    for (const auto& [name, value] : node->values) names.push_back(name);
+  }
+  return names;
+}
+
+std::string TestPc::snapshot() const {
+  return snapshotOf(impl_->pc);
+}
+
+std::string TestPc::diff(std::string_view before, std::string_view after) {
+  return diffOf(before, after);
+}
+
+void TestPc::failFile(Call call, std::string_view path, ErrorNumber number) {
+  impl_->fileFaults.onPath(call, path, number);
+}
+
+void TestPc::failNth(Call call, int n, ErrorNumber number) {
+  impl_->fileFaults.nth(call, n, number);
+}
+
+void TestPc::failKey(KeyCall call, std::string_view path, RegistryStatus status) {
+  impl_->keyFaults.onPath(call, path, status);
+}
+
+void TestPc::clearFaults() {
+  impl_->fileFaults.clear();
+  impl_->keyFaults.clear();
+}
+
+void TestPc::lock(std::string_view path) {
+  impl_->pc.facts().locked.insert(parsed(path).key());
+}
+
+void TestPc::unlock(std::string_view path) {
+  impl_->pc.facts().locked.erase(parsed(path).key());
+}
+
+}  // namespace zub
