@@ -1,0 +1,153 @@
+#include "cleaners/frmIECookieKeep.h"
+
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+#include "base/RuntimeError.h"
+#include "base/Text.h"
+#include "cleaners/IECookieIndex.h"
+#include "cleaners/LfLine.h"
+#include "cleaners/ShellFolder.h"
+#include "engine/Engine.h"
+
+namespace zub {
+namespace {
+
+// The cookie files that no record has claimed yet. A name is found without regard to case; of names that
+// differ in nothing else the first goes first.
+class UnclaimedFiles {
+ public:
+  UnclaimedFiles(const CodePage& codePage, const std::vector<std::string>& names)
+      : codePage_(codePage), names_(names), sameName_(names.size(), None), claimed_(names.size()) {
+    first_.reserve(names.size());
+    for (std::size_t file = names.size(); file-- > 0;) {
+      const auto [place, isNew] = first_.try_emplace(codePage.upper(names[file]), file);
+      if (!isNew) sameName_[file] = std::exchange(place->second, file);
+    }
+  }
+
+  bool claim(std::string_view name) {
+    const auto place = first_.find(codePage_.upper(name));
+    if (place == first_.end()) return false;
+    const std::size_t file = place->second;
+    claimed_[file] = true;
+    if (sameName_[file] == None) {
+      first_.erase(place);
+    } else {
+      place->second = sameName_[file];
+    }
+    return true;
+  }
+
+  template <class Use>
+  void forEachLeft(Use use) const {
+    for (std::size_t file = 0; file < names_.size(); ++file) {
+      if (!claimed_[file]) use(names_[file]);
+    }
+  }
+
+ private:
+  static constexpr std::size_t None = static_cast<std::size_t>(-1);
+
+  const CodePage& codePage_;
+  const std::vector<std::string>& names_;
+  std::unordered_map<std::string, std::size_t> first_;  // by the upper-cased name
+  std::vector<std::size_t> sameName_;                   // the next file of that name
+  std::vector<bool> claimed_;
+};
+
+}  // namespace
+
+frmIECookieKeep::frmIECookieKeep(Engine& engine)
+    : engine_(engine), flList_(engine.pc, "*.txt", FileLister::Hidden::Skip) {
+  lstDelete.Click = [this] { lstDelete_Click(); };
+  chkSelectAll.Click = [this] { chkSelectAll_Click(); };
+}
+
+void frmIECookieKeep::Show() {
+  if (!loaded_) Form_Load();
+  form.Show();
+}
+
+void frmIECookieKeep::LoadValues() {
+  loaded_ = true;
+  LoadCookies();
+  form.mousePointer = MousePointer::Default;
+}
+
+void frmIECookieKeep::LoadCookies() {
+  try {
+    listCookies();
+    tickKept();
+  } catch (const RuntimeError&) {
+  }
+}
+
+void frmIECookieKeep::listCookies() {
+  g_strPath = shellFolder(engine_, "Cookies") + "\\";
+  lstDelete.Clear();
+  lstFiles.Clear();
+  flList_.path(g_strPath);
+  IECookieIndex index(engine_.pc.files, g_strPath + "index.dat");
+  UnclaimedFiles unclaimed(engine_.pc.codePage, flList_.names());
+  IECookie cookie;
+  while (index.next(cookie)) {
+    if (unclaimed.claim(trim(cookie.file))) addRow(cookie.site, cookie.file);
+  }
+  unclaimed.forEachLeft([this](const std::string& name) { addRow(name, name); });
+}
+
+void frmIECookieKeep::tickKept() {
+  const auto comparable = [this](std::string_view text) { return engine_.pc.codePage.upper(trim(text)); };
+  std::unordered_set<std::string> kept;
+  FileReader file(engine_.pc.files, keepFile());
+  std::string line;
+  while (file.line(line)) kept.insert(comparable(line));
+  if (kept.empty()) return;
+  for (int row = 0; row < lstDelete.ListCount(); ++row) {
+    if (kept.contains(comparable(lstDelete.List(row)))) lstDelete.Selected(row, true);
+  }
+}
+
+void frmIECookieKeep::addRow(std::string_view shown, std::string_view file) {
+  lstDelete.AddItem(shown);
+  lstFiles.AddItem(file);
+}
+
+std::string frmIECookieKeep::keepFile() const {
+  return g_strPath + "ZUBKeep.inf";
+}
+
+void frmIECookieKeep::cmdOK_Click() {
+  try {
+    const auto file = engine_.pc.files.open(keepFile(), OpenMode::Output);
+    for (int row = 0; row < lstDelete.ListCount(); ++row) {
+      if (!lstDelete.Selected(row)) continue;
+      file->write(lstDelete.List(row));
+      file->write(CrLf);
+    }
+    file->close();
+    Unload();
+  } catch (const RuntimeError&) {
+  }
+}
+
+void frmIECookieKeep::lstDelete_Click() {
+  txtKeep.Text.clear();
+  try {
+    FileReader file(engine_.pc.files, g_strPath + lstFiles.List(lstDelete.ListIndex()));
+    std::string line;
+    while (readLfLine(file, line)) {
+      if (!line.empty()) txtKeep.Text.append(line).append(CrLf);
+    }
+  } catch (const RuntimeError&) {
+  }
+}
+
+void frmIECookieKeep::chkSelectAll_Click() {
+  lstDelete.selectAll(chkSelectAll.Value() == 1);
+}
+
+}  // namespace zub
