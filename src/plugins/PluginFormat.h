@@ -1,0 +1,55 @@
+// What the lines of a custom plugin's files are made of. 8-bit text in the PC's ANSI code page, lines ended
+// by CR LF, one entry a line.
+//
+//   .zb1   C:\FOLDER\FILE                                   one file
+//          C:\FOLDER\PATTERN                                the files of the folder; the pattern has "?" or
+//          "*" C:\FOLDER\PATTERN >plus subdirectories<          these, and those in all folders below No
+//          entries.                                      ends the list
+//   .zb2   a trace specification (engine/RegistryHelper.h)
+//   .zb3   the information line, then the comments
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "platform/CodePage.h"
+
+namespace zub {
+
+enum class PluginFile : std::uint8_t { Files, Registry, Comments };
+inline constexpr std::array<std::string_view, 3> pluginExtensions{".zb1", ".zb2", ".zb3"};
+
+constexpr std::string_view extensionOf(PluginFile file) {
+  return pluginExtensions[static_cast<std::size_t>(file)];
+}
+
+// By the end of the file's name, in any case; none where it is no plugin's file.
+std::optional<PluginFile> pluginFileOf(const CodePage& codePage, std::string_view path);
+
+// What an editor list without entries holds, and how a run knows it.
+inline constexpr std::string_view NoEntries = "No entries.";
+inline constexpr std::string_view NoEntriesUpper = "NO ENTRIES.";
+
+// Behind a pattern and one blank: the folders below, too.
+inline constexpr std::string_view SubfoldersMarker = ">plus subdirectories<";
+inline constexpr std::string_view SubfoldersMarkerUpper = ">PLUS SUBDIRECTORIES<";
+
+inline bool hasWildcard(std::string_view entry) {
+  return entry.find_first_of("?*") != std::string_view::npos;
+}
+
+// Cuts the upper-case marker and what follows it from the entry, and leaves the blank before it. False where
+// there is none.
+bool cutSubfoldersMarker(std::string_view& upperEntry);
+
+struct SearchEntry {
+  std::string_view folder;
+  std::string_view pattern;
+};
+// Splits an entry with a wildcard at its last backslash; one of three characters or less is all folder.
+// RuntimeError 5 for a longer one without a backslash.
+SearchEntry splitSearchEntry(std::string_view entry);
+
+}  // namespace zub

@@ -1,0 +1,17 @@
+// The run of one standard plugin in a wash.
+#pragma once
+
+#include <string>
+
+namespace zub {
+
+class Catalogue;
+class Engine;
+
+// Carries out the actions of the catalogue's row; a name that is no row is counted as done all the same. A
+// failure ends this row's run, before it is counted, with a report line that describes it. A folder that
+// cannot be read from the registry is the empty text, and its files are then tried below the root of the
+// current drive.
+void RunStandardPlugin(Engine& engine, const Catalogue& catalogue, const std::string& name);
+
+}  // namespace zub
