@@ -1,0 +1,196 @@
+#include "ui/controls/ListBox.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+
+namespace zub::controls {
+
+namespace {
+
+// Places in twips; those of the items are counted from the panel's corner.
+constexpr Box PicContainer = {15, 15, 5805, 1095};
+constexpr int PanelHeights = 3;  // the panel is so many times as high as the window that it shows through
+constexpr Size CheckSize = {210, 240};
+struct ItemPlace {
+  Point check, picture;
+};
+constexpr ItemPlace ItemPlaces[] = {
+    {{75, 120}, {270, 165}},      {{915, 120}, {1185, 195}},   {{1920, 120}, {2070, 165}},
+    {{2760, 120}, {3060, 180}},   {{3750, 120}, {3900, 135}},  {{4590, 120}, {4815, 135}},
+    {{105, 1335}, {285, 1515}},   {{945, 1335}, {1260, 1365}}, {{1965, 1335}, {2085, 1380}},
+    {{2805, 1335}, {3135, 1380}},
+};
+enum ScrollPart { DownArrow, UpArrow, Thumb };
+constexpr Box ImgClick[] = {{5850, 855, 240, 255}, {5865, -15, 225, 270}, {5850, 255, 240, 300}};
+constexpr Point ImgScrollArrows[] = {{5865, 870}, {5865, 15}};
+constexpr Point ImgScroll = {5865, 270};
+
+constexpr int LowestPanelTop = -1200, PanelStep = 4, ThumbStep = 1;
+
+constexpr std::int16_t LeftKey = 37, RightKey = 39;
+
+// Parts, as events meet them: the items' pictures, their boxes, the scroll bar.
+constexpr int FirstCheck = ListBox::Items, FirstScrollPart = 2 * ListBox::Items;
+
+constexpr Point pixels(Point twips) {
+  return {controls::pixels(twips.x), controls::pixels(twips.y)};
+}
+
+Box checkPlace(int item) {
+  const Point at = ItemPlaces[item].check;
+  return controls::pixels(Box{at.x, at.y, CheckSize.width, CheckSize.height});
+}
+
+}  // namespace
+
+ListBox::ListBox(const Kit& kit)
+    : Control(kit, {407, 75}), thumbTop_(ImgScroll.y), thumbAreaTop_(ImgClick[Thumb].top) {
+  for (int item = 0; item < Items; ++item) {
+    SimpleCheck& check = checks_.emplace_back(kit);
+    check.resize(controls::pixels(CheckSize.width), controls::pixels(CheckSize.height));
+    check.Click = [this, item] {
+      std::int16_t index = static_cast<std::int16_t>(item);
+      raise(ClickCheck, index);
+    };
+  }
+}
+
+void ListBox::Initialise() {
+  selected_ = 0;
+  select(0);
+}
+
+void ListBox::Selected(std::int16_t index) {
+  selected_ = std::clamp<std::int16_t>(index, 0, Items - 1);
+}
+
+std::int16_t ListBox::Check(std::int16_t index) const {
+  return checks_[static_cast<std::size_t>(index)].Value() == SimpleCheck::Empty ? 0 : 1;
+}
+
+void ListBox::Check(std::int16_t index, std::int16_t value) {
+  checks_[static_cast<std::size_t>(index)].Value(value == 0 ? SimpleCheck::Empty : SimpleCheck::Ticked);
+  changeLook();
+}
+
+Box ListBox::panel() const {
+  return controls::pixels(Box{0, panelTop_, PicContainer.width, PanelHeights * PicContainer.height});
+}
+
+const Bitmap& ListBox::picture(int item) const {
+  const bool isHighlighted = highlighted_[static_cast<std::size_t>(item)];
+  return kit_.art["item-" + std::to_string(item) + (isHighlighted ? "-active" : "")];
+}
+
+// An item takes the size of the picture that it shows.
+Box ListBox::picturePlace(int item) const {
+  const Point at = pixels(ItemPlaces[item].picture);
+  return {at.x, at.y, picture(item).width(), picture(item).height()};
+}
+
+Box ListBox::hitArea(int index) const {
+  Box area = ImgClick[index];
+  if (index == Thumb) area.top = thumbAreaTop_;
+  return controls::pixels(area);
+}
+
+void ListBox::paint(Surface& surface) const {
+  surface.clear(BackColor());
+  surface.draw(kit_.art["list-frame"], {});  // as large as it is: the track of the scroll bar is part of it
+  surface.draw(kit_.art["scroll-arrow-down"], pixels(ImgScrollArrows[DownArrow]));
+  surface.draw(kit_.art["scroll-arrow-up"], pixels(ImgScrollArrows[UpArrow]));
+  surface.draw(kit_.art["scroll-thumb"], pixels(Point{ImgScroll.x, thumbTop_}));
+
+  const Surface inner = surface.within(controls::pixels(PicContainer)).within(panel());
+  for (int item = 0; item < Items; ++item) {
+    const Box place = picturePlace(item);
+    Surface(inner).draw(picture(item), {place.left, place.top});
+    Surface box = inner.within(checkPlace(item));
+    checks_[static_cast<std::size_t>(item)].paint(box);
+  }
+}
+
+int ListBox::partAt(float x, float y) const {
+  for (const int index : {Thumb, DownArrow, UpArrow})
+    if (hitArea(index).contains(x, y)) return FirstScrollPart + index;
+  const Box container = controls::pixels(PicContainer);
+  if (!container.contains(x, y)) return Nothing;
+  const float panelX = x - static_cast<float>(container.left);
+  const float panelY = y - static_cast<float>(container.top + panel().top);
+  for (int item = 0; item < Items; ++item) {
+    if (checkPlace(item).contains(panelX, panelY)) return FirstCheck + item;
+    if (picturePlace(item).contains(panelX, panelY)) return item;
+  }
+  return Nothing;
+}
+
+// The event with its place counted from the corner of an item's box.
+Mouse ListBox::onCheck(int item, Mouse mouse) const {
+  const Box container = controls::pixels(PicContainer), place = checkPlace(item);
+  mouse.X -= static_cast<float>(container.left + place.left);
+  mouse.Y -= static_cast<float>(container.top + panel().top + place.top);
+  return mouse;
+}
+
+void ListBox::onMouseDown(int part, Mouse& mouse) {
+  if (part >= FirstScrollPart) {
+    if (part == FirstScrollPart + DownArrow) scroll(1);
+    if (part == FirstScrollPart + UpArrow) scroll(-1);
+    thumbAreaTop_ = thumbTop_;
+  } else if (part >= FirstCheck) {
+    checks_[static_cast<std::size_t>(part - FirstCheck)].mouseDown(onCheck(part - FirstCheck, mouse));
+  }
+}
+
+// The thumb does not follow the mouse: every move with the left button down runs it on, downward from the
+// upper half and upward from the lower one.
+void ListBox::onMouseMove(int part, Mouse& mouse) {
+  if (part < FirstScrollPart || mouse.Button != LeftButton) return;
+  if (part == FirstScrollPart + DownArrow) scroll(1);
+  if (part == FirstScrollPart + UpArrow) scroll(-1);
+  if (part == FirstScrollPart + Thumb) {
+    if (direction_ == 0) direction_ = std::abs(panelTop_) < -LowestPanelTop ? 1 : -1;
+    scroll(direction_);
+  }
+  thumbAreaTop_ = thumbTop_;
+}
+
+void ListBox::onMouseUp(int part, Mouse& mouse) {
+  if (part >= FirstScrollPart) {
+    direction_ = 0;
+  } else if (part >= FirstCheck) {
+    checks_[static_cast<std::size_t>(part - FirstCheck)].mouseUp(onCheck(part - FirstCheck, mouse));
+    changeLook();
+  }
+}
+
+void ListBox::onClick(int part) {
+  if (part < FirstCheck) select(static_cast<std::int16_t>(part));
+}
+
+// Every key but the arrows goes back to the first item.
+void ListBox::onKeyDown(std::int16_t code, std::int16_t) {
+  int asked = 0;
+  if (code == LeftKey) asked = selected_ - 1;
+  if (code == RightKey) asked = selected_ + 1;
+  select(static_cast<std::int16_t>(std::clamp(asked, 0, Items - 1)));
+}
+
+void ListBox::select(std::int16_t index) {
+  highlighted_[static_cast<std::size_t>(selected_)] = false;
+  highlighted_[static_cast<std::size_t>(index)] = true;
+  selected_ = index;
+  changeLook();
+  raise(ClickSelect, index);
+}
+
+// One step; the thumb runs against the panel.
+void ListBox::scroll(int direction) {
+  if (direction > 0 ? panelTop_ <= LowestPanelTop : panelTop_ >= 0) return;
+  panelTop_ -= direction * PanelStep;
+  thumbTop_ += direction * ThumbStep;
+  changeLook();
+}
+
+}  // namespace zub::controls

@@ -1,0 +1,85 @@
+#include "ui/controls/XPCheck.h"
+
+namespace zub::controls {
+
+namespace {
+
+constexpr int BoxLeft = 90, BoxSide = 195, LabelLeft = 405;  // twips
+constexpr std::string_view ImgCheck[] = {"check-off", "check-on", "check-off-disabled", "check-on-disabled"};
+
+}  // namespace
+
+void XPCheck::Enabled(bool enabled) {
+  Control::Enabled(enabled);
+  Draw_Control();
+  label_.color = enabled ? colors::Black : colors::DisabledText;
+}
+
+void XPCheck::Caption(const std::string& caption) {
+  label_.text = caption;
+  changeLook();
+  raise(PropertyChanged, "Caption");
+}
+
+void XPCheck::Value(float value) {
+  value_ = value;
+  Draw_Control();
+  raise(Click);
+}
+
+void XPCheck::Draw_Control() {
+  if (value_ == 0)
+    show(picture_, Enabled() ? Off : OffDisabled);
+  else if (value_ == 1)
+    show(picture_, Enabled() ? On : OnDisabled);
+}
+
+// Box and caption are centred on one line.
+Box XPCheck::boxPlace() const {
+  return pixels(Box{BoxLeft, (height() * TwipsPerPixel - BoxSide) / 2, BoxSide, BoxSide});
+}
+
+Box XPCheck::labelPlace() const {
+  const Size size = label_.size(kit_.text);
+  const int top = (height() - size.height) * TwipsPerPixel / 2;
+  return {pixels(LabelLeft), pixels(top), size.width, size.height};
+}
+
+void XPCheck::paint(Surface& surface) const {
+  const Box box = boxPlace(), label = labelPlace();
+  surface.clear(BackColor());
+  surface.draw(kit_.art[ImgCheck[picture_]], {box.left, box.top});
+  label_.paint(surface, kit_.text, {label.left, label.top});
+}
+
+int XPCheck::partAt(float x, float y) const {
+  return boxPlace().contains(x, y) || labelPlace().contains(x, y) ? 0 : Nothing;
+}
+
+void XPCheck::onClick(int) {
+  Value(value_ == 0 ? 1.0F : 0.0F);
+  Draw_Control();
+}
+
+void XPCheck::InitProperties(const Ambient& ambient) {
+  Caption(ambient.Name);
+  value_ = 0;
+  Enabled(true);
+  BackColor(colors::Page);
+}
+
+void XPCheck::ReadProperties(const PropertyBag& bag, const Ambient& ambient) {
+  Caption(bag.ReadProperty("Caption", ambient.Name));
+  value_ = bag.ReadProperty("Value", 0.0F);
+  Enabled(bag.ReadProperty("Enabled", true));
+  BackColor(bag.ReadProperty("BackColor", colors::Page));
+}
+
+void XPCheck::WriteProperties(PropertyBag& bag, const Ambient& ambient) const {
+  bag.WriteProperty("Caption", label_.text, ambient.Name);
+  bag.WriteProperty("Value", value_, 0.0F);
+  bag.WriteProperty("Enabled", Enabled(), true);
+  bag.WriteProperty("BackColor", BackColor(), colors::Page);
+}
+
+}  // namespace zub::controls

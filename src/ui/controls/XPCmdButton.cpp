@@ -1,0 +1,161 @@
+#include "ui/controls/XPCmdButton.h"
+
+#include <cmath>
+
+namespace zub::controls {
+
+XPCmdButton::XPCmdButton(const Kit& kit) : Control(kit) {
+  timer_.Interval = 10;
+  label_.text = "XPCmdButton";
+}
+
+void XPCmdButton::Enabled(bool enabled) {
+  Control::Enabled(enabled);
+  raise(PropertyChanged, "Enabled");
+  Redraw();
+  label_.color = enabled ? colors::Black : colors::DisabledText;
+}
+
+void XPCmdButton::State(std::int32_t state) {
+  state_ = state;
+  raise(PropertyChanged, "State");
+  Redraw();
+}
+
+void XPCmdButton::Caption(const std::string& caption) {
+  label_.text = caption;
+  changeLook();
+  Redraw();
+  raise(PropertyChanged, "Caption");
+}
+
+void XPCmdButton::font(const FontRef& font) {
+  label_.font = font;
+  changeLook();
+  Redraw();
+  raise(PropertyChanged, "Font");
+}
+
+void XPCmdButton::Redraw() {
+  if (state_ == 1)
+    cellAtRest_ = Marked;
+  else if (state_ == 0)
+    cellAtRest_ = Normal;
+  DrawCell(Enabled() ? cellAtRest_ : Disabled);
+}
+
+void XPCmdButton::paint(Surface& surface) const {
+  const int w = width(), h = height();
+  const struct {
+    Box to, from;
+  } pieces[] = {
+      {{0, 0, 3, 3}, {0, 0, 3, 3}},           {{w - 3, 0, 3, 3}, {15, 0, 3, 3}},
+      {{w - 3, h - 3, 3, 3}, {15, 18, 3, 3}}, {{0, h - 3, 3, 3}, {0, 18, 3, 3}},
+      {{3, 0, w - 6, 3}, {3, 0, 12, 3}},      {{w - 3, 3, 3, h - 6}, {15, 3, 3, 15}},
+      {{0, 3, 3, h - 6}, {0, 3, 3, 15}},      {{3, h - 3, w - 6, 3}, {3, 18, 12, 3}},
+      {{3, 3, w - 6, h - 6}, {3, 3, 12, 15}},
+  };
+  constexpr int CellWidth = 18;
+  const Bitmap& strip = kit_.art["button-strip"];
+  surface.clear(BackColor());
+  for (const auto& [to, from] : pieces)
+    surface.copy(strip, {from.left + cell_ * CellWidth, from.top, from.width, from.height}, to);
+  const Corner corner = labelCorner();
+  const Point at = {static_cast<int>(std::floor(corner.left + 0.5F)),
+                    static_cast<int>(std::floor(corner.top + 0.5F))};
+  label_.paint(surface, kit_.text, at);
+}
+
+XPCmdButton::Corner XPCmdButton::labelCorner() const {
+  const Size size = label_.size(kit_.text);
+  return {static_cast<float>(width() - size.width) / 2, static_cast<float>(height() - size.height) / 2};
+}
+
+bool XPCmdButton::isOnLabel(const Mouse& mouse) const {
+  const Size size = label_.size(kit_.text);
+  const Corner corner = labelCorner();
+  return Box{0, 0, size.width, size.height}.contains(mouse.X - corner.left, mouse.Y - corner.top);
+}
+
+Mouse XPCmdButton::asReported(Mouse mouse) const {
+  if (!labelIsPressed_) return mouse;
+  const Corner corner = labelCorner();
+  return {mouse.Button, mouse.Shift, mouse.X - corner.left, mouse.Y - corner.top};
+}
+
+void XPCmdButton::onMouseDown(int, Mouse& mouse) {
+  labelIsPressed_ = isOnLabel(mouse);
+  Mouse reported = asReported(mouse);
+  raise(MouseDown, reported.Button, reported.Shift, reported.X, reported.Y);
+  DrawCell(Pressed);
+}
+
+// Over the caption the move counts as one at the caption's corner, so that the caption stays hot.
+void XPCmdButton::onMouseMove(int, Mouse& mouse) {
+  if (isPressed() ? labelIsPressed_ : isOnLabel(mouse)) {
+    const Corner corner = labelCorner();
+    mouse.X = corner.left;
+    mouse.Y = corner.top;
+  }
+  timer_.Enabled = true;
+  if (!holds(mouse.X, mouse.Y)) return;
+  raise(MouseMove, mouse.Button, mouse.Shift, mouse.X, mouse.Y);
+  DrawCell(mouse.Button == LeftButton ? Pressed : Hot);
+}
+
+void XPCmdButton::onMouseUp(int, Mouse& mouse) {
+  Mouse reported = asReported(mouse);
+  labelIsPressed_ = false;
+  raise(MouseUp, reported.Button, reported.Shift, reported.X, reported.Y);
+  Redraw();
+}
+
+void XPCmdButton::onClick(int) {
+  raise(Click);
+}
+
+bool XPCmdButton::onAccessKey(char key) {
+  if (!label_.isAccessKey(key)) return false;
+  raise(Click);
+  return true;
+}
+
+void XPCmdButton::onKeyDown(std::int16_t code, std::int16_t shift) {
+  raise(KeyDown, code, shift);
+}
+
+void XPCmdButton::onKeyUp(std::int16_t code, std::int16_t shift) {
+  raise(KeyUp, code, shift);
+}
+
+void XPCmdButton::onKeyPress(std::int16_t ascii) {
+  raise(KeyPress, ascii);
+}
+
+void XPCmdButton::onTimer() {
+  if (!pointerHasLeft()) return;
+  timer_.Enabled = false;
+  raise(MouseOut);
+  Redraw();
+}
+
+void XPCmdButton::InitProperties(const Ambient& ambient) {
+  Enabled(true);
+  Caption(ambient.Name);
+  font(ambient.font);
+}
+
+void XPCmdButton::ReadProperties(const PropertyBag& bag, const Ambient& ambient) {
+  Enabled(bag.ReadProperty("Enabled", true));
+  Caption(bag.ReadProperty("Caption", ambient.Name));
+  font(bag.ReadProperty("Font", ambient.font));
+}
+
+void XPCmdButton::WriteProperties(PropertyBag& bag, const Ambient& ambient) const {
+  bag.WriteProperty("State", state_, std::int32_t{0});
+  bag.WriteProperty("Enabled", Enabled(), true);
+  bag.WriteProperty("Caption", label_.text, ambient.Name);
+  bag.WriteProperty("Font", label_.font, ambient.font);
+}
+
+}  // namespace zub::controls

@@ -1,0 +1,93 @@
+#include "ui/controls/XPGroupBox.h"
+
+namespace zub::controls {
+
+namespace {
+
+constexpr int TitleLeft = 15;
+
+}  // namespace
+
+XPGroupBox::XPGroupBox(const Kit& kit) : Control(kit) {
+  title_.text = "Label1";
+  title_.color = colors::Title;
+}
+
+void XPGroupBox::Enabled(bool enabled) {
+  Control::Enabled(enabled);
+  title_.color = enabled ? colors::Title : colors::DisabledText;
+  raise(PropertyChanged, "Enabled");
+}
+
+void XPGroupBox::Caption(const std::string& caption) {
+  title_.text = caption;
+  changeLook();
+  raise(PropertyChanged, "Caption");
+}
+
+void XPGroupBox::font(const FontRef& font) {
+  title_.font = font;
+  changeLook();
+  raise(PropertyChanged, "Font");
+}
+
+Box XPGroupBox::titleBox() const {
+  const Size size = title_.size(kit_.text);
+  return {TitleLeft, 0, size.width, size.height};
+}
+
+void XPGroupBox::paint(Surface& surface) const {
+  const Box title = titleBox();
+  const int top = title.height / 2;  // the title stands centred on the upper line
+  const int right = width() - 3, bottom = height() - 3;
+  const int across = width() - 6, down = height() - 6 - top;
+  // The lower right corner is taken one row too low, so its last row lies past the picture's end and is not
+  // painted; the picture is drawn for that.
+  const struct {
+    Box to, from;
+  } pieces[] = {
+      {{0, top, 3, 3}, {0, 0, 3, 3}},
+      {{right, top, 3, 3}, {19, 0, 3, 3}},
+      {{right, bottom, 3, 3}, {19, 18, 3, 3}},
+      {{0, bottom, 3, 3}, {0, 17, 3, 3}},
+      {{3, top, across, 1}, {3, 0, 16, 1}},
+      {{right + 2, top + 3, 1, down}, {21, 3, 1, 14}},
+      {{3, bottom + 2, across, 1}, {3, 19, 16, 1}},
+      {{0, top + 3, 1, down}, {0, 3, 1, 14}},
+  };
+  surface.clear(BackColor());
+  for (const auto& [to, from] : pieces) surface.copy(kit_.art["group-frame"], from, to);
+  surface.fill(title, BackColor());
+  title_.paint(surface, kit_.text, {title.left, title.top});
+}
+
+int XPGroupBox::partAt(float x, float y) const {
+  return titleBox().contains(x, y) ? Title : Surroundings;
+}
+
+void XPGroupBox::forward(const MouseEvent& event, int part, Mouse mouse) const {
+  if (part == Title) mouse.X -= TitleLeft;
+  raise(event, mouse.Button, mouse.Shift, mouse.X, mouse.Y);
+}
+
+void XPGroupBox::InitProperties(const Ambient& ambient) {
+  Caption(ambient.Name);
+  Enabled(true);
+  font(ambient.font);
+}
+
+void XPGroupBox::ReadProperties(const PropertyBag& bag, const Ambient& ambient) {
+  Enabled(bag.ReadProperty("Enabled", true));
+  font(bag.ReadProperty("Font", ambient.font));
+  BackColor(bag.ReadProperty("BackColor", colors::Page));
+  Caption(bag.ReadProperty("Caption", ambient.Name));
+}
+
+void XPGroupBox::WriteProperties(PropertyBag& bag, const Ambient& ambient) const {
+  bag.WriteProperty("Enabled", Enabled(), true);
+  bag.WriteProperty("Font", title_.font, ambient.font);
+  bag.WriteProperty("BackColor", BackColor(), colors::Page);
+  bag.WriteProperty("Caption", title_.text, ambient.Name);
+}
+
+}  // namespace zub::controls

@@ -1,0 +1,123 @@
+#include <doctest/doctest.h>
+
+#include "kit/Canvas.h"
+#include "kit/PaintedArt.h"
+
+using namespace zub;
+using namespace zub::controls;
+
+namespace {
+
+// Columns count 1, 2, 3..., rows add 10.
+std::uint32_t counted(int x, int y) {
+  return Opaque | static_cast<std::uint32_t>(1 + x + 10 * y);
+}
+
+Canvas black(int width, int height) {
+  Canvas canvas(width, height);
+  canvas.surface().clear(colors::Black);
+  return canvas;
+}
+
+}  // namespace
+
+TEST_CASE("a bitmap file is read as it stands, or not at all") {
+  const std::vector<unsigned char> good = bitmapFile(3, 2, counted);
+  const Bitmap picture(good);
+  REQUIRE(picture.width() == 3);
+  REQUIRE(picture.height() == 2);
+  CHECK(picture.pixel(0, 0) == counted(0, 0));
+  CHECK(picture.pixel(2, 1) == counted(2, 1));
+
+  const struct {
+    const char* fault;
+    std::size_t place;
+    unsigned char byte;
+  } faults[] = {
+      {"another mark", 0, 'X'},
+      {"pixels begin in the header", 10, 53},
+      {"pixels begin past the end", 13, 1},
+      {"another header", 14, 12},
+      {"no width", 18, 0},
+      {"too wide", 19, 0x20},
+      {"wider than its pixels", 18, 4},
+      {"top row first", 25, 0xFF},
+      {"two planes", 26, 2},
+      {"24 bits", 28, 24},
+      {"packed", 30, 1},
+      {"higher than its pixels", 22, 3},
+  };
+  for (const auto& [fault, place, byte] : faults) {
+    CAPTURE(fault);
+    std::vector<unsigned char> bytes = good;
+    bytes[place] = byte;
+    CHECK(Bitmap(bytes).width() == 0);
+  }
+  for (std::size_t length = 0; length < good.size(); ++length)
+    CHECK(Bitmap({good.data(), length}).height() == 0);
+}
+
+TEST_CASE("copying stretches to the nearest pixel and clips at both ends") {
+  const std::vector<unsigned char> file = bitmapFile(4, 2, counted);
+  const Bitmap picture(file);
+  const struct {
+    const char* what;
+    Box from, to;
+    const char* drawing;
+  } cases[] = {
+      {"plain", {0, 0, 4, 2}, {1, 1, 4, 2}, "000000\n012340\n0bcde0\n"},
+      {"to twice the width", {0, 0, 2, 1}, {0, 0, 4, 1}, "112200\n000000\n000000\n"},
+      {"to a half", {0, 0, 4, 2}, {0, 0, 2, 1}, "ce0000\n000000\n000000\n"},
+      {"three over two", {0, 0, 3, 1}, {0, 0, 2, 1}, "130000\n000000\n000000\n"},
+      {"over the whole height", {1, 0, 1, 2}, {5, 0, 1, 3}, "000002\n00000c\n00000c\n"},
+      {"past the surface's left and top", {0, 0, 4, 2}, {-2, -1, 4, 2}, "de0000\n000000\n000000\n"},
+      {"past its right and bottom", {0, 0, 4, 2}, {4, 2, 4, 2}, "000000\n000000\n000012\n"},
+      {"from past the picture", {2, 1, 4, 2}, {0, 0, 4, 2}, "de0000\n000000\n000000\n"},
+      {"from before the picture", {-1, -1, 3, 2}, {0, 0, 3, 2}, "000000\n012000\n000000\n"},
+      {"to nothing", {0, 0, 4, 2}, {1, 1, 0, 2}, "000000\n000000\n000000\n"},
+      {"to less than nothing", {0, 0, 4, 2}, {3, 1, -2, 1}, "000000\n000000\n000000\n"},
+  };
+  for (const auto& [what, from, to, drawing] : cases) {
+    CAPTURE(what);
+    Canvas canvas = black(6, 3);
+    canvas.surface().copy(picture, from, to);
+    CHECK(canvas.drawing() == drawing);
+  }
+}
+
+TEST_CASE("opacity mixes each colour by itself") {
+  const struct {
+    std::uint32_t over, result;
+  } cases[] = {
+      {0x00FFFFFF, 0x204060}, {0xFF102030, 0x102030}, {0x80FFFFFF, 0x90A0B0}, {0x40000000, 0x183048}};
+  for (const auto& [over, result] : cases) {
+    const std::uint32_t color = over;
+    const std::vector<unsigned char> file = bitmapFile(1, 1, [color](int, int) { return color; });
+    Canvas canvas(1, 1);
+    canvas.surface().clear(rgb(0x20, 0x40, 0x60));
+    canvas.surface().draw(Bitmap(file), {});
+    CHECK(canvas.at(0, 0) == result);
+  }
+}
+
+TEST_CASE("a part of a surface has its own corner and never paints outside") {
+  const std::vector<unsigned char> file = bitmapFile(4, 2, counted);
+  Canvas canvas = black(6, 4);
+  Surface window = canvas.surface().within({1, 1, 4, 2});
+  Surface panel = window.within({0, -1, 4, 6});
+  CHECK(panel.origin() == Point{1, 0});
+  CHECK(panel.clip() == Box{1, 1, 4, 2});
+  panel.draw(Bitmap(file), {1, 0});
+  panel.fill({-3, 2, 5, 9}, rgb(0, 0, 9));
+  CHECK(canvas.drawing() == "000000\n00bcd0\n099000\n000000\n");
+}
+
+TEST_CASE("twips go to the nearest pixel") {
+  const int cases[][3] = {{0, 15, 0},   {7, 15, 0},    {8, 15, 1},    {-7, 15, 0},
+                          {-8, 15, -1}, {-15, 15, -1}, {732, 12, 61}, {-12, 12, -1}};
+  for (const auto& [twips, scale, expected] : cases) {
+    CAPTURE(twips);
+    CHECK(pixels(twips, scale) == expected);
+  }
+  CHECK(pixels(Box{-12, 36, 732, 276}, 12) == Box{-1, 3, 61, 23});
+}

@@ -1,0 +1,15 @@
+// Writes pictures as PNG: 24 bits a pixel, packed by a small packer of our own, so that the same picture
+// always gives the same bytes.
+#pragma once
+
+#include <string>
+
+#include "kit/Canvas.h"
+
+namespace zub::controls {
+
+std::string pngOf(const Canvas& canvas);
+// Whether the file could be written.
+bool writeFile(const std::string& path, const std::string& bytes);
+
+}  // namespace zub::controls
