@@ -1,0 +1,44 @@
+#include "app/console/Commands.h"
+
+#include <array>
+#include <cstdio>
+
+namespace zub {
+namespace {
+
+constexpr std::array commandTable{
+    Command{"wash", "", "start the program, press \"Start Cleaning\", press \"Finish\", end", washCommand},
+    Command{"start", "[/STARTUP] [/SCHEDULER]",
+            "start the program with these switches, to the end of its washes", startCommand},
+    Command{"options", "", "list what the settings store keeps", optionsCommand},
+    Command{"set", "NAME=VALUE...", "change settings, by the names that \"options\" lists", setCommand},
+    Command{"plugins", "", "list the custom and standard plugins with their ticks", pluginsCommand},
+    Command{"plugin show", "NAME", "tell what a plugin, custom or standard, removes", pluginShowCommand},
+    Command{"plugin check", "FILE", "tell line by line what a plugin file would do, and what can never work",
+            pluginCheckCommand},
+    Command{"cookies", "ie|netscape [keep|drop NAME...]", "list the cookies, or tick those to keep",
+            cookiesCommand},
+    Command{"schedule add", "DATE TIME", "add a dated wash", scheduleAddCommand},
+    Command{"schedule remove", "N", "remove the dated wash with that number", scheduleRemoveCommand},
+    Command{"schedule", "", "list the dated washes", scheduleCommand},
+    Command{"scheduler", "", "wait in the foreground and start the program at each dated wash and interval",
+            schedulerCommand},
+};
+
+}  // namespace
+
+std::span<const Command> commands() {
+  return commandTable;
+}
+
+void CommandContext::needAlone() const {
+  if (pc.platform().process.otherInstanceRuns()) throw UsageError("another Zubrane is at work on this PC");
+}
+
+void CommandContext::print(std::string_view text) const {
+  const std::string line = pc.toTerminal(text);
+  std::fwrite(line.data(), 1, line.size(), stdout);
+  std::fputc('\n', stdout);
+}
+
+}  // namespace zub

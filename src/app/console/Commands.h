@@ -1,0 +1,58 @@
+// The commands of the console program. Each returns the exit status; UsageError and PcError end in status 2.
+#pragma once
+
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/console/ConsoleLoop.h"
+#include "app/console/ConsolePc.h"
+
+namespace zub {
+
+namespace exitStatus {
+inline constexpr int Done = 0;        // all that was tried went
+inline constexpr int LeftBehind = 1;  // a wash ended and something could not be removed
+inline constexpr int Unusable = 2;    // wrong usage, or an unusable PC folder
+}  // namespace exitStatus
+
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+struct CommandContext {
+  ConsolePc& pc;
+  ConsoleLoop& loop;
+  std::vector<std::string> arguments;  // behind the command's words, in the PC's code page
+
+  // For commands that change the PC: another program at work on it would undo it.
+  void needAlone() const;
+  void print(std::string_view text) const;  // to standard output, with a line end
+};
+
+struct Command {
+  std::string_view words;      // one word or two, as typed
+  std::string_view arguments;  // for the help text
+  std::string_view help;
+  int (*run)(CommandContext& context);
+};
+
+std::span<const Command> commands();
+
+int washCommand(CommandContext& context);
+int startCommand(CommandContext& context);
+int optionsCommand(CommandContext& context);
+int setCommand(CommandContext& context);
+int pluginsCommand(CommandContext& context);
+int pluginShowCommand(CommandContext& context);
+int pluginCheckCommand(CommandContext& context);
+int cookiesCommand(CommandContext& context);
+int scheduleCommand(CommandContext& context);
+int scheduleAddCommand(CommandContext& context);
+int scheduleRemoveCommand(CommandContext& context);
+int schedulerCommand(CommandContext& context);
+
+}  // namespace zub

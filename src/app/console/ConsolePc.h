@@ -1,0 +1,30 @@
+// The PC that the console program works on: one in a folder, or the one that it runs on.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/Platform.h"
+
+namespace zub {
+
+class ConsolePc {
+ public:
+  virtual ~ConsolePc() = default;
+  virtual Platform& platform() = 0;
+  virtual void save() = 0;  // keeps what the program changed; PcError where it cannot
+  // The folder that holds the PC; empty for the PC that this runs on.
+  virtual std::string folder() const = 0;
+  // Text of the PC for the terminal, and words of the command line for the PC.
+  virtual std::string toTerminal(std::string_view text) const = 0;
+  virtual std::string fromTerminal(std::string_view text) const = 0;
+};
+
+// Opens the PC in a folder. PcError where it cannot be used.
+std::unique_ptr<ConsolePc> openFolderPc(const std::string& folder, EventLoop& events, Messages& messages,
+                                        const std::string& commandLine);
+// The PC that this runs on; null where there is none that the program could wash.
+std::unique_ptr<ConsolePc> openThisPc(EventLoop& events, Messages& messages);
+
+}  // namespace zub

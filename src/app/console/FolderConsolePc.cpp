@@ -1,0 +1,33 @@
+#include "app/console/ConsolePc.h"
+#include "platform/folder/CodePage1252.h"
+#include "platform/folder/FolderPc.h"
+
+namespace zub {
+namespace {
+
+class FolderConsolePc : public ConsolePc {
+ public:
+  FolderConsolePc(const std::string& folder, EventLoop& events, Messages& messages,
+                  const std::string& commandLine)
+      : folder_(folder), pc_(folder, commandLine), platform_(pc_.platform(events, messages)) {}
+
+  Platform& platform() override { return platform_; }
+  void save() override { pc_.save(); }
+  std::string folder() const override { return folder_; }
+  std::string toTerminal(std::string_view text) const override { return utf8From1252(text); }
+  std::string fromTerminal(std::string_view text) const override { return ansiFromUtf8(text); }
+
+ private:
+  std::string folder_;
+  FolderPc pc_;
+  Platform platform_;
+};
+
+}  // namespace
+
+std::unique_ptr<ConsolePc> openFolderPc(const std::string& folder, EventLoop& events, Messages& messages,
+                                        const std::string& commandLine) {
+  return std::make_unique<FolderConsolePc>(folder, events, messages, commandLine);
+}
+
+}  // namespace zub

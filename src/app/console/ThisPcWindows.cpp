@@ -1,0 +1,44 @@
+#include "app/console/ConsolePc.h"
+#include "platform/win32/Win32Platform.h"
+
+namespace zub {
+namespace {
+
+// The console program shows no icon.
+class NoTray : public Tray {
+ public:
+  void add(std::string_view) override {}
+  void remove() override {}
+};
+
+class ThisPc : public ConsolePc {
+ public:
+  ThisPc(EventLoop& events, Messages& messages)
+      : windows_(events, tray_, [] { return nullptr; }),
+        platform_(withMessages(windows_.platform(), messages)) {}
+
+  Platform& platform() override { return platform_; }
+  void save() override {}  // the system keeps what was changed
+  std::string folder() const override { return {}; }
+  std::string toTerminal(std::string_view text) const override { return std::string(text); }
+  std::string fromTerminal(std::string_view text) const override { return std::string(text); }
+
+ private:
+  // Messages are lines of the terminal here, not boxes.
+  static Platform withMessages(const Platform& pc, Messages& messages) {
+    return {pc.codePage, pc.registry, pc.files,  pc.drives, pc.folders, pc.restart, pc.shell,
+            pc.clock,    pc.process,  pc.events, messages,  pc.tray,    pc.tasks};
+  }
+
+  NoTray tray_;
+  Win32Platform windows_;
+  Platform platform_;
+};
+
+}  // namespace
+
+std::unique_ptr<ConsolePc> openThisPc(EventLoop& events, Messages&) {
+  return std::make_unique<ThisPc>(events);
+}
+
+}  // namespace zub

@@ -1,0 +1,53 @@
+#include <functional>
+
+#include "app/Program.h"
+#include "app/console/Commands.h"
+
+namespace zub {
+namespace {
+
+// The report lies in memory with CR LF; a terminal wants neither CR nor a blank line at its end.
+std::string withoutCarriageReturns(std::string text) {
+  std::erase(text, '\r');
+  while (text.ends_with('\n')) text.pop_back();
+  return text;
+}
+
+// Runs the program from its start to the end of the process.
+int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
+  context.needAlone();
+  Program program(context.pc.platform());
+  context.loop.attach(program);
+  try {
+    program.start();
+    afterStart(program);
+    if (program.engine.animated.loaded()) program.engine.animated->cmdFinish_Click();
+    program.main.Unload();
+  } catch (const EndOfProcess&) {
+  }
+  context.loop.detach();
+  context.pc.save();
+
+  if (!program.engine.clean.txtResult.empty()) {
+    context.print(withoutCarriageReturns(program.engine.clean.txtResult));
+    const frmAnimated::State& shown = program.engine.animated.peek().state;
+    context.print("");
+    context.print(shown.lblRemove.Caption);
+    context.print(shown.StatusBar1[1]);
+    context.print(program.options.lblLastRemoval.Caption);
+  }
+  return program.engine.leftBehind > 0 ? exitStatus::LeftBehind : exitStatus::Done;
+}
+
+}  // namespace
+
+int washCommand(CommandContext& context) {
+  if (!context.arguments.empty()) throw UsageError("wash takes no arguments");
+  return runProgram(context, [](Program& program) { program.main.cmdRemove_Click(); });
+}
+
+int startCommand(CommandContext& context) {
+  return runProgram(context, [](Program&) {});
+}
+
+}  // namespace zub

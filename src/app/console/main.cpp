@@ -1,0 +1,102 @@
+// zub, the console program: a wash without windows.
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "app/console/Commands.h"
+#include "base/RuntimeError.h"
+#include "platform/folder/FolderPc.h"
+#include "platform/folder/PcError.h"
+
+namespace {
+
+using namespace zub;
+
+constexpr const char* programName = "zub";
+
+void printHelp() {
+  std::printf(
+      "Zubrane, a privacy cleaner.\n\n"
+      "  zub --pc FOLDER COMMAND   works on a PC kept in a folder\n"
+      "  zub COMMAND               works on the PC that it runs on (Windows only)\n"
+      "  zub new FOLDER            makes an empty PC\n"
+      "  zub --help | --version\n\n"
+      "Commands:\n");
+  for (const Command& command : commands()) {
+    const std::string usage = std::string(command.words) + " " + std::string(command.arguments);
+    std::printf("  %-40s %s\n", usage.c_str(), std::string(command.help).c_str());
+  }
+  std::printf(
+      "\nExit status: 0 all that was tried went, 1 something could not be removed, 2 wrong usage or an "
+      "unusable PC.\n");
+}
+
+// The command whose words the arguments begin with; they are taken from the arguments.
+const Command& takeCommand(std::vector<std::string>& arguments) {
+  if (arguments.empty()) throw UsageError("no command is given");
+  for (const Command& command : commands()) {
+    std::string words = arguments[0];
+    std::size_t count = 1;
+    if (command.words.find(' ') != std::string_view::npos && arguments.size() > 1) {
+      words += " " + arguments[1];
+      count = 2;
+    }
+    if (words != command.words) continue;
+    arguments.erase(arguments.begin(), arguments.begin() + static_cast<std::ptrdiff_t>(count));
+    return command;
+  }
+  throw UsageError("there is no command \"" + arguments[0] + "\"");
+}
+
+std::string joinedBehind(const std::vector<std::string>& words) {
+  std::string text;
+  for (const std::string& word : words) text += (text.empty() ? "" : " ") + word;
+  return text;
+}
+
+int run(std::vector<std::string> arguments) {
+  if (arguments == std::vector<std::string>{"--help"}) {
+    printHelp();
+    return exitStatus::Done;
+  }
+  if (arguments == std::vector<std::string>{"--version"}) {
+    std::printf("Zubrane %s\n", ZUB_VERSION);
+    return exitStatus::Done;
+  }
+  if (arguments.size() == 2 && arguments[0] == "new") {
+    createPc(arguments[1]);
+    return exitStatus::Done;
+  }
+  std::string folder;
+  if (!arguments.empty() && arguments[0] == "--pc") {
+    if (arguments.size() < 2) throw UsageError("--pc takes a folder");
+    folder = arguments[1];
+    arguments.erase(arguments.begin(), arguments.begin() + 2);
+  }
+  const Command& command = takeCommand(arguments);
+
+  ConsolePc* opened = nullptr;
+  ConsoleLoop loop([&opened](std::string_view text) { return opened->toTerminal(text); });
+  const auto pc =
+      folder.empty() ? openThisPc(loop, loop) : openFolderPc(folder, loop, loop, joinedBehind(arguments));
+  if (!pc) throw UsageError("there is no Windows here to work on: give a PC in a folder with --pc FOLDER");
+  opened = pc.get();
+  for (std::string& argument : arguments) argument = pc->fromTerminal(argument);
+  CommandContext context{*pc, loop, std::move(arguments)};
+  return command.run(context);
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  try {
+    return run({words + 1, words + count});
+  } catch (const UsageError& error) {
+    std::fprintf(stderr, "%s: %s\nSee \"%s --help\".\n", programName, error.what(), programName);
+  } catch (const PcError& error) {
+    std::fprintf(stderr, "%s: %s\n", programName, error.what());
+  } catch (const RuntimeError& error) {
+    std::fprintf(stderr, "%s: %s\n", programName, error.what());
+  }
+  return exitStatus::Unusable;
+}

@@ -1,0 +1,23 @@
+// Which single-run times have come since the last look: what a scheduler of its own needs besides waiting.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "base/Time.h"
+
+namespace zub {
+
+class DueTimes {
+ public:
+  explicit DueTimes(const SystemTime& now) : last_(secondsOf(now)) {}
+
+  // The indexes of the times after the last look and up to now. A clock that was put back, or on by more than five
+  // minutes, starts anew from now: what lay between is lost and nothing runs twice.
+  std::vector<std::size_t> look(const std::vector<SystemTime>& times, const SystemTime& now);
+
+ private:
+  std::int64_t last_;  // seconds
+};
+
+}  // namespace zub
