@@ -1,0 +1,1 @@
+user_pref("browser.startup.homepage", "http://news.example.com/");
