@@ -9,19 +9,13 @@ namespace {
 constexpr std::string_view KeyMarker = "- Key*";
 constexpr std::string_view ValueMarker = "+ Value`= ";
 
-std::string joined(std::initializer_list<std::string_view> parts) {
-  std::string text;
-  for (const std::string_view part : parts) text += part;
-  return text;
-}
-
 }  // namespace
 
 std::string fileRow(const FileBoxes& boxes) {
   std::string row = withBackslash(trim(boxes.folder));
   if (!boxes.byPattern) return row += trim(boxes.name);
   row += trim(boxes.pattern);
-  if (boxes.subfolders) row += joined({" ", SubfoldersMarker});
+  if (boxes.subfolders) (row += ' ') += SubfoldersMarker;
   return row;
 }
 
@@ -49,9 +43,11 @@ const std::vector<std::string>& editorHives() {
 std::string registryRow(std::string_view hive, std::string_view path, RegistryKind kind,
                         std::string_view keyValue) {
   path = trim(path);
-  std::string row = joined({hive, path.starts_with('\\') ? "" : "\\", path});
-  if (kind == RegistryKind::Value) return row += joined({ValueMarker, trim(keyValue)});
-  return withBackslash(row) += joined({trim(keyValue), KeyMarker});
+  std::string row(hive);
+  if (!path.starts_with('\\')) row += '\\';
+  row += path;
+  if (kind == RegistryKind::Value) return (row += ValueMarker) += trim(keyValue);
+  return (withBackslash(row) += trim(keyValue)) += KeyMarker;
 }
 
 RegistryBoxes registryBoxes(const CodePage& codePage, std::string_view row) {

@@ -38,7 +38,7 @@ const Fault<Entry>* firstFault(const Fault<Entry> (&faults)[Count], const Entry&
 }
 
 struct FileEntry {
-  std::string_view path;  // without the marker, if that counts
+  std::string_view path;  // without the marker
   std::string_view behindMarker;
   bool hasMarker = false;
   bool wildcard = false;

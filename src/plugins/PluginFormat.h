@@ -1,10 +1,10 @@
 // What the lines of a custom plugin's files are made of. 8-bit text in the PC's ANSI code page, lines ended
 // by CR LF, one entry a line.
 //
-//   .zb1   C:\FOLDER\FILE                                   one file
-//          C:\FOLDER\PATTERN                                the files of the folder; the pattern has "?" or
-//          "*" C:\FOLDER\PATTERN >plus subdirectories<          these, and those in all folders below No
-//          entries.                                      ends the list
+//   .zb1   C:\FOLDER\FILE                             one file
+//          C:\FOLDER\PATTERN                          the files of the folder; the pattern has "?" or "*"
+//          C:\FOLDER\PATTERN >plus subdirectories<    these, and those in all folders below
+//          No entries.                                ends the list
 //   .zb2   a trace specification (engine/RegistryHelper.h)
 //   .zb3   the information line, then the comments
 #pragma once
