@@ -1,6 +1,5 @@
 #include "support/TestPc.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 #include "base/Text.h"
@@ -16,29 +15,12 @@ namespace {
 constexpr std::string_view ShellFolders =
     "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
 
-std::string factName(std::string_view line) {
-  return folded(trim(line.substr(0, line.find('='))));
-}
-
-// The facts of a new PC with the given ones in their place or behind.
-std::string mergedFacts(std::string_view defaults, const std::vector<std::string>& facts) {
-  std::string text;
-  while (!defaults.empty()) {
-    const std::string_view line = defaults.substr(0, defaults.find('\n') + 1);
-    defaults.remove_prefix(line.size());
-    const bool replaced =
-        std::ranges::any_of(facts, [&](const std::string& fact) { return factName(fact) == factName(line); });
-    if (!replaced) text += line;
-  }
-  for (const std::string& fact : facts) text += fact + "\n";
-  return text;
-}
-
-// Makes an empty PC with these facts in a folder and gives that folder.
+// Makes a PC with these facts in a folder, as yet without folders of its own, and gives that folder.
 const std::string& preparePc(TempFolder& folder, const std::vector<std::string>& facts) {
-  createPc(folder.path());
-  const std::string defaults = readHostFile(folder.dir(), PcFacts::FileName);
-  writeHostFile(folder.dir(), PcFacts::FileName, mergedFacts(defaults, facts));
+  std::string text;
+  for (const std::string& fact : facts) text += fact + "\n";
+  writeHostFile(folder.dir(), PcFacts::FileName, text);
+  folder.dir().makeDir("C");
   return folder.path();
 }
 

@@ -71,11 +71,13 @@ void FolderChannel::write(std::string_view bytes) {
 
 void FolderChannel::close() {
   if (!file_) return;
-  const std::unique_ptr<HostFile> closing = std::move(file_);
-  if (window_.empty()) return;
-  const std::string kept = std::move(window_);
-  window_.clear();
-  check(closing->write(windowStart_, kept));
+  try {
+    flush();
+  } catch (const RuntimeError&) {
+    file_.reset();
+    throw;
+  }
+  file_.reset();
 }
 
 void FolderChannel::closeOnDisk() {

@@ -21,6 +21,23 @@ void removeForced(HostDir& folder, const std::string& name) {
   check(error);
 }
 
+// The 8.3 name of the entry that a path calls `part` and the host, if it knows it as told, `hostName`.
+std::string shortNameIn(HostList& listing, const std::string& hostName, const std::string& part) {
+  std::vector<std::string> names;
+  std::size_t place = std::string::npos;
+  HostEntry entry;
+  while (listing.next(entry)) {
+    if (entry.name == hostName) place = names.size();
+    names.push_back(ansiFromUtf8(entry.name));
+  }
+  const std::vector<std::string> shorts = shortNames(names);
+  for (std::size_t i = 0; i < names.size() && place == std::string::npos; ++i) {
+    if (equalFolded(names[i], part) || equalFolded(shorts[i], part)) place = i;
+  }
+  if (place == std::string::npos) throw RuntimeError(ErrorNumber::FileNotFound);
+  return shorts[place];
+}
+
 bool isFolder(const FolderDisk::Place& place) {
   return place.exists && place.stat.kind == HostKind::Folder;
 }
@@ -180,7 +197,9 @@ void FolderFiles::createFolder(std::string_view path) {
 
 void FolderFiles::deleteFolder(std::string_view path) {
   seenPath_.clear();
-  FolderPath parts = parse(path);
+  FolderPath parts;
+  if (parsePath(path, facts_.current, parts) != PathFault::None)
+    throw RuntimeError(ErrorNumber::PathNotFound);
   const Place place = disk_.place(parts);
   if (!isFolder(place)) throw RuntimeError(ErrorNumber::PathNotFound);
   checkDrive(parts.drive);
@@ -188,30 +207,37 @@ void FolderFiles::deleteFolder(std::string_view path) {
   removeTree(*place.parent, place.name, parts);
 }
 
-// Depth first. What comes in while the tree goes is left to another round, as long as a round gets on. `path`
-// is the folder's own.
+// Depth first. What comes in while the tree goes is left to another round, as long as a round gets on. The
+// folder is closed before it is removed, which some hosts need. `path` is the folder's own.
 void FolderFiles::removeTree(HostDir& parent, const std::string& name, FolderPath& path) {
-  std::unique_ptr<HostDir> folder;
-  check(parent.openDir(name, folder));
-  HostEntry entry;
-  for (bool removedSome = true; removedSome;) {
-    removedSome = false;
-    std::unique_ptr<HostList> listing;
-    check(folder->list(listing));
-    while (listing->next(entry)) {
-      path.parts.push_back(ansiFromUtf8(entry.name));
-      if (isLocked(path)) throw RuntimeError(ErrorNumber::PermissionDenied);
-      if (entry.stat.kind == HostKind::Folder) {
-        removeTree(*folder, entry.name, path);
-      } else {
-        removeForced(*folder, entry.name);
-      }
-      if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
-      path.parts.pop_back();
-      removedSome = true;
-    }
+  HostError error = HostError::NotEmpty;
+  for (bool removedSome = true; error == HostError::NotEmpty && removedSome;) {
+    removedSome = removeContent(parent, name, path);
+    error = parent.removeDir(name);
   }
-  check(parent.removeDir(name));
+  check(error);
+}
+
+bool FolderFiles::removeContent(HostDir& parent, const std::string& name, FolderPath& path) {
+  std::unique_ptr<HostDir> folder;
+  std::unique_ptr<HostList> listing;
+  check(parent.openDir(name, folder));
+  check(folder->list(listing));
+  bool removedSome = false;
+  HostEntry entry;
+  while (listing->next(entry)) {
+    path.parts.push_back(ansiFromUtf8(entry.name));
+    if (isLocked(path)) throw RuntimeError(ErrorNumber::PermissionDenied);
+    if (entry.stat.kind == HostKind::Folder) {
+      removeTree(*folder, entry.name, path);
+    } else {
+      removeForced(*folder, entry.name);
+    }
+    if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
+    path.parts.pop_back();
+    removedSome = true;
+  }
+  return removedSome;
 }
 
 std::string FolderFiles::shortPath(std::string_view path) {
@@ -225,17 +251,7 @@ std::string FolderFiles::shortPath(std::string_view path) {
       std::unique_ptr<HostList> listing;
       check(disk_.folder(walked).list(listing));
       walked.parts.push_back(part);
-      const std::string hostName = disk_.place(walked).name;
-      std::vector<std::string> hostNames;
-      std::vector<std::string> names;
-      HostEntry entry;
-      while (listing->next(entry)) {
-        hostNames.push_back(entry.name);
-        names.push_back(ansiFromUtf8(entry.name));
-      }
-      const auto place = static_cast<std::size_t>(std::ranges::find(hostNames, hostName) - hostNames.begin());
-      if (place == hostNames.size()) return {};
-      result.parts.push_back(shortNames(names)[place]);
+      result.parts.push_back(shortNameIn(*listing, disk_.place(walked).name, part));
     }
     return result.text();
   } catch (const RuntimeError&) {

@@ -38,6 +38,8 @@ class FolderFiles : public Files {
   void checkWritable(const FolderPath& path, const Place& place) const;
   bool isLocked(const FolderPath& path) const;
   void checkDrive(char drive) const;
+  // Whether anything was there to remove.
+  bool removeContent(HostDir& parent, const std::string& name, FolderPath& path);
   void removeTree(HostDir& parent, const std::string& name, FolderPath& path);
 
   FolderDisk& disk_;

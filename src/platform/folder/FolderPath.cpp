@@ -51,8 +51,9 @@ std::string FolderPath::key() const {
 }
 
 bool isLegalName(std::string_view name) {
-  return !name.empty() && withoutEnd(name) == name && std::ranges::none_of(name, isIllegal) &&
-         !isDevice(name);
+  constexpr std::size_t longest = 255;
+  return !name.empty() && name.size() <= longest && withoutEnd(name) == name &&
+         std::ranges::none_of(name, isIllegal) && !isDevice(name);
 }
 
 PathFault parsePath(std::string_view path, const FolderPath& current, FolderPath& result) {

@@ -20,7 +20,8 @@ struct FolderPath {
 
 enum class PathFault : std::uint8_t {
   None,
-  BadName,    // holds a part that no file can have: an illegal character, a device, blanks and dots only
+  BadName,    // holds a part that no file can have: an illegal character, a device, blanks and dots only,
+              // more than 255 characters
   NoNetwork,  // a network path; a PC in a folder has none
 };
 

@@ -33,7 +33,8 @@ bool FolderSearch::advance() {
 
 bool FolderSearch::next(FoundFile& found) {
   if (!ahead_) return false;
-  if (!entry_.complete && entry_.stat.kind == HostKind::File) listing_->complete(entry_);
+  const bool wanted = !pattern_.matchesEverything() && entry_.stat.kind == HostKind::File;
+  if (wanted && !entry_.complete) listing_->complete(entry_);
   found.name = path_.parts.back();
   found.attributes = attributesOf(entry_.stat, path_, facts_);
   found.nFileSizeHigh = static_cast<std::uint32_t>(entry_.stat.size >> 32);

@@ -12,11 +12,15 @@
 namespace zub {
 namespace {
 
+// The sizes of the system's version record, in bytes.
+constexpr std::uint32_t VersionRecord = 148;
+constexpr std::uint32_t LongVersionRecord = 156;
+
 constexpr std::int32_t Failed = static_cast<std::int32_t>(0x80004005);
 
 // '\0' where the text is no drive.
 char letterOf(std::string_view drive) {
-  const bool isDrive = drive.size() == 1 || (drive.size() > 1 && drive[1] == ':');
+  const bool isDrive = drive.size() > 1 && drive[1] == ':';
   return isDrive ? static_cast<char>(UpperCase1252[static_cast<unsigned char>(drive[0])]) : '\0';
 }
 
@@ -69,7 +73,8 @@ void FolderRestart::writeProfile(std::string_view section, std::string_view key,
 }
 
 std::uint32_t FolderRestart::platformId(std::uint32_t recordSize) {
-  if (recordSize == 0) return 0;
+  const bool tellsItsSize = recordSize == VersionRecord || recordSize == LongVersionRecord;
+  if (!tellsItsSize) return 0;
   return facts_.nt ? 2 : 1;
 }
 

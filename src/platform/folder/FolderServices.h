@@ -13,7 +13,7 @@ class FolderDrives : public Drives {
   FolderDrives(FolderDisk& disk, const PcFacts& facts) : disk_(disk), facts_(facts) {}
 
   std::vector<std::string> list() override;
-  bool exists(std::string_view drive) override;  // "c", "C:" or "C:\"
+  bool exists(std::string_view drive) override;
   DriveType type(std::string_view drive) override;
 
  private:

@@ -39,8 +39,8 @@ std::string withProfileKey(std::string_view text, std::string_view section, std:
   }
   if (!lines.empty() && !lines.back().ends_with('\n')) lines.back() += CrLf;
 
-  std::string entry(key);
-  entry.append("=").append(value).append(CrLf);
+  const std::string setting = "=" + std::string(value) + std::string(CrLf);
+  const std::string entry = std::string(key) + setting;
 
   std::size_t place = 0;
   while (place < lines.size() && !isSectionOf(lines[place], section)) ++place;
@@ -54,7 +54,7 @@ std::string withProfileKey(std::string_view text, std::string_view section, std:
       ++place;
     }
     if (place < lines.size() && !isSection(lines[place])) {
-      lines[place] = entry;
+      lines[place] = std::string(trim(lines[place].substr(0, lines[place].find('=')))) + setting;
     } else {
       lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(behindLast), entry);
     }

@@ -13,6 +13,7 @@ class Wildcard {
  public:
   explicit Wildcard(std::string_view pattern);
   bool matches(std::string_view name) const;
+  bool matchesEverything() const { return everything_; }
 
  private:
   std::string pattern_;  // folded

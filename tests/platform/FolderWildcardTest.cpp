@@ -1,0 +1,63 @@
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "platform/folder/ShortName.h"
+#include "platform/folder/Wildcard.h"
+
+using namespace zub;
+
+TEST_CASE("wildcards") {
+  struct Row {
+    const char* pattern;
+    std::vector<const char*> match;
+    std::vector<const char*> differ;
+  };
+  const std::vector<Row> rows = {
+      {"*.*", {"a", "a.b", ".x", "a.b.c"}, {}},
+      {"*", {"a", "a.b"}, {}},
+      {"Trash.", {"trash", "TRASH"}, {"trash.dbx", "trash2"}},
+      {"*.", {"readme"}, {"readme.txt"}},
+      {"*.chk", {"FILE0000.CHK", "a.b.chk"}, {"chk", "a.chk2", "a.ch"}},
+      {"*.chk  ", {"a.chk"}, {"a"}},
+      {"a.txt. .", {"A.TXT"}, {"a"}},
+      {"index.*", {"index.dat", "INDEX", "index.x.y"}, {"index2.dat"}},
+      {"f??.txt", {"f.txt", "f1.txt", "f12.txt"}, {"f123.txt", "g12.txt"}},
+      {"a*b*c", {"abc", "axxbxxc", "abbcc"}, {"ab", "acb"}},
+      {"*a?", {"bab", "a", "aaa"}, {"b", "abb"}},
+      {"\xE4*", {"\xC4pfel"}, {"Apfel"}},
+      {"", {}, {"a"}},
+      {" ", {}, {"a"}},
+      {".", {}, {"a", "a.b"}},
+  };
+  for (const Row& row : rows) {
+    CAPTURE(row.pattern);
+    const Wildcard wildcard(row.pattern);
+    for (const char* name : row.match) CHECK_MESSAGE(wildcard.matches(name), name);
+    for (const char* name : row.differ) CHECK_MESSAGE(!wildcard.matches(name), name);
+  }
+}
+
+TEST_CASE("a pattern of many stars is settled at once") {
+  std::string pattern;
+  for (int i = 0; i < 200; ++i) pattern += "*a";
+  CHECK_FALSE(Wildcard(pattern + "*b").matches(std::string(5000, 'a')));
+}
+
+TEST_CASE("8.3 names") {
+  const std::vector<std::string> names = {
+      "WINDOWS",           "Program Files", "Program Data", "a.htm",    "a.html",
+      "My long.name.text", "PROGRA~1",      "readme",       ".profile", "a+b.txt"};
+  const std::vector<std::string> expected = {"WINDOWS",      "PROGRA~3", "PROGRA~2", "a.htm",    "A~1.HTM",
+                                             "MYLONG~1.TEX", "PROGRA~1", "readme",   "PROFIL~1", "A_B~1.TXT"};
+  CHECK(shortNames(names) == expected);
+
+  std::vector<std::string> many;
+  for (int i = 0; i < 1200; ++i) many.push_back("long file name " + std::to_string(i));
+  std::vector<std::string> shorts = shortNames(many);
+  for (const std::string& name : shorts) CHECK(isShortName(name));
+  std::sort(shorts.begin(), shorts.end());
+  CHECK(std::adjacent_find(shorts.begin(), shorts.end()) == shorts.end());
+}
