@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "cleaners/ShellFolder.h"
+#include "engine/ShellFolder.h"
 #include "cleaners/frmIECookieKeep.h"
 #include "engine/Engine.h"
 

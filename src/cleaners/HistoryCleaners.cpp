@@ -3,16 +3,10 @@
 #include <string>
 
 #include "engine/Engine.h"
+#include "engine/ShellFolder.h"
 
 namespace zub {
 namespace {
-
-constexpr const char* RecentFolder =
-    "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders+ Value`= "
-    "Recent";
-constexpr const char* AppDataFolder =
-    "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders+ Value`= "
-    "AppData";
 
 constexpr const char* officePrograms[] = {"Word", "Excel", "PowerPoint", "Access"};
 constexpr const char* officeVersions[] = {"10.0", "9.0", "8.0"};
@@ -23,7 +17,7 @@ void CleanDocumentHistory(Engine& engine) {
   CleanerFrame frame(engine, Task::DocumentHistory);
   frame.announce();
   frame.heading();
-  const std::string recent = engine.registryHelper.TraceValue(RecentFolder);
+  const std::string recent = shellFolder(engine, "Recent");
   engine.clean.AddItem("\tRemoving registry entries - Recently opened documents");
   engine.registryHelper.DeleteTrace(
       "HKey_Current_User\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RecentDocs- Key*");
@@ -74,7 +68,7 @@ void CleanMediaPlayer(Engine& engine) {
 void CleanOffice(Engine& engine) {
   CleanerFrame frame(engine, Task::Office);
   frame.announce();
-  const std::string folder = engine.registryHelper.TraceValue(AppDataFolder) + "\\microsoft\\office\\recent";
+  const std::string folder = shellFolder(engine, "AppData") + "\\microsoft\\office\\recent";
   frame.heading();
   engine.clean.AddItem("\tRemoved Files - Recent File History");
   const bool missing = engine.deleter->DeleteFolder(folder, "*.*");

@@ -1,64 +1,16 @@
 #include "cleaners/frmIECookieKeep.h"
 
-#include <unordered_map>
 #include <unordered_set>
-#include <utility>
-#include <vector>
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "cleaners/IECookieIndex.h"
 #include "cleaners/LfLine.h"
-#include "cleaners/ShellFolder.h"
+#include "engine/ShellFolder.h"
+#include "cleaners/UnclaimedFiles.h"
 #include "engine/Engine.h"
 
 namespace zub {
-namespace {
-
-// The cookie files that no record has claimed yet. A name is found without regard to case; of names that
-// differ in nothing else the first goes first.
-class UnclaimedFiles {
- public:
-  UnclaimedFiles(const CodePage& codePage, const std::vector<std::string>& names)
-      : codePage_(codePage), names_(names), sameName_(names.size(), None), claimed_(names.size()) {
-    first_.reserve(names.size());
-    for (std::size_t file = names.size(); file-- > 0;) {
-      const auto [place, isNew] = first_.try_emplace(codePage.upper(names[file]), file);
-      if (!isNew) sameName_[file] = std::exchange(place->second, file);
-    }
-  }
-
-  bool claim(std::string_view name) {
-    const auto place = first_.find(codePage_.upper(name));
-    if (place == first_.end()) return false;
-    const std::size_t file = place->second;
-    claimed_[file] = true;
-    if (sameName_[file] == None) {
-      first_.erase(place);
-    } else {
-      place->second = sameName_[file];
-    }
-    return true;
-  }
-
-  template <class Use>
-  void forEachLeft(Use use) const {
-    for (std::size_t file = 0; file < names_.size(); ++file) {
-      if (!claimed_[file]) use(names_[file]);
-    }
-  }
-
- private:
-  static constexpr std::size_t None = static_cast<std::size_t>(-1);
-
-  const CodePage& codePage_;
-  const std::vector<std::string>& names_;
-  std::unordered_map<std::string, std::size_t> first_;  // by the upper-cased name
-  std::vector<std::size_t> sameName_;                   // the next file of that name
-  std::vector<bool> claimed_;
-};
-
-}  // namespace
 
 frmIECookieKeep::frmIECookieKeep(Engine& engine)
     : engine_(engine), flList_(engine.pc, "*.txt", FileLister::Hidden::Skip) {
@@ -96,7 +48,7 @@ void frmIECookieKeep::listCookies() {
   while (index.next(cookie)) {
     if (unclaimed.claim(trim(cookie.file))) addRow(cookie.site, cookie.file);
   }
-  unclaimed.forEachLeft([this](const std::string& name) { addRow(name, name); });
+  unclaimed.forEach([this](const std::string& name) { addRow(name, name); });
 }
 
 void frmIECookieKeep::tickKept() {

@@ -6,7 +6,7 @@
 #include "base/Text.h"
 #include "cleaners/LfLine.h"
 #include "cleaners/NetscapeCookies.h"
-#include "cleaners/ShellFolder.h"
+#include "engine/ShellFolder.h"
 #include "engine/Engine.h"
 
 namespace zub {

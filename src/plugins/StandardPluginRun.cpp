@@ -3,14 +3,11 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "engine/Engine.h"
+#include "engine/ShellFolder.h"
 #include "plugins/Catalogue.h"
 
 namespace zub {
 namespace {
-
-constexpr const char* AppDataFolder =
-    "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders"
-    "+ Value`= AppData";
 
 std::string baseOf(Engine& engine, const CatalogueAction& action, const std::string& appData) {
   switch (action.base) {
@@ -49,7 +46,7 @@ void RunStandardPlugin(Engine& engine, const Catalogue& catalogue, const std::st
     engine.clean.AddItem("\r\nZUB has cleaned " + name + " , with the following results:");
     engine.clean.AddItem("\tDeleting registry items for " + name);
     // Read for every row, used or not: it is also what makes the registry removal look at values.
-    const std::string appData = engine.registryHelper.TraceValue(AppDataFolder);
+    const std::string appData = shellFolder(engine, "AppData");
     if (const CatalogueRow* row = catalogue.find(name)) {
       for (const CatalogueAction& action : row->actions) carryOut(engine, action, appData);
     }

@@ -1,4 +1,4 @@
-#include "cleaners/ShellFolder.h"
+#include "engine/ShellFolder.h"
 
 #include "engine/Engine.h"
 

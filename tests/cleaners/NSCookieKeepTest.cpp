@@ -1,0 +1,204 @@
+#include <doctest/doctest.h>
+
+#include "cleaners/BrowserFiles.h"
+#include "cleaners/NetscapeCookies.h"
+#include "cleaners/frmNSCookieKeep.h"
+#include "support/WashFixture.h"
+
+using namespace zub;
+using namespace std::string_literals;
+
+namespace {
+
+const std::string One = "C:\\W\\AppData\\Mozilla\\Profiles\\default\\abcd.slt";
+const std::string Two = "C:\\W\\AppData\\Mozilla\\Profiles\\work\\wxyz.slt";
+const std::string ProfileRegistry = "C:\\W\\AppData\\Mozilla\\Registry.dat";
+const std::string RootKeep = "C:\\ZUBKeepNS6.inf";
+const std::string Header = "# HTTP Cookie File\n\n";
+
+struct ProfilePc : WashFixture {
+  frmNSCookieKeep keep{engine};
+
+  ProfilePc() { pc.shellFolder("AppData", "C:\\W\\AppData"); }
+  void profiles() {
+    pc.file(ProfileRegistry, profileRegistry({"Profiles", "default", One, "work", Two, "tail"}));
+    pc.file(One + "\\Cookies.txt", Header + cookieLine(".shop.example", "basket", "17") +
+                                       cookieLine(".shop.example", "login", "me") +
+                                       cookieLine("news.example", "a,b", "1"));
+    pc.file(Two + "\\Cookies.txt", Header + cookieLine("bank.example", "id", "9"));
+  }
+  void cookies(const std::string& bytes) {
+    pc.file(ProfileRegistry, profileRegistry({One}));
+    pc.file(One + "\\Cookies.txt", bytes);
+  }
+  std::string keepFile(const std::string& folder) const { return pc.bytes(folder + "\\ZUBKeepNS6.inf"); }
+  // The marks of the rows, "*" for a ticked one.
+  std::string ticks() const {
+    std::string marks;
+    for (int row = 0; row < keep.lstDelete.ListCount(); ++row)
+      marks += keep.lstDelete.Selected(row) ? '*' : '-';
+    return marks;
+  }
+};
+
+}  // namespace
+
+TEST_CASE("name and value stand behind the expiry, as far as the fields before it are short") {
+  struct Case {
+    std::string line;
+    std::string name;
+    std::string value;
+  };
+  const Case cases[] = {
+      {"a.example\tTRUE\t/\tFALSE\t1023456789\tname\tvalue", "name\t", "value"},
+      {"a.example\tTRUE\t/\tFALSE\t1023456789\tname\tva\tlue\r", "name\t", "va\tlue\r"},
+      {"a.example\tTRUE\t/shop/\tFALSE\t1023456789\tname\tvalue", "name\t", "value"},
+      // The tab before the expiry is the 23rd character from the domain on, and the 24th.
+      {"a.example\tTRUE\t/eight/890\tFALSE\t1023456789\tname\tvalue", "name\t", "value"},
+      {"a.example\tTRUE\t/eight/8901\tFALSE\t1023456789\tname\tvalue", "1023456789\t", "name\tvalue"},
+      {"a.example\tTRUE\t/a/much/longer/path\tFALSE\t1\tname\tvalue", "FALSE\t", "1\tname\tvalue"},
+      {"a.example\tTRUE\t/", "\t", "TRUE\t/"},
+      {"a.example\tTRUE\t/\tFALSE\t1023456789\tname", "", "name"},
+      {"\t", "\t", ""},
+  };
+  for (const Case& c : cases) {
+    CAPTURE(c.line);
+    CHECK(nameAndValue(c.line).name == c.name);
+    CHECK(nameAndValue(c.line).value == c.value);
+  }
+}
+
+TEST_CASE("profiles are the texts of the registry file that name a folder with cookies") {
+  ProfilePc pc;
+  pc.profiles();
+  pc.pc.folder("C:\\W\\empty.slt");
+  pc.pc.file("C:\\W\\plain\\Cookies.txt");
+  pc.pc.file("C:\\W\\last.slt\\Cookies.txt");
+  pc.pc.file(ProfileRegistry,
+             profileRegistry({"C:\\W\\empty.slt", One, "C:\\W\\plain", ".slt", "C:\\gone.slt", Two}) +
+                 "C:\\W\\last.slt");
+  pc.keep.Load();
+  CHECK(pc.keep.NS6Exists);
+  REQUIRE(pc.keep.cmbSelect.ListCount() == 2);
+  CHECK(pc.keep.cmbSelect.List(0) == One);
+  CHECK(pc.keep.cmbSelect.List(1) == Two);
+  CHECK(pc.keep.cmbProfile.Text() == "default");
+  CHECK(pc.keep.cmbProfile.List(1) == "work");
+  CHECK(pc.keep.lstDelete.ListCount() == 3);
+  CHECK(pc.pc.bytes(RootKeep) == "");  // written while no profile was chosen
+  CHECK(pc.keep.lblKeep[1].Caption == "Select one of your Netscape profiles");
+
+  pc.keep.cmdRefresh_Click();
+  CHECK(pc.keep.cmbSelect.ListCount() == 2);
+  REQUIRE(pc.keep.cmbProfile.ListCount() == 4);
+  CHECK(pc.keep.cmbProfile.List(3) == "work");
+  pc.keep.cmbProfile.ListIndex(3);  // no folder stands beside it
+  CHECK(pc.keep.lstDelete.ListCount() == 0);
+}
+
+TEST_CASE("a PC without profiles says so for good") {
+  const bool withFolder[] = {false, true};
+  for (const bool exists : withFolder) {
+    ProfilePc pc;
+    if (exists) pc.pc.folder("C:\\W\\AppData\\Mozilla");
+    pc.keep.Show();
+    CHECK(!pc.keep.NS6Exists);
+    CHECK(pc.keep.lblKeep[1].Caption == "Cannot find a copy of Netscape 6.x");
+    CHECK(!pc.keep.cmbProfile.Enabled);
+    CHECK(pc.pc.hasFile(ProfileRegistry) == exists);  // a missing file comes into being
+
+    pc.profiles();
+    pc.keep.cmdRefresh_Click();
+    CHECK(pc.keep.NS6Exists);
+    CHECK(pc.keep.cmbSelect.ListCount() == 2);
+    CHECK(!pc.keep.cmbProfile.Enabled);
+  }
+}
+
+TEST_CASE("a registry file of any bytes names no profile") {
+  for (const std::string& bytes : {""s, "\0"s, std::string(70000, '\0'), std::string(70000, '.'), ".slt\0"s,
+                                   "x.slt\0\n\r.slt\0*?.slt\0C:\\.slt\0\xFF\x01|<>.slt\0"s, One + "\0"s}) {
+    ProfilePc pc;
+    pc.pc.file(ProfileRegistry, bytes);
+    pc.keep.Load();
+    CHECK(pc.keep.cmbSelect.ListCount() == 0);
+    CHECK(!pc.keep.NS6Exists);
+  }
+}
+
+TEST_CASE("cookie rows are the lines with a tab that are no comments") {
+  ProfilePc pc;
+  pc.cookies("# comment\twith tab\n  # too\tx\n\n   \nno tab\n.a.example\tx\r\n\tstart\n" +
+             cookieLine("b.example", "n", "v") + "unended\tx");
+  pc.keep.Show();
+  REQUIRE(pc.keep.lstDelete.ListCount() == 3);
+  CHECK(pc.keep.lstDelete.List(0) == ".a.example\t");
+  CHECK(pc.keep.lstCookies.List(0) == ".a.example\tx\r");
+  CHECK(pc.keep.lstDelete.List(1) == "\t");
+  pc.keep.lstDelete.ListIndex(2);
+  CHECK(pc.keep.txtKeep.Text == "n\t\r\nv");
+}
+
+TEST_CASE("ticks belong to the profile and come back with it") {
+  ProfilePc pc;
+  pc.profiles();
+  pc.keep.Show();
+  pc.keep.lstDelete.Selected(1, true);
+  pc.keep.lstDelete.Selected(2, true);
+  pc.keep.cmbProfile.ListIndex(1);
+  CHECK(pc.keepFile(One) == ".shop.example\tlogin\t\r\nnews.example\ta,b\t\r\n");
+  pc.keep.chkSelectAll.Value(1);
+  CHECK(pc.ticks() == "*");
+  pc.keep.cmbProfile.ListIndex(0);
+  CHECK(pc.keepFile(Two) == "bank.example\tid\t\r\n");
+  CHECK(pc.ticks() == "-*-");  // a name with a comma is read as two
+  pc.keep.cmdOK_Click();
+  CHECK(!pc.keep.form.Visible);
+
+  pc.keep.chkSelectAll.Value(0);
+  CHECK(pc.ticks() == "---");
+  pc.keep.SelectNS6(One);
+  pc.keep.SelectNS6(One + "\\");
+  CHECK(pc.ticks() == "-*-");
+}
+
+TEST_CASE("a keep field ticks the rows of its domain and name, whatever else the file holds") {
+  struct Case {
+    std::string bytes;
+    std::string ticks;
+  };
+  const Case cases[] = {
+      {".shop.example\tbasket\t\r\n", "*--"},
+      {"x,.shop.example\tlogin\t,y\n.shop.example\tbasket\t", "**-"},
+      {".SHOP.example\tlogin\t\r\n", "---"},
+      {".shop.example\tlogin\r\n", "---"},
+      {" .shop.example\tlogin\t\r\n", "---"},
+      {"\".shop.example\tlogin\t\"\r\n", "---"},
+      {".shop.example\t\r\n,,,\t\t\t\n\0\xFF"s, "---"},
+      {std::string(100000, '\t'), "---"},
+  };
+  for (const Case& c : cases) {
+    CAPTURE(c.bytes.substr(0, 60));
+    ProfilePc pc;
+    pc.profiles();
+    pc.pc.file(One + "\\ZUBKeepNS6.inf", c.bytes);
+    pc.keep.Load();
+    CHECK(pc.ticks() == c.ticks);
+  }
+}
+
+TEST_CASE("files that cannot be opened leave the lists as they are and end silently") {
+  ProfilePc pc;
+  pc.profiles();
+  pc.keep.Load();
+  pc.keep.chkSelectAll.Value(1);
+  pc.pc.lock(One + "\\ZUBKeepNS6.inf");
+  pc.pc.lock(One + "\\Cookies.txt");
+  const std::string before = pc.pc.bytes(One + "\\Cookies.txt");
+  pc.keep.SaveNS6(One);
+  pc.keep.CleanCookieNS6(One);
+  CHECK(pc.pc.bytes(One + "\\Cookies.txt") == before);
+  CHECK(pc.ticks() == "***");
+  pc.keep.cmbProfile.ListIndex(0);
+  CHECK(pc.ticks() == "");
+}
