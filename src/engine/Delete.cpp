@@ -142,7 +142,7 @@ void Delete::reportFailure(std::string_view strFileName, int nSpecial, const Run
   engine_.animated->state.timer.Enabled = false;
   if (error == ErrorNumber::FileNotFound) return;  // leaves the animation standing
 
-  ++engine_.leftBehind;
+  if (error != ErrorNumber::Overflow) ++engine_.leftBehind;  // the sum overflowed: the file itself is gone
   const bool denied = error == ErrorNumber::PermissionDenied;
   const bool accessError = error == ErrorNumber::PathFileAccess;
   UserFunctions& user = engine_.userFunctions;
