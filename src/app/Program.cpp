@@ -19,7 +19,7 @@ Program::Program(const Platform& pc)
         form->RefreshPlugins = [this] { main.RefreshPlugins(); };
         return form;
       }),
-      main({engine, plugins, catalogue, editor, ieCookies, nsCookies, icon, {}}) {
+      main({engine, plugins, catalogue, editor, ieCookies, nsCookies, icon}) {
   bindCleaners();
 }
 

@@ -33,6 +33,7 @@ void Timers::serve(std::uint64_t now) {
     if (now < slot.due) continue;
     slot.due = now + interval;
     slot.tick();
+    return;  // a tick may have run a whole wash: the others are served in the next turn, with a fresh time
   }
 }
 

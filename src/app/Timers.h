@@ -15,8 +15,8 @@ class Timers {
  public:
   explicit Timers(Program& program);
 
-  // Runs every tick that is due. `now` is the steady clock in milliseconds; a timer that missed several ticks
-  // gets one.
+  // Runs the next tick that is due, one a turn. `now` is the steady clock in milliseconds; a timer that missed
+  // several ticks gets one.
   void serve(std::uint64_t now);
 
  private:

@@ -5,10 +5,6 @@
 #include "settings/INIFile.h"
 #include "settings/WindowsStartup.h"
 
-#ifndef ZUB_PLUGIN_PAGE
-#define ZUB_PLUGIN_PAGE ""
-#endif
-
 namespace zub {
 namespace {
 

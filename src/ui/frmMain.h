@@ -31,7 +31,6 @@ struct MainParts {
   FirstUse<frmIECookieKeep>& ieCookies;
   FirstUse<frmNSCookieKeep>& nsCookies;
   frmIcon& icon;
-  std::function<void()> showAbout;  // modally; none on a PC without windows
 };
 
 class frmMain : public WashOwner {
@@ -52,6 +51,7 @@ class frmMain : public WashOwner {
   CheckOption chkSelectAll;
   CheckOption StandardPluginsSelectAll;
   bool WasVisible = false;
+  Handler showAbout;  // modally; none on a PC without windows
 
   // The program's start. A wash that the command line asks for runs to its end inside, before the list of
   // standard plugins is filled. Ends the process where another instance runs.
@@ -76,7 +76,7 @@ class frmMain : public WashOwner {
   void LstIcons_ClickCheck(int row);
   void cmdViewLog_Click() { engine_.clean.form.Show(); }
   void cmdHelp_Click();
-  void cmdAbout_Click() { raise(parts_.showAbout); }
+  void cmdAbout_Click() { raise(showAbout); }
   void cmdIECookie_Click() { parts_.ieCookies->Show(); }
   void cmdNSKeep_Click() { parts_.nsCookies->Show(); }
   void cmdRefresh_Click() { RefreshPlugins(); }

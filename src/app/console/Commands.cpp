@@ -1,7 +1,10 @@
 #include "app/console/Commands.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
+
+#include "base/Text.h"
 
 namespace zub {
 namespace {
@@ -16,10 +19,10 @@ constexpr std::array commandTable{
     Command{"plugin show", "NAME", "tell what a plugin, custom or standard, removes", pluginShowCommand},
     Command{"plugin check", "FILE", "tell line by line what a plugin file would do, and what can never work",
             pluginCheckCommand},
-    Command{"cookies", "ie|netscape [keep|drop NAME...]", "list the cookies, or tick those to keep",
+    Command{"cookies", "ie|netscape [keep|drop NUMBER...]", "list the cookies, or tick those to keep",
             cookiesCommand},
     Command{"schedule add", "DATE TIME", "add a dated wash", scheduleAddCommand},
-    Command{"schedule remove", "N", "remove the dated wash with that number", scheduleRemoveCommand},
+    Command{"schedule remove", "NUMBER", "remove the dated wash with that number", scheduleRemoveCommand},
     Command{"schedule", "", "list the dated washes", scheduleCommand},
     Command{"scheduler", "", "wait in the foreground and start the program at each dated wash and interval",
             schedulerCommand},
@@ -35,10 +38,19 @@ void CommandContext::needAlone() const {
   if (pc.platform().process.otherInstanceRuns()) throw UsageError("another Zubrane is at work on this PC");
 }
 
+void CommandContext::needNoArguments(std::string_view command) const {
+  if (!arguments.empty()) throw UsageError(std::string(command) + " takes no arguments");
+}
+
 void CommandContext::print(std::string_view text) const {
   const std::string line = pc.toTerminal(text);
   std::fwrite(line.data(), 1, line.size(), stdout);
   std::fputc('\n', stdout);
+}
+
+int rowNumber(std::string_view word) {
+  const bool digits = std::ranges::all_of(word, [](char c) { return c >= '0' && c <= '9'; });
+  return digits ? leadingNumber(word) : 0;
 }
 
 }  // namespace zub

@@ -30,6 +30,7 @@ struct CommandContext {
 
   // For commands that change the PC: another program at work on it would undo it.
   void needAlone() const;
+  void needNoArguments(std::string_view command) const;
   void print(std::string_view text) const;  // to standard output, with a line end
 };
 
@@ -41,6 +42,9 @@ struct Command {
 };
 
 std::span<const Command> commands();
+
+// The number of a listed row, from 1; 0 where the word is none.
+int rowNumber(std::string_view word);
 
 int washCommand(CommandContext& context);
 int startCommand(CommandContext& context);

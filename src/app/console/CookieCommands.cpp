@@ -25,7 +25,7 @@ Wanted parse(const std::vector<std::string>& arguments) {
   wanted.list = false;
   wanted.keep = arguments[1] == "keep";
   for (std::size_t word = 2; word < arguments.size(); ++word) {
-    const int number = leadingNumber(arguments[word]);
+    const int number = rowNumber(arguments[word]);
     if (number < 1) throw UsageError("\"" + arguments[word] + "\" is no number of the list");
     wanted.numbers.push_back(number);
   }
@@ -72,6 +72,12 @@ void serveNetscape(const CommandContext& context, const Wanted& wanted, Engine& 
   int number = 1;
   for (int profile = 0; profile < form.cmbProfile.ListCount(); ++profile) {
     form.cmbProfile.ListIndex(profile);
+    number += form.lstDelete.ListCount();
+  }
+  checkNumbers(wanted, number);
+  number = 1;
+  for (int profile = 0; profile < form.cmbProfile.ListCount(); ++profile) {
+    form.cmbProfile.ListIndex(profile);
     if (wanted.list) {
       context.print("Profile " + form.cmbProfile.List(profile) + ", " + form.cmbSelect.List(profile));
     }
@@ -79,7 +85,6 @@ void serveNetscape(const CommandContext& context, const Wanted& wanted, Engine& 
     if (!wanted.list) form.SaveNS6(form.cmbSelect.List(profile));
   }
   if (wanted.list && form.cmbProfile.ListCount() == 0) context.print(form.lblKeep[1].Caption);
-  checkNumbers(wanted, number);
 }
 
 }  // namespace

@@ -62,6 +62,7 @@ void apply(std::vector<Setting>& settings, const std::string& argument) {
 }  // namespace
 
 int optionsCommand(CommandContext& context) {
+  context.needNoArguments("options");
   Store store(context.pc.platform());
   context.print("lblLastRemoval=" + store.options.lblLastRemoval.Caption);
   for (const Setting& setting : settingsOf(store.options)) context.print(setting.name + "=" + setting.value);

@@ -1,5 +1,6 @@
 #include "app/console/Commands.h"
 #include "app/console/Store.h"
+#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "plugins/PluginCheck.h"
 
@@ -15,7 +16,7 @@ void listRows(const CommandContext& context, const ListRows& rows) {
 void printLines(const CommandContext& context, const std::vector<CheckedLine>& lines) {
   for (const CheckedLine& line : lines) {
     context.print("  " + std::to_string(line.number) + ": " + line.text);
-    context.print(std::string("     ") + (line.works ? "" : "never works: ") + line.meaning);
+    context.print((line.works ? "     " : "   ! ") + line.meaning);
   }
 }
 
@@ -57,6 +58,7 @@ bool isRow(const ListRows& rows, std::string_view name) {
 }  // namespace
 
 int pluginsCommand(CommandContext& context) {
+  context.needNoArguments("plugins");
   Store store(context.pc.platform());
   context.print("Custom plugins in " + store.plugins.CurPath() + ":");
   listRows(context, store.options.lstFiles);
@@ -100,9 +102,12 @@ int pluginCheckCommand(CommandContext& context) {
     throw UsageError("plugin check reads .zb1 and .zb2 files");
   }
   PluginCheck check(store.engine.pc);
-  const auto lines =
-      check.readFile(path, folded.ends_with(".ZB1") ? PluginFile::Files : PluginFile::Registry);
-  printLines(context, lines);
+  try {
+    printLines(context,
+               check.readFile(path, folded.ends_with(".ZB1") ? PluginFile::Files : PluginFile::Registry));
+  } catch (const RuntimeError& failure) {
+    throw UsageError(path + ": " + failure.what());
+  }
   return exitStatus::Done;
 }
 

@@ -1,5 +1,4 @@
 #include "app/console/Commands.h"
-#include "base/Text.h"
 #include "engine/UserFunctions.h"
 #include "scheduler/DatedEntries.h"
 #include "state/Options.h"
@@ -46,7 +45,7 @@ int scheduleAddCommand(CommandContext& context) {
 int scheduleRemoveCommand(CommandContext& context) {
   if (context.arguments.size() != 1) throw UsageError("schedule remove takes a number of the list");
   Entries entries(context.pc.platform());
-  const int number = leadingNumber(context.arguments[0]);
+  const int number = rowNumber(context.arguments[0]);
   if (number < 1 || number > entries.dated.lstSchedule.ListCount()) {
     throw UsageError("there is no dated wash " + context.arguments[0]);
   }

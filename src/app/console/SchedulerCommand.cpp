@@ -116,7 +116,7 @@ class Scheduler {
 }  // namespace
 
 int schedulerCommand(CommandContext& context) {
-  if (!context.arguments.empty()) throw UsageError("scheduler takes no arguments");
+  context.needNoArguments("scheduler");
   if (context.pc.folder().empty()) throw UsageError("Windows has a task scheduler of its own");
   std::signal(SIGINT, stop);
   std::signal(SIGTERM, stop);

@@ -37,8 +37,8 @@ class ThisPc : public ConsolePc {
 
 }  // namespace
 
-std::unique_ptr<ConsolePc> openThisPc(EventLoop& events, Messages&) {
-  return std::make_unique<ThisPc>(events);
+std::unique_ptr<ConsolePc> openThisPc(EventLoop& events, Messages& messages) {
+  return std::make_unique<ThisPc>(events, messages);
 }
 
 }  // namespace zub

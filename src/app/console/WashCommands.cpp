@@ -42,7 +42,7 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
 }  // namespace
 
 int washCommand(CommandContext& context) {
-  if (!context.arguments.empty()) throw UsageError("wash takes no arguments");
+  context.needNoArguments("wash");
   return runProgram(context, [](Program& program) { program.main.cmdRemove_Click(); });
 }
 

@@ -63,7 +63,8 @@ int run(std::vector<std::string> arguments) {
     std::printf("Zubrane %s\n", ZUB_VERSION);
     return exitStatus::Done;
   }
-  if (arguments.size() == 2 && arguments[0] == "new") {
+  if (!arguments.empty() && arguments[0] == "new") {
+    if (arguments.size() != 2) throw UsageError("new takes a folder");
     createPc(arguments[1]);
     return exitStatus::Done;
   }
@@ -83,7 +84,11 @@ int run(std::vector<std::string> arguments) {
   opened = pc.get();
   for (std::string& argument : arguments) argument = pc->fromTerminal(argument);
   CommandContext context{*pc, loop, std::move(arguments)};
-  return command.run(context);
+  try {
+    return command.run(context);
+  } catch (const UsageError& error) {
+    throw UsageError(pc->toTerminal(error.what()));
+  }
 }
 
 }  // namespace

@@ -1,0 +1,121 @@
+# PCs that were made to lead a wash out of their folder: by links, by the paths in the registry, in plugins, in browser
+# files and in the facts. What lies beside the PC stays as it is, to the byte, also with the shredder on.
+. "$(dirname "$0")/check.sh"
+pc=$work/pc
+outside=$work/outside
+
+mkdir -p "$outside/Cache/sub" "$outside/TEMP"
+for name in old.tmp Cache/sub/cookie.txt Cache/index.dat TEMP/old.tmp scandisk.log FILE0000.CHK INFO2 x.slt; do
+  echo "belongs to somebody else" >"$outside/$name"
+done
+printf 'REGEDIT4\n\n[HKEY_CURRENT_USER\\Software\\ZUB]\n"chkTempFolder"="1"\n' >"$outside/registry.reg"
+echo 'family = nt' >"$outside/pc.txt"
+echo 'task = ZUB' >"$outside/tasks.txt"
+portrait "$outside" >"$work/outside before"
+untouched() { check "what lies outside was changed: $1" diff "$work/outside before" <(portrait "$outside"); }
+
+everything=(chkDocHistory chkFindHistory chkRunHistory chkTempFolder chkScanDisk chkRecycleBin chkOfficeMRU chkWMP chkIE
+  chkNetscape chkIECache chkIECookies chkIEPrograms chkIEIndex chkIEAutocomplete chkNSCache chkNSCookie chkNSMail
+  chkNSHistory chkBleach)
+newPc() {
+  [ -d "$pc" ] && rm -rf "$pc"
+  run 0 new "$pc"
+  run 0 --pc "$pc" set "${everything[@]/%/=1}"
+}
+# A wash that ends by itself, with any status of a wash.
+wash() {
+  local status=0
+  zub --pc "$pc" wash || status=$?
+  [ $status -le 1 ] || fail "the wash ended with $status: $(tail -1 "$work/err")"
+}
+
+# Links in folders that a wash empties: they go, as links.
+newPc
+temp=$pc/C/WINDOWS/TEMP
+mkdir -p "$temp/folder" "$pc/C/RECYCLED"
+ln -s "$outside" "$temp/folder link"
+ln -s ../../../../outside "$temp/relative link"
+ln -s "$outside/old.tmp" "$temp/folder/file link.tmp"
+ln -s "$outside/nothing" "$temp/dead link"
+ln -s . "$temp/round link"
+ln -s "$outside/INFO2" "$pc/C/RECYCLED/INFO2"
+ln -s "$outside" "$pc/C/RECYCLED/DC1"
+ln -s "$outside/scandisk.log" "$pc/C/scandisk.log"
+mkfifo "$temp/pipe.tmp"
+wash
+untouched "links in emptied folders"
+for name in "folder link" "relative link" "dead link" "round link" folder; do gone "$temp/$name"; done
+for name in INFO2 DC1; do gone "$pc/C/RECYCLED/$name"; done
+
+# Links in place of the folders of the PC, of a drive and of the texts that hold the PC.
+for place in C/WINDOWS/TEMP C/WINDOWS C/RECYCLED C D "C/Program Files/Zubrane/Plugins" "C/Program Files"; do
+  newPc
+  rm -rf "${pc:?}/$place"
+  mkdir -p "$(dirname "$pc/$place")"
+  ln -s "$outside" "$pc/$place"
+  wash
+  untouched "$place is a link"
+  check "the link is gone: $place" [ -L "$pc/$place" ]
+done
+for name in registry.reg pc.txt tasks.txt; do
+  newPc
+  rm -f "$pc/$name"
+  ln -s "$outside/$name" "$pc/$name"
+  refused "zub: $name: cannot be read" --pc "$pc" wash
+  refused "zub: $name: cannot be read" --pc "$pc" set chkBleach=0
+  untouched "$name is a link"
+done
+newPc
+ln -s "$outside/registry.reg" "$pc/registry.reg.new"
+run 0 --pc "$pc" set chkBleach=0
+untouched "the text that is being saved is a link"
+
+# Paths that lead out, wherever a path can stand. $1 in each is a folder or file outside, with backslashes.
+up='..\..\..\..\..\..'
+fromHere=${outside//\//\\}
+leadsOut=("C:\\$up\\outside" "$up\\outside" 'C:\WINDOWS\..\..\outside' 'C:\WINDOWS\TEMP\..\..\..\..\outside' "C:..\\outside"
+  "$fromHere" "C:$fromHere" "Z:$fromHere" "\\\\server\\share" "\\\\?\\C:$fromHere" "\\\\.\\C:\\..\\outside" "$outside"
+  "C:/../outside" 'C:\LINK' 'C:\LINK\..\outside' 'D:\' 'C:\WINDOWS\./../../outside' 'C:\outside:stream')
+
+for path in "${leadsOut[@]}"; do
+  newPc
+  ln -s "$outside" "$pc/C/LINK"
+  ln -s "$outside" "$pc/D"
+  escaped=${path//\\/\\\\}
+  {
+    printf '\n[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders]\n'
+    for name in Recent Cache Cookies History AppData; do printf '"%s"="%s"\n' $name "$escaped"; done
+    printf '\n[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\5.0\\Cache\\Content]\n'
+    printf '"CachePath"="%s"\n' "$escaped"
+  } >>"$pc/registry.reg"
+  text "C/Program Files/Zubrane/Plugins/Out.zb1" "$path\\old.tmp" "$path\\*.*" "$path\\*.tmp >plus subdirectories< " "$path"
+  text "C/Program Files/Zubrane/Plugins/Out.zb2" 'No entries.'
+  text "C/Program Files/Zubrane/Plugins/Out.zb3" '' ''
+  run 0 --pc "$pc" set "ZUBPlugin Out=1"
+  wash
+  untouched "folders at $path"
+
+  # The same where a browser's own file names the folder: a profile with a cookie file.
+  newPc
+  ln -s "$outside" "$pc/C/LINK"
+  printf '\n[HKEY_CURRENT_USER\\%s]\n"AppData"="C:\\\\Data"\n' \
+    'Software\Microsoft\Windows\CurrentVersion\Explorer\Shell Folders' >>"$pc/registry.reg"
+  mkdir -p "$pc/C/Data/Mozilla"
+  printf '%s\0%s\0' "$path\\x.slt" "$path\\.slt" >"$pc/C/Data/Mozilla/Registry.dat"
+  wash
+  untouched "a profile at $path"
+
+  # A PC whose facts lead out is refused, or washed within its folder.
+  newPc
+  ln -s "$outside" "$pc/C/LINK"
+  sed -i "s|^temp = .*|temp = $escaped|" "$pc/pc.txt"
+  zub --pc "$pc" wash || [ $? -le 2 ] || fail "ended with $?"
+  untouched "the temp folder is $path"
+done
+
+# A plugin's name is part of the paths of its files.
+newPc
+refused 'there is no plugin' --pc "$pc" plugin show "..\\..\\..\\..\\outside\\old"
+zub --pc "$pc" plugin check "C:\\..\\..\\outside\\x.zb1"
+check "a file outside was read" [ "$(grep -c 'somebody else' "$work/out")" -eq 0 ]
+untouched "plugins named with a path"

@@ -1,0 +1,58 @@
+# A wash that is killed, at the start of each of many tasks, in the midst of a removal and while it saves: the
+# registry text is the old one or the new one, whole, and a later wash works.
+. "$(dirname "$0")/check.sh"
+pc=$work/pc
+files=1000
+values=10000
+tasks=(chkDocHistory chkFindHistory chkRunHistory chkTempFolder chkScanDisk chkRecycleBin chkOfficeMRU chkWMP)
+
+left() { find "$pc/C/WINDOWS/TEMP" -name 'work*.tmp' | wc -l; }
+# The text without the time of the wash, which may go over several lines.
+timeless() { LC_ALL=C awk '/^"lblLastRemoval"/ { skip = 1 } !skip; !/\\\r?$/ { skip = 0 }' "$1"; }
+
+run 0 new "$work/first"
+{
+  printf '\n[HKEY_CURRENT_USER\\Software\\Many]\n'
+  seq -f '"Value%g"="some text that makes the registry long enough for a kill while it is saved"' $values
+} >>"$work/first/registry.reg"
+run 0 --pc "$work/first" set "${tasks[@]/%/=1}"
+(cd "$work/first/C/WINDOWS/TEMP" && seq -f 'work%g.tmp' $files | xargs touch)
+makePc() { rm -rf "$pc" && cp -R "$work/first" "$pc"; }
+
+makePc
+run 0 --pc "$pc" wash
+timeless "$pc/registry.reg" >"$work/new"
+check "the wash has not emptied the folder" [ "$(left)" -eq 0 ]
+
+# begin: starts a wash; its progress is in $work/progress.
+begin() {
+  : >"$work/progress"
+  "${program[@]}" --pc "$pc" wash >/dev/null 2>"$work/progress" </dev/null &
+  process=$!
+}
+running() { kill -0 $process 2>/dev/null; }
+tasksBegun() { [ "$(wc -l <"$work/progress")" -ge "$1" ] || ! running; }
+fewerFiles() { [ "$(left)" -lt "$1" ] || ! running; }
+saving() { [ -e "$pc/registry.reg.new" ] || ! running; }
+
+pause=0
+hits=0
+for moment in "tasksBegun 1" "tasksBegun 4" "tasksBegun 5" "tasksBegun 8" \
+  "fewerFiles $files" "fewerFiles $((files / 2))" saving saving saving; do
+  makePc
+  begin
+  # shellcheck disable=SC2086
+  until_true $moment
+  kill -9 $process 2>/dev/null
+  wait $process 2>/dev/null
+  [ $? -eq 137 ] && hits=$((hits + 1))
+  if ! cmp -s "$pc/registry.reg" "$work/first/registry.reg"; then
+    timeless "$pc/registry.reg" | cmp -s - "$work/new" || fail "the registry is neither old nor new after $moment"
+  fi
+  run 0 --pc "$pc" wash
+  check "the later wash has not emptied the folder" [ "$(left)" -eq 0 ]
+  check "the later wash has another registry" cmp <(timeless "$pc/registry.reg") "$work/new"
+  gone "$pc/registry.reg.new"
+done
+# A wash may end before the kill comes, but not most of them.
+check "only $hits of 9 washes were killed" [ $hits -ge 4 ]

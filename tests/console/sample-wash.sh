@@ -1,0 +1,95 @@
+# One wash of the sample PC: the report, the progress, and every line of samples/expected.txt against the disk and the
+# saved registry. Then a second wash, which finds nothing to free.
+. "$(dirname "$0")/check.sh"
+pc=$work/pc
+"$root/tools/sample-copy" "$pc"
+expected=$root/samples/expected.txt
+
+files() { (cd "$pc" && find [A-Z] -type f | sort); }
+# The lines of the expectation for a word and a pattern, without the word.
+listed() { grep -E "^$1 $2" "$expected" | cut -d' ' -f2-; }
+keyPattern=HKEY_
+diskPattern='[A-Z]:'
+asHost() { sed 's|\\|/|g; s|^\([A-Z]\):|\1|'; }
+
+files >"$work/files before"
+registry "$pc" >"$work/registry before"
+while read -r path; do here "$(host "$path")"; done < <(listed '(gone|stays)' "$diskPattern")
+comm -13 "$work/registry before" <(listed '(gone|stays)' "$keyPattern" | sort) >"$work/missing"
+check "the sample lacks registry entries: $(head -3 "$work/missing")" [ ! -s "$work/missing" ]
+
+run 1 --pc "$pc" wash
+
+# The report, its headings in the order of the tasks.
+cat >"$work/headings" <<'END'
+Zubrone
+ZUB has cleaned the document history, with the following results:
+ZUB has cleaned the Find history, with the following results:
+ZUB has cleaned the Run MRU, with the following results:
+ZUB has cleaned the TEMP folder, with the following results:
+ZUB has cleaned the SCANDISK files, with the following results:
+ZUB has cleaned the recycle bin, with the following results:
+ZUB has cleaned the Office MRU, with the following results:
+ZUB has cleaned the Windows Media Player MRU, with the following results:
+ZUB has cleaned Netscape files ans registry entries, with the following results:
+ZUB has cleaned IE files and registry entries, with the following results:
+END
+plugins=("Card Shop Deluxe" "Home Photo Album" "Modem and Fax Logs" "ACDSee" "Adobe Acrobat Full 4.x" "Gold Wave Editor"
+  "Microsoft Media Player 7.x" "Norton AntiVirus 2000" "Paint Shop Pro 6.x" "Real Player 7.x, 8.x and GT2"
+  "Text Pad 4.x" "Windows Paint" "Windows Task Scheduler Logs" "Windows WBEM Logs" "Windows WordPad"
+  "WinRAR (all versions)" "WinZip 7.x and 8.x" "Zone Labs Zone Alarm Firewall")
+printf 'ZUB has cleaned %s , with the following results:\n' "${plugins[@]}" >>"$work/headings"
+grep -E '^Zubrone|^ZUB has' "$work/out" >"$work/headings said"
+check "the headings differ" diff "$work/headings" "$work/headings said"
+locked=$(grep -c '^	Permission denied The file C:\\WINDOWS\\TEMP\\.* is locked or is on a read only drive/network' "$work/out")
+check "two locked files are reported, not $locked" [ "$locked" -eq 2 ]
+check "no time of removal" grep -Eq '^Last removal on [0-9/]+ at [0-9:]+ [AP]M' "$work/out"
+
+# The progress: a line for each task.
+cat >"$work/tasks" <<'END'
+Document History
+Search/Find History
+Run History
+Temporary Folder
+Scandisk logs
+Recycle bin
+MS Office - MRU
+Windows Media Player - MRU
+Netscape
+Internet Explorer
+END
+printf '%s\n' "${plugins[@]}" >>"$work/tasks"
+check "the progress differs" diff "$work/tasks" "$work/err"
+
+# The disk: what is listed as gone is gone, and the other files are all there, with no new one but a keep file.
+while read -r path; do gone "$(host "$path")"; done < <(listed gone "$diskPattern")
+while read -r path; do here "$(host "$path")"; done < <(listed stays "$diskPattern")
+listed gone "$diskPattern" | asHost | sort >"$work/gone"
+{ comm -23 "$work/files before" "$work/gone"; echo C/ZUBKeepNS6.inf; } | sort >"$work/files wanted"
+check "other files are there" diff "$work/files wanted" <(files)
+check "the keep file is not empty" [ ! -s "$pc/C/ZUBKeepNS6.inf" ]
+
+# The cookie that is left in each of the cookie files.
+while read -r line; do
+  path=${line#*left in } cookie=${line##*: }
+  path=${path%: *}
+  left=$(grep -v '^#' "$(host "$path")" | tr -d '\r' | grep . | cut -f1,6 | tr '\t' ' ')
+  check "cookies of $path: $left" [ "$left" = "$cookie" ]
+done < <(grep '^# Only this cookie' "$expected")
+
+# The registry. What the wash adds are the program's own values, and the names of the empty hives.
+registry "$pc" >"$work/registry"
+comm -12 "$work/registry" <(listed gone "$keyPattern" | sort) >"$work/left"
+check "registry entries are there: $(head -3 "$work/left")" [ ! -s "$work/left" ]
+comm -13 "$work/registry" <(listed stays "$keyPattern" | sort) >"$work/lost"
+check "registry entries are gone: $(head -3 "$work/lost")" [ ! -s "$work/lost" ]
+comm -13 "$work/registry before" "$work/registry" | grep -Ev '^HKEY_[A-Z_]+$|^HKEY_CURRENT_USER\\Software\\ZUB -> ' >"$work/new"
+check "new registry entries: $(head -3 "$work/new")" [ ! -s "$work/new" ]
+
+# Two profiles share what their keep files hold after a wash, so their cookies are left out.
+disk() { portrait "$pc" | grep -Ev 'ZUBKeepNS6|cookies.txt|registry.reg|/slt$|^\. '; }
+disk >"$work/disk"
+run 1 --pc "$pc" wash
+says "Total amount of space restored: 100 Bytes"  # the wording for none
+check "the second wash removed a file" diff "$work/disk" <(disk)
+check "the second wash changed the registry" diff "$work/registry" <(registry "$pc")

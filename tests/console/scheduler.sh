@@ -1,0 +1,83 @@
+# The scheduler in the foreground: it starts washes when they are due, goes on when the tasks file changes or is damaged,
+# lets other commands at the PC, and ends cleanly on a signal.
+. "$(dirname "$0")/check.sh"
+pc=$work/pc
+run 0 new "$pc"
+run 0 --pc "$pc" set chkTempFolder=1
+run 0 --pc "$pc" schedule add 1/1/2020 1:00
+temp=$pc/C/WINDOWS/TEMP
+cp "$pc/tasks.txt" "$work/tasks"
+
+# begin: starts the scheduler and waits until it catches both signals.
+begin() {
+  "${program[@]}" --pc "$pc" scheduler >"$work/said" 2>"$work/told" </dev/null &
+  process=$!
+  until_true catches
+}
+catches() {
+  local mask
+  [ "/proc/$process/exe" -ef "${program[0]}" ] || return
+  mask=$(sed -n 's/^SigCgt:\s*//p' "/proc/$process/status")
+  [ $((16#$mask & 0x4002)) -eq $((0x4002)) ]  # bits of SIGINT and SIGTERM
+}
+# stop SIGNAL: it ends with status 0 within a second; on a busy machine within two.
+stop() {
+  local begun=${EPOCHREALTIME/./} status=0
+  kill "-$1" $process
+  wait $process || status=$?
+  check "SIG$1 ends it with $status" [ $status -eq 0 ]
+  check "SIG$1 ends it late" [ $((${EPOCHREALTIME/./} - begun)) -lt 2000000 ]
+}
+# Times that the scheduler has waited so far.
+waits() { sed -n 's/^voluntary_ctxt_switches:\s*//p' "/proc/$process/status"; }
+waited() { [ "$(waits)" -ge "$1" ]; }
+told() { grep -Fq -e "$1" "$work/told"; }
+# Sets a local time in which the present lies this many seconds before the next full minute.
+secondsBefore() {
+  present=$(date +%s)
+  local east=$((60 - $1 - present % 60))
+  export TZ="ZUB$([ $east -lt 0 ] && echo + || echo -)00:00:${east#-}"
+}
+
+for signal in INT TERM; do
+  begin
+  stop $signal
+  check "something is told" [ ! -s "$work/told" ]
+done
+
+begin
+first=$(wc -l <"$work/tasks")
+{ cat "$work/tasks"; echo "trigger = 0 2030-02-31 10:00"; } >"$pc/tasks.txt"
+until_true told "tasks.txt: line $((first + 1)): a trigger is told as"
+until_true waited $(($(waits) + 3))
+check "the damage is told again" [ "$(wc -l <"$work/told")" -eq 1 ]
+echo "colour = blue" >"$pc/tasks.txt"
+until_true told "tasks.txt: line 1: stands before the first task"
+{ cat "$work/tasks"; echo "trigger = 0 2030-02-28 10:00"; } >"$pc/tasks.txt"
+until_true waited $(($(waits) + 2))
+# Other commands work on the PC meanwhile.
+run 0 --pc "$pc" schedule
+says "2 At 10:00 AM on 2/28/2030"
+run 0 --pc "$pc" set chkBleach=1
+stop TERM
+check "more than the two damages is told" [ "$(wc -l <"$work/told")" -eq 2 ]
+check "something was washed" [ ! -s "$work/said" ]
+
+# A dated wash that comes within seconds, by a local time of its own. It is added while the scheduler runs; another
+# one, a minute ago, is over.
+washed() { [ ! -e "$temp/old.tmp" ]; }
+echo old >"$temp/old.tmp"
+secondsBefore 6
+begin
+for minutes in 0 1; do
+  when=@$((present + minutes * 60))
+  run 0 --pc "$pc" schedule add "$(date -d $when +%-m/%-d/%Y)" "$(date -d $when +%H:%M)"
+done
+here "$temp/old.tmp"
+until_true washed
+reported() { grep -q '^Last removal' "$work/said"; }
+until_true reported
+until_true waited $(($(waits) + 2))
+stop INT
+check "the progress of one wash is not told" [ "$(cat "$work/told")" = "Temporary Folder" ]
+check "one wash is not reported" [ "$(grep -c '^Zubrone' "$work/said")" -eq 1 ]

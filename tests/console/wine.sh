@@ -1,0 +1,117 @@
+# A wash of a whole Windows: the registry and the disk of a Wine prefix of the test's own, without a way to the host's
+# disk. The program is installed in it, and what it is to wash is put there with files and the system's own "reg".
+. "$(dirname "$0")/check.sh"
+prefix=${ZUB_WINEPREFIX:?the prefix of this test}
+emulator=${program[0]}
+# The user's folders of a new prefix, and its recycle bin, are links to the home folder.
+export HOME=$prefix/home
+mkdir -p "$HOME"
+"$emulator" --start || exit 1
+rm -f "$prefix/dosdevices/z:"
+pc=$prefix/drive_c
+cd "$pc" || exit 1
+
+installed="$pc/Program Files/Zubrane"
+rm -rf "$installed"
+mkdir -p "$installed/Plugins"
+cp "${program[1]}" "$installed"
+program=("$emulator" 'C:\Program Files\Zubrane\zub-console.exe')
+
+# exported KEY: the registry below a key as sorted lines.
+exported() {
+  rm -f "$pc/exported.reg"
+  "$emulator" reg export "$1" 'C:\exported.reg' /y >/dev/null 2>&1
+  iconv -f UTF-16 -t UTF-8 "$pc/exported.reg" | tr -d '\r' >"$work/exported.reg"
+  LC_ALL=C awk -f "$tests/registry.awk" "$work/exported.reg" | sort
+}
+explorer='HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Explorer'
+exported "$explorer\\Shell Folders" >/dev/null
+# folder NAME: the path below C: of a folder of the user.
+folder() { sed -n "s/^\"$1\"=\"C:\\(.*\\)\"\$/\\1/p" "$work/exported.reg" | sed 's/\\\\/\//g'; }
+recent=$(folder Recent) cookies=$(folder Cookies) appData=$(folder AppData)
+for path in "$recent" "$cookies" "$appData"; do check "a folder of the user is not known" [ -n "$path" ]; done
+temp=${appData%/AppData/*}/Temp
+
+# What is to go, and what is to stay.
+traces=("$explorer\\RecentDocs" "$explorer\\StreamMRU" "$explorer\\Doc Find Spec MRU" "$explorer\\RunMRU"
+  'HKEY_CURRENT_USER\Software\Microsoft\MediaPlayer\Player\RecentFileList'
+  'HKEY_CURRENT_USER\Software\Microsoft\Internet Explorer\TypedURLs'
+  'HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Applets\Paint\Recent File List'
+  'HKEY_CURRENT_USER\Software\Garden\Recent')
+decoys=("$explorer\\RunMRU backup" "$explorer\\FindComputerMRU" 'HKEY_CURRENT_USER\Software\Microsoft\MediaPlayer\Setup'
+  'HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Applets\Paint\View' 'HKEY_CURRENT_USER\Software\Garden\View')
+run='Software\Microsoft\Windows\CurrentVersion\Run'
+{
+  printf 'REGEDIT4\n\n[-HKEY_CURRENT_USER\\Software\\ZUB]\n\n'
+  for key in "${traces[@]}" "${decoys[@]}"; do printf '[-%s]\n\n[%s]\n"File1"="C:\\\\Diary.txt"\n\n' "$key" "$key"; done
+  for hive in HKEY_CURRENT_USER HKEY_LOCAL_MACHINE; do
+    for key in "$run" "$run-"; do printf '[%s\\%s]\n"Zubrane"=-\n"Other"="other.exe"\n\n' $hive "$key"; done
+  done
+} >"$pc/seed.reg"
+"$emulator" reg import 'C:\seed.reg' >/dev/null 2>&1 || fail "the registry cannot be seeded"
+
+going=("$temp/old.tmp" "$temp/deep/deeper/old.tmp" "$temp/read-only.tmp" "$recent/Diary.lnk" "$recent/hidden/Letter.lnk"
+  "$appData/Microsoft/Office/Recent/Letter.LNK" "$cookies/user@shop.example[1].txt" /scandisk.log /FILE0000.CHK
+  /recycled/DC1.TXT /Garden/a.bak /Garden/Beds/b.bak)
+staying=("$appData/Microsoft/Office/Word.qat" "$cookies/user@news.example[1].txt" "$cookies/recipes.rtf" /Diary.txt
+  /FILE0000.TXT /Temp/old.tmp /Garden/Roses.txt "/Recycled paper/DC1.TXT" "$recent kept/Diary.lnk")
+chmod -R u+w "$pc$temp"
+rm -rf "${pc:?}/Garden" "$pc$cookies"
+for path in "${going[@]}" "${staying[@]}"; do
+  mkdir -p "$(dirname "$pc$path")"
+  echo "something private" >"$pc$path"
+done
+chmod a-w "$pc$temp/read-only.tmp"
+printf '%s\r\n' 'C:\Garden\*.bak >plus subdirectories< ' >"$installed/Plugins/Garden.zb1"
+printf '%s\r\n' 'HKey_Current_User\Software\Garden\Recent- Key*' >"$installed/Plugins/Garden.zb2"
+printf '%s\r\n' 'Cleans the garden.' '' >"$installed/Plugins/Garden.zb3"
+
+run 0 --version
+run 0 set chkDocHistory=1 chkFindHistory=1 chkRunHistory=1 chkTempFolder=1 chkScanDisk=1 chkRecycleBin=1 chkOfficeMRU=1 \
+  chkWMP=1 chkIE=1 chkIECookies=1 chkIEAutocomplete=1 chkLoadStartup=1 "ZUBPlugin Garden=1" \
+  "ZUBStandardPlugin Windows Paint=1"
+refused 'there is no setting "chkPolish"' set chkPolish=1
+run 0 cookies ie
+kept=$(grep -F 'user@news.example[1].txt' "$work/out" | sed 's/ .*//')
+run 0 cookies ie keep "$kept"
+run 0 options
+says "chkTempFolder=1"
+says "chkNetscape=0"
+says "ZUBStandardPlugin Windows Paint=1"
+
+run 0 wash
+for text in "	Deleting file old.tmp" "	Deleting file read-only.tmp" "	Deleting file Diary.lnk" "	Deleting file FILE0000.CHK" \
+  "ZUB has cleaned Garden , with the following results:" "ZUB has cleaned Windows Paint , with the following results:"; do
+  says "$text"
+done
+for path in "${going[@]}"; do gone "$pc$path"; done
+for path in "${staying[@]}"; do here "$pc$path"; done
+for path in "$temp" "$recent" "$appData/Microsoft/Office/Recent"; do
+  check "$path is not there, or not empty" [ -d "$pc$path" ]
+  check "$path is not empty" [ -z "$(ls -A "$pc$path")" ]
+done
+
+exported 'HKEY_CURRENT_USER\Software' >"$work/registry"
+for key in "${traces[@]}"; do ! grep -Fxq -e "$key" "$work/registry" || fail "is there: $key"; done
+for key in "${decoys[@]}"; do grep -Fxq -e "$key -> File1" "$work/registry" || fail "is gone: $key"; done
+for line in '"chkTempFolder"="1"' '"chkNetscape"="0"' '"ZUBPlugin Garden"="1"' '"ZUBPath"="C:\\Program Files\\'; do
+  grep -Fq -e "$line" "$work/exported.reg" || fail "is not stored: $line"
+done
+
+# The entries that start the program with Windows are in the one key or in the other, in both hives.
+inRun() {
+  local hive
+  for hive in HKEY_CURRENT_USER HKEY_LOCAL_MACHINE; do
+    exported "$hive\\Software\\Microsoft\\Windows\\CurrentVersion" >"$work/registry"
+    grep -Fxq -e "$hive\\$1 -> Zubrane" "$work/registry" || fail "is not in $hive\\$1"
+    ! grep -Fxq -e "$hive\\$2 -> Zubrane" "$work/registry" || fail "is in $hive\\$2"
+    grep -Fxq -e "$hive\\$1 -> Other" "$work/registry" || fail "another program is gone from $hive\\$1"
+  done
+}
+inRun "$run" "$run-"
+run 0 set chkLoadStartup=0
+run 0 wash
+says "Total amount of space restored: 100 Bytes"  # the wording for none
+inRun "$run-" "$run"
+
+"$emulator" --stop
