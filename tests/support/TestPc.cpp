@@ -133,6 +133,7 @@ void TestPc::file(std::string_view path, std::string_view bytes) {
   const FolderPath parts = parsed(path);
   const FolderDisk::Place place = impl_->makeParent(parts);
   writeHostFile(*place.parent, place.name, bytes);
+  impl_->disk.forget();  // a kept handle would hold folders that are removed later
 }
 
 void TestPc::folder(std::string_view path) {
@@ -144,6 +145,7 @@ void TestPc::readOnly(std::string_view path) {
   if (!place || place->parent == nullptr) throw std::invalid_argument("no file: " + std::string(path));
   require(place->parent->setReadOnly(place->name, true), parsed(path));
   impl_->pc.files.forget();
+  impl_->disk.forget();
 }
 
 void TestPc::key(std::string_view path) {

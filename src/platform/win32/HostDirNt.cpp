@@ -15,6 +15,8 @@ constexpr ACCESS_MASK RemoveRights = DELETE | FILE_READ_ATTRIBUTES | SYNCHRONIZE
 constexpr ULONG ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr ULONG Itself = FILE_OPEN_REPARSE_POINT | FILE_SYNCHRONOUS_IO_NONALERT;
 
+constexpr std::size_t LongestName = 255;  // in units of UTF-16
+
 struct ModeRow {
   ACCESS_MASK rights;
   ULONG disposition;
@@ -29,10 +31,11 @@ constexpr ModeRow modes[] = {
     {FILE_GENERIC_READ | FILE_GENERIC_WRITE, FILE_CREATE},
 };
 
-// One part of a path, so that no call can leave its folder; a colon would name a stream of the file.
+// One part of a path, so that no call can leave its folder; a colon would name a stream of the file, the others
+// are wildcards of the calls.
 bool isPart(const std::string& name) {
-  return !name.empty() && name != "." && name != ".." &&
-         name.find_first_of(std::string_view("\\/:\0", 4)) == std::string::npos;
+  return !name.empty() && wideName(name).size() <= LongestName && name != "." && name != ".." &&
+         name.find_first_of(std::string_view("\\/:*?<>\"|\0", 10)) == std::string::npos;
 }
 
 NTSTATUS setFacts(const NtHandle& file, void* facts, std::size_t size, int which) {
@@ -41,9 +44,9 @@ NTSTATUS setFacts(const NtHandle& file, void* facts, std::size_t size, int which
                              static_cast<FILE_INFORMATION_CLASS>(which));
 }
 
-NTSTATUS basicFacts(const NtHandle& file, FILE_BASIC_INFORMATION& facts) {
+NTSTATUS getFacts(const NtHandle& file, FILE_NETWORK_OPEN_INFORMATION& facts) {
   IO_STATUS_BLOCK io;
-  return nt().queryInformation(file.get(), &io, &facts, sizeof facts, FileBasicInformation);
+  return nt().queryInformation(file.get(), &io, &facts, sizeof facts, FileNetworkOpenInformation);
 }
 
 HostError removeOpened(const NtHandle& file) {
@@ -52,8 +55,9 @@ HostError removeOpened(const NtHandle& file) {
 }
 
 struct Opened {
-  HostError error;
-  HostKind kind;
+  HostError error = HostError::None;
+  HostStat stat;
+  ULONG attributes = 0;
   NtHandle handle;
 };
 
@@ -74,59 +78,60 @@ class HostDirNt : public HostDir {
   HostError take() override;
 
  private:
-  static UNICODE_STRING textOf(std::wstring& name);
-  OBJECT_ATTRIBUTES objectOf(UNICODE_STRING& name);
   NTSTATUS open(const std::string& name, ACCESS_MASK rights, ULONG disposition, ULONG options,
                 NtHandle& opened);
+  bool listedAsLink(const std::string& name);
   Opened openKnown(const std::string& name, ACCESS_MASK rights, ULONG disposition, ULONG options);
 
   NtHandle folder_;
   NtHandle taken_;
 };
 
-// Both stand on what they are given.
-UNICODE_STRING HostDirNt::textOf(std::wstring& name) {
-  const auto bytes = static_cast<USHORT>(name.size() * sizeof(wchar_t));
-  return {bytes, bytes, name.data()};
-}
-
-OBJECT_ATTRIBUTES HostDirNt::objectOf(UNICODE_STRING& name) {
-  OBJECT_ATTRIBUTES object;
-  InitializeObjectAttributes(&object, &name, OBJ_CASE_INSENSITIVE, folder_.get(), nullptr);
-  return object;
-}
-
 // The empty name opens the folder once more.
 NTSTATUS HostDirNt::open(const std::string& name, ACCESS_MASK rights, ULONG disposition, ULONG options,
                          NtHandle& opened) {
   std::wstring wide = wideName(name);
-  UNICODE_STRING text = textOf(wide);
-  OBJECT_ATTRIBUTES object = objectOf(text);
+  UNICODE_STRING text = unicodeText(wide);
+  OBJECT_ATTRIBUTES object;
+  InitializeObjectAttributes(&object, &text, OBJ_CASE_INSENSITIVE, folder_.get(), nullptr);
   IO_STATUS_BLOCK io;
   return nt().createFile(opened.out(), rights, &object, &io, nullptr, FILE_ATTRIBUTE_NORMAL, ShareAll,
                          disposition, options | Itself, nullptr, 0);
 }
 
-// Opens what the name stands for, a reparse point as itself, and tells what it is. Wine opens what a link of
-// its host leads to; that is not kept open, and the kind is Link all the same.
+// Opens what the name stands for, a reparse point as itself, and tells what it is. Wine opens the folder that
+// a link of its host leads to; that is not kept open, and is a link all the same.
 Opened HostDirNt::openKnown(const std::string& name, ACCESS_MASK rights, ULONG disposition, ULONG options) {
-  if (!isPart(name)) return {HostError::BadName, HostKind::Other, NtHandle()};
-  HostStat named;
-  const bool link = stat(name, named) == HostError::None && named.kind == HostKind::Link;
-  NtHandle handle;
-  NTSTATUS status = open(name, rights, disposition, options, handle);
-  FILE_BASIC_INFORMATION facts;
-  if (status >= 0) status = basicFacts(handle, facts);
-  if (status < 0) return {hostError(status), HostKind::Other, NtHandle()};
-  const HostKind kind = hostStat(facts.FileAttributes, {}).kind;
-  if (link && kind != HostKind::Link) return {HostError::None, HostKind::Link, NtHandle()};
-  return {HostError::None, kind, std::move(handle)};
+  Opened opened;
+  if (!isPart(name)) {
+    opened.error = HostError::BadName;
+    return opened;
+  }
+  FILE_NETWORK_OPEN_INFORMATION facts{};
+  NTSTATUS status = open(name, rights, disposition, options, opened.handle);
+  if (status >= 0) status = getFacts(opened.handle, facts);
+  opened.error = hostError(status);
+  opened.attributes = facts.FileAttributes;
+  opened.stat = hostStat(facts.FileAttributes, facts.EndOfFile);
+  if (opened.stat.kind == HostKind::Folder && listedAsLink(name)) {
+    opened.stat.kind = HostKind::Link;
+    opened.handle = NtHandle();
+  }
+  return opened;
+}
+
+bool HostDirNt::listedAsLink(const std::string& name) {
+  NtHandle folder;
+  if (open("", FolderRights, FILE_OPEN, FILE_DIRECTORY_FILE, folder) < 0) return false;
+  HostListNt listing(std::move(folder), wideName(name));
+  HostEntry entry;
+  return listing.next(entry) && entry.stat.kind == HostKind::Link;
 }
 
 HostError HostDirNt::openDir(const std::string& name, std::unique_ptr<HostDir>& child) {
   Opened folder = openKnown(name, FolderRights, FILE_OPEN, FILE_DIRECTORY_FILE);
   if (folder.error != HostError::None) return folder.error;
-  if (folder.kind != HostKind::Folder) return HostError::NotAFolder;
+  if (folder.stat.kind != HostKind::Folder) return HostError::NotAFolder;
   child = std::make_unique<HostDirNt>(std::move(folder.handle));
   return HostError::None;
 }
@@ -139,21 +144,16 @@ HostError HostDirNt::list(std::unique_ptr<HostList>& listing) {
 }
 
 HostError HostDirNt::stat(const std::string& name, HostStat& result) {
-  if (!isPart(name)) return HostError::BadName;
-  std::wstring wide = wideName(name);
-  UNICODE_STRING text = textOf(wide);
-  OBJECT_ATTRIBUTES object = objectOf(text);
-  FILE_NETWORK_OPEN_INFORMATION facts;
-  const NTSTATUS status = nt().queryAttributes(&object, &facts);
-  if (status >= 0) result = hostStat(facts.FileAttributes, facts.EndOfFile);
-  return hostError(status);
+  const Opened opened = openKnown(name, FILE_READ_ATTRIBUTES | SYNCHRONIZE, FILE_OPEN, 0);
+  if (opened.error == HostError::None) result = opened.stat;
+  return opened.error;
 }
 
 HostError HostDirNt::openFile(const std::string& name, HostOpen mode, std::unique_ptr<HostFile>& file) {
   const ModeRow& row = modes[static_cast<std::size_t>(mode)];
   Opened opened = openKnown(name, row.rights, row.disposition, FILE_NON_DIRECTORY_FILE);
   if (opened.error != HostError::None) return opened.error;
-  if (opened.kind != HostKind::File) return HostError::NotAFile;
+  if (opened.stat.kind != HostKind::File) return HostError::NotAFile;
   if (mode == HostOpen::Empty) {
     FILE_END_OF_FILE_INFORMATION end{};
     const NTSTATUS status = setFacts(opened.handle, &end, sizeof end, FileEndOfFileInformation);
@@ -166,14 +166,14 @@ HostError HostDirNt::openFile(const std::string& name, HostOpen mode, std::uniqu
 HostError HostDirNt::removeFile(const std::string& name) {
   const Opened file = openKnown(name, RemoveRights, FILE_OPEN, 0);
   if (file.error != HostError::None) return file.error;
-  if (file.kind == HostKind::Folder) return HostError::NotAFile;
+  if (file.stat.kind == HostKind::Folder) return HostError::NotAFile;
   return file.handle.get() != nullptr ? removeOpened(file.handle) : HostError::NoRights;
 }
 
 HostError HostDirNt::removeDir(const std::string& name) {
   const Opened folder = openKnown(name, RemoveRights, FILE_OPEN, FILE_DIRECTORY_FILE);
   if (folder.error != HostError::None) return folder.error;
-  return folder.kind == HostKind::Folder ? removeOpened(folder.handle) : HostError::NotAFolder;
+  return folder.stat.kind == HostKind::Folder ? removeOpened(folder.handle) : HostError::NotAFolder;
 }
 
 HostError HostDirNt::makeDir(const std::string& name) {
@@ -186,13 +186,10 @@ HostError HostDirNt::setReadOnly(const std::string& name, bool readOnly) {
   const Opened file =
       openKnown(name, FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES | SYNCHRONIZE, FILE_OPEN, 0);
   if (file.error != HostError::None) return file.error;
-  if (file.kind == HostKind::Folder) return HostError::None;
-  if (file.kind != HostKind::File) return HostError::NotAFile;
-  FILE_BASIC_INFORMATION facts;
-  const NTSTATUS status = basicFacts(file.handle, facts);
-  if (status < 0) return hostError(status);
+  if (file.stat.kind == HostKind::Folder) return HostError::None;
+  if (file.stat.kind != HostKind::File) return HostError::NotAFile;
   FILE_BASIC_INFORMATION changed{};  // a time of 0 stays as it is, attributes of 0 do too
-  changed.FileAttributes = facts.FileAttributes & ~ULONG{FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_NORMAL};
+  changed.FileAttributes = file.attributes & ~ULONG{FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_NORMAL};
   if (readOnly) changed.FileAttributes |= FILE_ATTRIBUTE_READONLY;
   if (changed.FileAttributes == 0) changed.FileAttributes = FILE_ATTRIBUTE_NORMAL;
   return hostError(setFacts(file.handle, &changed, sizeof changed, FileBasicInformation));
@@ -234,8 +231,8 @@ std::unique_ptr<HostDir> openHostDir(const std::string& path) {
                                     FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   if (opened == INVALID_HANDLE_VALUE) return nullptr;
   NtHandle folder(opened);
-  FILE_BASIC_INFORMATION facts;
-  if (basicFacts(folder, facts) < 0 || (facts.FileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return nullptr;
+  FILE_NETWORK_OPEN_INFORMATION facts;
+  if (getFacts(folder, facts) < 0 || (facts.FileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) return nullptr;
   return std::make_unique<HostDirNt>(std::move(folder));
 }
 

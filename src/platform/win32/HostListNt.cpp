@@ -1,6 +1,13 @@
 #include "platform/win32/HostListNt.h"
 
 namespace zub {
+namespace {
+
+// Room in units of 8 bytes; a record takes at most 64 bytes and its name, of 255 units at most.
+constexpr std::size_t OneEntry = 128;
+constexpr std::size_t ManyEntries = 8192;
+
+}  // namespace
 
 HostStat hostStat(ULONG attributes, LARGE_INTEGER size) {
   if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) return {HostKind::Link, false, 0};
@@ -10,10 +17,13 @@ HostStat hostStat(ULONG attributes, LARGE_INTEGER size) {
 }
 
 bool HostListNt::fill() {
+  buffer_.resize(name_.empty() ? ManyEntries : OneEntry);
+  UNICODE_STRING only = unicodeText(name_);
   IO_STATUS_BLOCK io;
-  const NTSTATUS status = nt().queryDirectory(folder_.get(), nullptr, nullptr, nullptr, &io, buffer_.data(),
-                                              static_cast<ULONG>(buffer_.size() * sizeof(ULONGLONG)),
-                                              FileDirectoryInformation, FALSE, nullptr, FALSE);
+  const NTSTATUS status =
+      nt().queryDirectory(folder_.get(), nullptr, nullptr, nullptr, &io, buffer_.data(),
+                          static_cast<ULONG>(buffer_.size() * sizeof(ULONGLONG)), FileDirectoryInformation,
+                          FALSE, name_.empty() ? nullptr : &only, FALSE);
   if (status < 0 || io.Information == 0) return false;
   record_ = reinterpret_cast<const FILE_DIRECTORY_INFORMATION*>(buffer_.data());
   return true;

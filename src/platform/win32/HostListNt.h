@@ -8,18 +8,22 @@
 
 namespace zub {
 
+// What a system's record tells.
 HostStat hostStat(ULONG attributes, LARGE_INTEGER size);
 
 class HostListNt : public HostList {
  public:
-  explicit HostListNt(NtHandle folder) : folder_(std::move(folder)) {}
+  // With a name, only what has it is told.
+  explicit HostListNt(NtHandle folder, std::wstring name = {})
+      : folder_(std::move(folder)), name_(std::move(name)) {}
   bool next(HostEntry& entry) override;
 
  private:
   bool fill();
 
   NtHandle folder_;
-  std::vector<ULONGLONG> buffer_ = std::vector<ULONGLONG>(8192);  // aligned as the records want it
+  std::wstring name_;
+  std::vector<ULONGLONG> buffer_;  // aligned as the records want it
   const FILE_DIRECTORY_INFORMATION* record_ = nullptr;
 };
 

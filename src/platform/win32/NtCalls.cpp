@@ -46,8 +46,7 @@ void load(Call& call, const char* name) {
 
 bool NtCalls::complete() const {
   return createFile != nullptr && queryInformation != nullptr && setInformation != nullptr &&
-         queryAttributes != nullptr && queryDirectory != nullptr && read != nullptr && write != nullptr &&
-         flush != nullptr;
+         queryDirectory != nullptr && read != nullptr && write != nullptr && flush != nullptr;
 }
 
 const NtCalls& nt() {
@@ -56,7 +55,6 @@ const NtCalls& nt() {
     load(loaded.createFile, "NtCreateFile");
     load(loaded.queryInformation, "NtQueryInformationFile");
     load(loaded.setInformation, "NtSetInformationFile");
-    load(loaded.queryAttributes, "NtQueryFullAttributesFile");
     load(loaded.queryDirectory, "NtQueryDirectoryFile");
     load(loaded.read, "NtReadFile");
     load(loaded.write, "NtWriteFile");
@@ -80,6 +78,11 @@ std::wstring wideName(const std::string& name) {
                                          result.data(), static_cast<int>(result.size()));
   result.resize(static_cast<std::size_t>(length));
   return result;
+}
+
+UNICODE_STRING unicodeText(std::wstring& text) {
+  const auto bytes = static_cast<USHORT>(text.size() * sizeof(wchar_t));
+  return {bytes, bytes, text.data()};
 }
 
 void setName(std::string& name, const wchar_t* wide, std::size_t length) {

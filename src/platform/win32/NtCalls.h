@@ -14,7 +14,6 @@ struct NtCalls {
   decltype(&::NtCreateFile) createFile;
   NTSTATUS(NTAPI* queryInformation)(HANDLE, IO_STATUS_BLOCK*, void*, ULONG, FILE_INFORMATION_CLASS);
   NTSTATUS(NTAPI* setInformation)(HANDLE, IO_STATUS_BLOCK*, void*, ULONG, FILE_INFORMATION_CLASS);
-  NTSTATUS(NTAPI* queryAttributes)(OBJECT_ATTRIBUTES*, FILE_NETWORK_OPEN_INFORMATION*);
   NTSTATUS(NTAPI* queryDirectory)
   (HANDLE, HANDLE, void*, void*, IO_STATUS_BLOCK*, void*, ULONG, FILE_INFORMATION_CLASS, BOOLEAN,
    UNICODE_STRING*, BOOLEAN);
@@ -33,6 +32,7 @@ HostError hostError(NTSTATUS status);
 
 // Host names are UTF-8 outside, UTF-16 in the calls.
 std::wstring wideName(const std::string& name);
+UNICODE_STRING unicodeText(std::wstring& text);  // stands on the text
 void setName(std::string& name, const wchar_t* wide, std::size_t length);
 
 // Closes a handle of the system when the scope ends.

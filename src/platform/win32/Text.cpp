@@ -28,14 +28,14 @@ SystemTime timeOf(const SYSTEMTIME& record) {
           record.wHour, record.wMinute, record.wSecond,    record.wMilliseconds};
 }
 
-std::string shortDate(const SystemTime& time) {
+std::string localeDate(const SystemTime& time) {
   char text[128] = "";
   const SYSTEMTIME record = recordOf(time);
   GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &record, nullptr, text, sizeof text);
   return text;
 }
 
-std::string shortTime(const SystemTime& time, DWORD flags) {
+std::string localeTime(const SystemTime& time, DWORD flags) {
   char text[128] = "";
   const SYSTEMTIME record = recordOf(time);
   GetTimeFormatA(LOCALE_USER_DEFAULT, flags, &record, nullptr, text, sizeof text);

@@ -16,7 +16,7 @@ SYSTEMTIME recordOf(const SystemTime& time);
 SystemTime timeOf(const SYSTEMTIME& record);
 
 // In the user's short forms; empty for a time that the system does not know.
-std::string shortDate(const SystemTime& time);
-std::string shortTime(const SystemTime& time, DWORD flags);
+std::string localeDate(const SystemTime& time);
+std::string localeTime(const SystemTime& time, DWORD flags);
 
 }  // namespace zub

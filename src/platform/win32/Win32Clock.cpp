@@ -12,11 +12,11 @@ SystemTime Win32Clock::local() {
 }
 
 std::string Win32Clock::dateText(const SystemTime& time) {
-  return shortDate(time);
+  return localeDate(time);
 }
 
 std::string Win32Clock::timeText(const SystemTime& time) {
-  return shortTime(time, 0);
+  return localeTime(time, 0);
 }
 
 SystemTime Win32Clock::parse(std::string_view text) {

@@ -5,7 +5,7 @@
 namespace zub {
 
 void Win32Restart::deleteAtRestart(std::string_view file) {
-  MoveFileExA(std::string(file).c_str(), nullptr, MOVEFILE_DELAY_UNTIL_REBOOT);
+  MoveFileExA(std::string(file).c_str(), "", MOVEFILE_DELAY_UNTIL_REBOOT);
 }
 
 void Win32Restart::writeProfile(std::string_view section, std::string_view key, std::string_view value,

@@ -5,7 +5,7 @@
 namespace zub {
 namespace {
 
-constexpr std::wstring_view StoredEnding = L".job";
+constexpr std::string_view StoredEnding = ".job";
 
 // A text that a component made for us.
 class ComText {
@@ -19,11 +19,12 @@ class ComText {
 };
 
 std::string taskName(std::wstring_view stored) {
-  if (stored.size() > StoredEnding.size()) {
-    const std::wstring ending(stored.substr(stored.size() - StoredEnding.size()));
-    if (lstrcmpiW(ending.c_str(), StoredEnding.data()) == 0) stored.remove_suffix(StoredEnding.size());
+  std::string name = narrow(stored);
+  if (name.size() > StoredEnding.size()) {
+    const std::size_t length = name.size() - StoredEnding.size();
+    if (lstrcmpiA(name.c_str() + length, StoredEnding.data()) == 0) name.resize(length);
   }
-  return narrow(stored);
+  return name;
 }
 
 std::string environment(const char* name) {
@@ -88,7 +89,7 @@ std::string Win32Trigger::text() {
   time.wDay = trigger.wBeginDay;
   time.wHour = trigger.wStartHour;
   time.wMinute = trigger.wStartMinute;
-  return "At " + shortTime(time, TIME_NOSECONDS) + " on " + shortDate(time);
+  return "At " + localeTime(time, TIME_NOSECONDS) + " on " + localeDate(time);
 }
 
 int Win32Triggers::count() {

@@ -1,0 +1,191 @@
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "platform/folder/HostDir.h"
+#include "support/TempFolder.h"
+
+namespace zub {
+namespace {
+
+struct Host {
+  Host() : dir(openHostDir(temp.path())) { REQUIRE(dir); }
+
+  void write(const std::string& name, std::string_view bytes) {
+    std::unique_ptr<HostFile> file;
+    REQUIRE(dir->openFile(name, HostOpen::Empty, file) == HostError::None);
+    REQUIRE(file->write(0, bytes) == HostError::None);
+  }
+  std::string read(const std::string& name, std::uint64_t offset = 0) {
+    std::unique_ptr<HostFile> file;
+    REQUIRE(dir->openFile(name, HostOpen::Read, file) == HostError::None);
+    std::string buffer(1000, '\0');
+    std::size_t done = 0;
+    REQUIRE(file->read(offset, buffer, done) == HostError::None);
+    return buffer.substr(0, done);
+  }
+  HostError open(const std::string& name, HostOpen mode) {
+    std::unique_ptr<HostFile> file;
+    const HostError error = dir->openFile(name, mode, file);
+    CHECK((error == HostError::None) == (file != nullptr));
+    return error;
+  }
+  HostError openDir(const std::string& name) {
+    std::unique_ptr<HostDir> child;
+    return dir->openDir(name, child);
+  }
+  std::string names() {
+    std::unique_ptr<HostList> listing;
+    REQUIRE(dir->list(listing) == HostError::None);
+    std::vector<std::string> all;
+    for (HostEntry entry; listing->next(entry);) all.push_back(entry.name);
+    std::ranges::sort(all);
+    std::string text;
+    for (const std::string& name : all) text += name + ' ';
+    return text;
+  }
+
+  TempFolder temp;
+  std::unique_ptr<HostDir> dir;
+};
+
+}  // namespace
+
+TEST_CASE("host folder: a name is one part, and nothing else") {
+  Host host;
+  std::unique_ptr<HostFile> file;
+  HostStat stat;
+  for (const std::string& name : {std::string(), std::string("."), std::string(".."), std::string("a/b"),
+                                  std::string("../x"), std::string("a\0b", 3)}) {
+    CAPTURE(name);
+    CHECK(host.openDir(name) == HostError::BadName);
+    CHECK(host.open(name, HostOpen::Make) == HostError::BadName);
+    CHECK(host.dir->stat(name, stat) == HostError::BadName);
+    CHECK(host.dir->removeFile(name) == HostError::BadName);
+    CHECK(host.dir->removeDir(name) == HostError::BadName);
+    CHECK(host.dir->makeDir(name) == HostError::BadName);
+    CHECK(host.dir->setReadOnly(name, true) == HostError::BadName);
+    CHECK(host.dir->rename("x", name) == HostError::BadName);
+  }
+  CHECK(host.names().empty());
+  CHECK(openHostDir(host.temp.path() + "/missing") == nullptr);
+}
+
+TEST_CASE("host folder: what each way of opening needs and makes") {
+  Host host;
+  REQUIRE(host.dir->makeDir("folder") == HostError::None);
+  const struct {
+    HostOpen mode;
+    HostError missing;
+    HostError present;
+    const char* left;  // of "0123456789"
+  } rows[] = {
+      {HostOpen::Read, HostError::NotFound, HostError::None, "0123456789"},
+      {HostOpen::ReadWrite, HostError::NotFound, HostError::None, "0123456789"},
+      {HostOpen::Make, HostError::None, HostError::None, "0123456789"},
+      {HostOpen::Empty, HostError::None, HostError::None, ""},
+      {HostOpen::New, HostError::None, HostError::Exists, "0123456789"},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(static_cast<int>(row.mode));
+    CHECK(host.open("file", row.mode) == row.missing);
+    host.write("file", "0123456789");
+    CHECK(host.open("file", row.mode) == row.present);
+    CHECK(host.read("file") == row.left);
+    CHECK(host.open("folder", row.mode) ==
+          (row.mode == HostOpen::New ? HostError::Exists : HostError::NotAFile));
+    CHECK(host.dir->removeFile("file") == HostError::None);
+  }
+}
+
+TEST_CASE("host folder: a file is read and written at any place") {
+  Host host;
+  std::unique_ptr<HostFile> file;
+  REQUIRE(host.dir->openFile("file", HostOpen::New, file) == HostError::None);
+  CHECK(file->write(0, "0123456789") == HostError::None);
+  CHECK(file->write(12, "CD") == HostError::None);
+  CHECK(file->write(3, "xy") == HostError::None);
+  CHECK(file->sync() == HostError::None);
+  std::uint64_t length = 0;
+  CHECK(file->length(length) == HostError::None);
+  CHECK(length == 14);
+  CHECK(host.read("file") == std::string("012xy56789\0\0CD", 14));
+  CHECK(host.read("file", 12) == "CD");
+  CHECK(host.read("file", 14).empty());
+  CHECK(host.read("file", 1000).empty());
+  CHECK(host.dir->removeFile("file") == HostError::None);  // others may remove what is open
+}
+
+TEST_CASE("host folder: names come and go") {
+  Host host;
+  CHECK(host.dir->makeDir("folder") == HostError::None);
+  CHECK(host.dir->makeDir("folder") == HostError::Exists);
+  host.write("file", "12345");
+  host.write("\xC3\xA9\xE2\x82\xAC", "x");
+  CHECK(host.names() == "file folder \xC3\xA9\xE2\x82\xAC ");
+  HostStat stat;
+  CHECK(host.dir->stat("file", stat) == HostError::None);
+  CHECK(stat.kind == HostKind::File);
+  CHECK(stat.size == 5);
+  CHECK(host.dir->stat("folder", stat) == HostError::None);
+  CHECK(stat.kind == HostKind::Folder);
+  CHECK(host.dir->stat("none", stat) == HostError::NotFound);
+
+  CHECK(host.openDir("file") == HostError::NotAFolder);
+  CHECK(host.openDir("none") == HostError::NotFound);
+  CHECK(host.dir->removeDir("file") == HostError::NotAFolder);
+  CHECK(host.dir->removeFile("folder") == HostError::NotAFile);
+  CHECK(host.dir->removeFile("none") == HostError::NotFound);
+  CHECK(host.dir->removeDir("none") == HostError::NotFound);
+  {
+    std::unique_ptr<HostDir> child;
+    REQUIRE(host.dir->openDir("folder", child) == HostError::None);
+    CHECK(child->makeDir("inner") == HostError::None);
+    CHECK(host.dir->removeDir("folder") == HostError::NotEmpty);
+    CHECK(child->removeDir("inner") == HostError::None);
+  }
+  CHECK(host.dir->removeDir("folder") == HostError::None);
+
+  host.write("new", "new");
+  CHECK(host.dir->rename("new", "file") == HostError::None);
+  CHECK(host.read("file") == "new");
+  CHECK(host.dir->rename("none", "file") == HostError::NotFound);
+  CHECK(host.dir->setReadOnly("file", true) == HostError::None);
+  CHECK(host.dir->stat("file", stat) == HostError::None);
+  CHECK(stat.readOnly);
+  CHECK(host.dir->setReadOnly("file", false) == HostError::None);
+  CHECK(host.dir->stat("file", stat) == HostError::None);
+  CHECK_FALSE(stat.readOnly);
+  CHECK(host.names() == "file \xC3\xA9\xE2\x82\xAC ");
+}
+
+TEST_CASE("host folder: many names are all told, and two listings do not meet") {
+  Host host;
+  for (int number = 0; number < 700; ++number)
+    host.write("a long name of a file " + std::to_string(number), "");
+  std::unique_ptr<HostList> one;
+  std::unique_ptr<HostList> two;
+  REQUIRE(host.dir->list(one) == HostError::None);
+  REQUIRE(host.dir->list(two) == HostError::None);
+  HostEntry entry;
+  int count = 0;
+  REQUIRE(two->next(entry));
+  while (one->next(entry)) ++count;
+  CHECK(count == 700);
+  for (count = 1; two->next(entry);) ++count;
+  CHECK(count == 700);
+}
+
+TEST_CASE("host folder: one at a time takes it") {
+  Host host;
+  const auto other = openHostDir(host.temp.path());
+  REQUIRE(other);
+  CHECK(host.dir->take() == HostError::None);
+  CHECK(other->take() == HostError::InUse);
+  host.dir.reset();
+  CHECK(other->take() == HostError::None);
+}
+
+}  // namespace zub
