@@ -13,7 +13,7 @@ class DueTimes {
   explicit DueTimes(const SystemTime& now) : last_(secondsOf(now)) {}
 
   // The indexes of the times after the last look and up to now. A clock that was put back, or on by more than five
-  // minutes, starts anew from now: what lay between is lost and nothing runs twice.
+  // minutes, starts anew from now: what lay between is lost, and what lies ahead again comes again.
   std::vector<std::size_t> look(const std::vector<SystemTime>& times, const SystemTime& now);
 
  private:

@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # The checks of the console tests; a test begins with `. check.sh`. Its words are those that start the program.
 set -u
 export LC_ALL=C.UTF-8 TZ=UTC

@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # The commands that make a PC, tell about the program and change settings, and what they refuse.
 . "$(dirname "$0")/check.sh"
 pc=$work/pc

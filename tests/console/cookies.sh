@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # Cookies: the lists, keeping and dropping by number, and what a wash then leaves.
 . "$(dirname "$0")/check.sh"
 pc=$work/pc

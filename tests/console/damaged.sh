@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # A PC whose texts are damaged is refused with the file, the line and the reason, before anything is touched: no file of
 # it is written over or removed.
 . "$(dirname "$0")/check.sh"
@@ -7,7 +8,7 @@ run 0 --pc "$pc" set chkTempFolder=1
 run 0 --pc "$pc" schedule add 12/24/2030 "6:00 PM"
 echo old >"$pc/C/WINDOWS/TEMP/old.tmp"
 mkdir "$work/whole"
-cp "$pc"/*.* "$work/whole"
+cp "$pc"/{registry.reg,pc.txt,tasks.txt} "$work/whole" || exit 1
 lines=$(wc -l <"$pc/registry.reg")
 factLines=$(wc -l <"$pc/pc.txt")
 taskLines=$(wc -l <"$pc/tasks.txt")
@@ -26,7 +27,7 @@ damaged() {
   cp "$work/whole/$file" "$pc/$file"
 }
 # appended FILE TEXT LINE: this line at the end of the file is refused.
-appended() { printf '%s\n' "$3" >>"$pc/$1" && damaged "$1" "$2"; }
+appended() { printf '%s\n' "$3" >>"$pc/$1"; damaged "$1" "$2"; }
 
 next=$((lines + 1))
 appended registry.reg "line $next: a text is cut off: it has no closing quote" '"chkBleach"="0'
@@ -35,10 +36,10 @@ appended registry.reg "line $next: is neither a key, a value nor a comment" 'chk
 appended registry.reg "line $next: the name of a key is cut off" '[HKEY_CURRENT_USER\Soft'
 appended registry.reg "line $next: the key is in no known hive" '[HKEY_NOBODY\Software]'
 appended registry.reg "line $next: the data of a value is of no known form" '"chkBleach"=0'
-sed -i 's/^REGEDIT4/RGEDIT4/' "$pc/registry.reg" && damaged registry.reg "line 1: is no registry text"
-: >"$pc/registry.reg" && damaged registry.reg "line 1: is no registry text"
-head -c 5000 /dev/urandom >"$pc/registry.reg" && damaged registry.reg "line 1: is no registry text"
-rm "$pc/registry.reg" && mkdir "$pc/registry.reg" && damaged registry.reg "cannot be read"
+sed -i 's/^REGEDIT4/RGEDIT4/' "$pc/registry.reg"; damaged registry.reg "line 1: is no registry text"
+: >"$pc/registry.reg"; damaged registry.reg "line 1: is no registry text"
+head -c 5000 /dev/urandom >"$pc/registry.reg"; damaged registry.reg "line 1: is no registry text"
+rm "$pc/registry.reg"; mkdir "$pc/registry.reg"; damaged registry.reg "cannot be read"
 
 next=$((factLines + 1))
 appended pc.txt "line $next: unknown name \"colour\"" 'colour = blue'
@@ -48,14 +49,14 @@ appended pc.txt "line $next: \"TEMP\" is no path such as C:\\WINDOWS" 'locked = 
 appended pc.txt "line $next: \"tape\" is no kind of drive" 'drive D = tape'
 appended pc.txt "line $next: the drive was told before" 'drive C = fixed'
 appended pc.txt "line $next: \"CD\" is no drive letter" 'read only = CD'
-sed -i 's/^family.*/family = 2000/' "$pc/pc.txt" && damaged pc.txt "line 2: the family is 9x or nt"
+sed -i 's/^family.*/family = 2000/' "$pc/pc.txt"; damaged pc.txt "line 2: the family is 9x or nt"
 
 next=$((taskLines + 1))
 appended tasks.txt "line $next: a trigger is told as" 'trigger = 0 2031-02-29 02:20'
 appended tasks.txt "line $next: a trigger is told as" 'trigger = tomorrow'
 appended tasks.txt "line $next: unknown name \"colour\"" 'colour = blue'
 appended tasks.txt "line $next: is no \"name = value\"" 'trigger'
-sed -i 1d "$pc/tasks.txt" && damaged tasks.txt "line 1: stands before the first task"
+sed -i 1d "$pc/tasks.txt"; damaged tasks.txt "line 1: stands before the first task"
 
 # The last of the checks is that the repaired PC works.
 run 0 --pc "$pc" wash

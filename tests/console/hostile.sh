@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # PCs that were made to lead a wash out of their folder: by links, by the paths in the registry, in plugins, in browser
 # files and in the facts. What lies beside the PC stays as it is, to the byte, also with the shredder on.
 . "$(dirname "$0")/check.sh"

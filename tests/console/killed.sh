@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # A wash that is killed, at the start of each of many tasks, in the midst of a removal and while it saves: the
 # registry text is the old one or the new one, whole, and a later wash works.
 . "$(dirname "$0")/check.sh"

@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # Plugins: the list with its ticks, what a plugin removes, and what in a plugin file can never work.
 . "$(dirname "$0")/check.sh"
 pc=$work/pc

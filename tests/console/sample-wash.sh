@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # One wash of the sample PC: the report, the progress, and every line of samples/expected.txt against the disk and the
 # saved registry. Then a second wash, which finds nothing to free.
 . "$(dirname "$0")/check.sh"

@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # Dated washes: adding, listing, removing, and what cannot be read as a date or a time.
 . "$(dirname "$0")/check.sh"
 pc=$work/pc

@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # The scheduler in the foreground: it starts washes when they are due, goes on when the tasks file changes or is damaged,
 # lets other commands at the PC, and ends cleanly on a signal.
 . "$(dirname "$0")/check.sh"
@@ -36,7 +37,7 @@ told() { grep -Fq -e "$1" "$work/told"; }
 secondsBefore() {
   present=$(date +%s)
   local east=$((60 - $1 - present % 60))
-  export TZ="ZUB$([ $east -lt 0 ] && echo + || echo -)00:00:${east#-}"
+  TZ="ZUB$([ $east -lt 0 ] && echo + || echo -)00:00:${east#-}"
 }
 
 for signal in INT TERM; do

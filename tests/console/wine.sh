@@ -1,3 +1,4 @@
+#!/usr/bin/env bash
 # A wash of a whole Windows: the registry and the disk of a Wine prefix of the test's own, without a way to the host's
 # disk. The program is installed in it, and what it is to wash is put there with files and the system's own "reg".
 . "$(dirname "$0")/check.sh"

@@ -212,6 +212,7 @@ HostError HostDirNt::rename(const std::string& from, const std::string& to) {
 
 // By a named object of the system that goes with its last handle, however the process ends.
 HostError HostDirNt::take() {
+  if (taken_.get() != nullptr) return HostError::None;
   BY_HANDLE_FILE_INFORMATION facts;
   if (GetFileInformationByHandle(folder_.get(), &facts) == 0) return HostError::DeviceFailure;
   char name[64];
