@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "engine/ShellFolder.h"
 #include "cleaners/frmIECookieKeep.h"
 #include "engine/Engine.h"
+#include "engine/ShellFolder.h"
 
 namespace zub {
 namespace {

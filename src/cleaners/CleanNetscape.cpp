@@ -6,11 +6,7 @@
 namespace zub {
 
 void CleanNetscape(Engine& engine, frmNSCookieKeep& cookieKeep) {
-  CleanerFrame frame(engine, Task::Netscape);
-  frame.announce();
-  frame.heading();
-  cookieKeep.CleanNS6();
-  frame.finish();
+  clean(engine, Task::Netscape, [&] { cookieKeep.CleanNS6(); });
 }
 
 }  // namespace zub

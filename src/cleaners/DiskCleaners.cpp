@@ -50,11 +50,7 @@ void Recycle::CleanBin() {
 }
 
 void CleanRecycleBin(Engine& engine, Recycle& recycle) {
-  CleanerFrame frame(engine, Task::RecycleBin);
-  frame.announce();
-  frame.heading();
-  recycle.CleanBin();
-  frame.finish();
+  clean(engine, Task::RecycleBin, [&] { recycle.CleanBin(); });
 }
 
 ScanDisk::ScanDisk(Engine& engine)

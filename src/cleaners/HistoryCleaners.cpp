@@ -14,55 +14,47 @@ constexpr const char* officeVersions[] = {"10.0", "9.0", "8.0"};
 }  // namespace
 
 void CleanDocumentHistory(Engine& engine) {
-  CleanerFrame frame(engine, Task::DocumentHistory);
-  frame.announce();
-  frame.heading();
-  const std::string recent = shellFolder(engine, "Recent");
-  engine.clean.AddItem("\tRemoving registry entries - Recently opened documents");
-  engine.registryHelper.DeleteTrace(
-      "HKey_Current_User\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RecentDocs- Key*");
-  engine.clean.AddItem("\tRemoving registry entries - Stream MRU");
-  engine.registryHelper.DeleteTrace(
-      "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\StreamMRU- Key*");
-  engine.clean.AddItem("\tRemoving registry entries - Streams");
-  engine.registryHelper.DeleteTrace(
-      "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Streams- Key*");
-  engine.deleter->DeleteFolder(recent, "*.*");
-  engine.deleter->MakeDir(recent);
-  frame.finish();
+  clean(engine, Task::DocumentHistory, [&] {
+    const std::string recent = shellFolder(engine, "Recent");
+    engine.clean.AddItem("\tRemoving registry entries - Recently opened documents");
+    engine.registryHelper.DeleteTrace(
+        "HKey_Current_User\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RecentDocs- Key*");
+    engine.clean.AddItem("\tRemoving registry entries - Stream MRU");
+    engine.registryHelper.DeleteTrace(
+        "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\StreamMRU- Key*");
+    engine.clean.AddItem("\tRemoving registry entries - Streams");
+    engine.registryHelper.DeleteTrace(
+        "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Streams- Key*");
+    engine.deleter->DeleteFolder(recent, "*.*");
+    engine.deleter->MakeDir(recent);
+  });
 }
 
 void CleanFindHistory(Engine& engine) {
-  CleanerFrame frame(engine, Task::FindHistory);
-  frame.announce();
-  frame.heading();
-  engine.clean.AddItem("\tRemoving registry entries");
-  engine.registryHelper.DeleteTrace(
-      "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Doc Find Spec MRU- Key*");
-  frame.finish();
+  clean(engine, Task::FindHistory, [&] {
+    engine.clean.AddItem("\tRemoving registry entries");
+    engine.registryHelper.DeleteTrace(
+        "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Doc Find Spec MRU- Key*");
+  });
 }
 
 void CleanRunHistory(Engine& engine) {
-  CleanerFrame frame(engine, Task::RunHistory);
-  frame.announce();
-  frame.heading();
-  engine.clean.AddItem("\tRemoving registry entries");
-  engine.registryHelper.DeleteTrace(
-      "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RunMRU- Key*");
-  frame.finish();
+  clean(engine, Task::RunHistory, [&] {
+    engine.clean.AddItem("\tRemoving registry entries");
+    engine.registryHelper.DeleteTrace(
+        "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RunMRU- Key*");
+  });
 }
 
 void CleanMediaPlayer(Engine& engine) {
-  CleanerFrame frame(engine, Task::MediaPlayer);
-  frame.announce();
-  frame.heading();
-  engine.clean.AddItem("\tRemoved registry entries - RecentFileList");
-  engine.clean.AddItem("\tRemoved registry entries - RecentURLList");
-  engine.registryHelper.DeleteTrace(
-      "HKEY_CURRENT_USER\\Software\\Microsoft\\MediaPlayer\\Player\\RecentFileList- Key*");
-  engine.registryHelper.DeleteTrace(
-      "HKEY_CURRENT_USER\\Software\\Microsoft\\MediaPlayer\\Player\\RecentURLList- Key*");
-  frame.finish();
+  clean(engine, Task::MediaPlayer, [&] {
+    engine.clean.AddItem("\tRemoved registry entries - RecentFileList");
+    engine.clean.AddItem("\tRemoved registry entries - RecentURLList");
+    engine.registryHelper.DeleteTrace(
+        "HKEY_CURRENT_USER\\Software\\Microsoft\\MediaPlayer\\Player\\RecentFileList- Key*");
+    engine.registryHelper.DeleteTrace(
+        "HKEY_CURRENT_USER\\Software\\Microsoft\\MediaPlayer\\Player\\RecentURLList- Key*");
+  });
 }
 
 void CleanOffice(Engine& engine) {

@@ -6,9 +6,9 @@
 #include "base/Text.h"
 #include "cleaners/IECookieIndex.h"
 #include "cleaners/LfLine.h"
-#include "engine/ShellFolder.h"
 #include "cleaners/UnclaimedFiles.h"
 #include "engine/Engine.h"
+#include "engine/ShellFolder.h"
 
 namespace zub {
 

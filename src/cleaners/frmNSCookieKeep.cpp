@@ -6,8 +6,8 @@
 #include "base/Text.h"
 #include "cleaners/LfLine.h"
 #include "cleaners/NetscapeCookies.h"
-#include "engine/ShellFolder.h"
 #include "engine/Engine.h"
+#include "engine/ShellFolder.h"
 
 namespace zub {
 namespace {

@@ -56,4 +56,14 @@ class CleanerFrame {
   Task task_;
 };
 
+// The frame around work that comes wholly behind the heading.
+template <class Work>
+void clean(Engine& engine, Task task, Work work) {
+  CleanerFrame frame(engine, task);
+  frame.announce();
+  frame.heading();
+  work();
+  frame.finish();
+}
+
 }  // namespace zub
