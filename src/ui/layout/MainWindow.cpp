@@ -87,10 +87,10 @@ constexpr ControlSpec controls[] = {
     {"pageScheduler", Kind::Label, "lblSchedulerHelp", px(18, 262, 403, 62), "", "", Text::Help},
 
     {"", Kind::Page, "pageStandard", Page, " Standard Plugins", ""},
-    {"pageStandard", Kind::CheckList, "standardlist", px(16, 12, 228, 284), "", ""},
-    {"pageStandard", Kind::Check, "StandardPluginsSelectAll", px(10, 304, 200, 20), "Select All", ""},
-    {"pageStandard", Kind::Group, "XPGroupBox2", px(256, 6, 167, 290), "Description", ""},
-    {"XPGroupBox2", Kind::Label, "lblStandardPluginDescription", px(12, 22, 143, 256), "", ""},
+    {"pageStandard", Kind::CheckList, "standardlist", px(16, 12, 407, 200), "", ""},
+    {"pageStandard", Kind::Check, "StandardPluginsSelectAll", px(10, 217, 200, 20), "Select All", ""},
+    {"pageStandard", Kind::Group, "XPGroupBox2", px(16, 242, 407, 84), "Description", ""},
+    {"XPGroupBox2", Kind::Label, "lblStandardPluginDescription", px(12, 20, 383, 58), "", ""},
 
     {"", Kind::Button, "cmdRemove", px(8, 376, 128, 28), "&Start Cleaning", "Start the cleaning process"},
     {"", Kind::Button, "cmdViewLog", px(144, 376, 92, 28), "&View Log", "View log"},

@@ -1,0 +1,63 @@
+// zub.exe: the program on the PC that it runs on, with its windows.
+#include "app/Program.h"
+#include "app/Timers.h"
+#include "platform/win32/Win32Platform.h"
+#include "ui/MessageBox.h"
+#include "ui/frmAbout.h"
+#include "ui/win32/CommonControls.h"
+#include "ui/win32/TrayWindow.h"
+#include "ui/win32/WindowSystem.h"
+
+namespace {
+
+using namespace zub;
+
+[[noreturn]] void runProgram(HINSTANCE instance) {
+  Ui ui(instance);
+  TrayWindow tray(ui);
+  WindowSystem windows(ui);
+  Win32Platform pc(windows, tray, [] { return WindowSystem::activeWindow(); });
+  Program program(pc.platform());
+  frmAbout about(program.engine.pc);
+  MessageBox messageBox;
+  Timers timers(program);
+
+  windows.serveTimers = [&timers](std::uint64_t now) { timers.serve(now); };
+  tray.attach(program.icon);
+  program.icon.windows[frmIcon::MessageWindow] = [&messageBox]() -> Form& { return messageBox.form; };
+
+  const HWND main = windows.add(layout::bindMain(program.main)).hwnd();
+  windows.addLater(layout::bindProgress(program.engine.animated));
+  windows.addLater(layout::bindReport(program.engine.clean));
+  windows.addLater(layout::bindEditor(*program.editor));
+  windows.addLater(layout::bindCookies(*program.ieCookies));
+  windows.addLater(layout::bindCookies(*program.nsCookies));
+  windows.addLater(layout::bindAbout(about), [main] { return main; });
+  windows.addLater(layout::bindMessageBox(messageBox), [main] { return main; });
+  program.main.showAbout = [&, main] {
+    about.Form_Load();
+    about.form.Show();
+    windows.runModal(main, [&about] { return about.form.Visible; });
+  };
+
+  try {
+    program.start();
+    windows.run();
+  } catch (const EndOfProcess&) {
+    ExitProcess(0);  // at once, while all that a window can reach is there
+  }
+}
+
+}  // namespace
+
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
+  INITCOMMONCONTROLSEX controls{sizeof controls,
+                                ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
+  InitCommonControlsEx(&controls);
+  try {
+    runProgram(instance);
+  } catch (const std::exception& failure) {
+    MessageBoxA(nullptr, failure.what(), "Zubrane", MB_OK | MB_ICONSTOP);
+    return 1;
+  }
+}

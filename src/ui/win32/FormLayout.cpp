@@ -1,0 +1,126 @@
+// The making of a window from its layout.
+#include "ui/win32/CommonControls.h"
+#include "ui/win32/FormPage.h"
+#include "ui/win32/FormWindow.h"
+
+namespace zub {
+namespace {
+
+constexpr const char* FormClass = "ZubraneForm";
+
+DWORD styleOf(layout::Border border) {
+  switch (border) {
+    case layout::Border::Fixed:
+      return WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_OVERLAPPED | WS_CLIPCHILDREN;
+    case layout::Border::Dialog:
+      return WS_CAPTION | WS_SYSMENU | WS_POPUP | WS_CLIPCHILDREN;
+    case layout::Border::None:
+      break;
+  }
+  return WS_POPUP | WS_CLIPCHILDREN;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Ui& ui, layout::WindowBinding binding, HWND owner)
+    : OwnWindow(ui, plainColor(binding.window->background)), binding_(std::move(binding)), owner_(owner) {
+  const layout::WindowSpec& window = *binding_.window;
+  const DWORD style = styleOf(window.border);
+  const DWORD extendedStyle =
+      WS_EX_CONTROLPARENT | (window.border == layout::Border::Dialog ? WS_EX_DLGMODALFRAME : DWORD{0});
+  RECT size{0, 0, ui.fonts.pixels(window.width), ui.fonts.pixels(window.height)};
+  AdjustWindowRectEx(&size, style, FALSE, extendedStyle);
+  OffsetRect(&size, -size.left, -size.top);
+  create({FormClass, std::string(window.title).c_str(), style, extendedStyle, size, owner});
+  makeControls();
+}
+
+FormWindow::~FormWindow() = default;
+
+FormWindow* FormWindow::of(HWND window) {
+  char className[32] = "";
+  if (window == nullptr || GetClassNameA(window, className, sizeof className) == 0) return nullptr;
+  if (std::string_view(className) != FormClass) return nullptr;
+  return reinterpret_cast<FormWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+}
+
+void FormWindow::makeControls() {
+  toolTips_ =
+      CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT,
+                      CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, hwnd(), nullptr, ui_.instance, nullptr);
+  for (const layout::ControlSpec& spec : binding_.window->controls) {
+    if (spec.kind == layout::Kind::Page)
+      makePage(spec);
+    else
+      makeView(spec);
+  }
+  if (!pages_.empty()) showPage(0);
+}
+
+void FormWindow::makePage(const layout::ControlSpec& spec) {
+  pages_.push_back(std::make_unique<FormPage>(ui_, hwnd(), ui_.fonts.pixels(spec.place)));
+  holders_[spec.name] = pages_.back()->hwnd();
+}
+
+HWND FormWindow::windowOf(std::string_view parent) const {
+  const auto holder = holders_.find(parent);
+  return holder != holders_.end() ? holder->second : hwnd();
+}
+
+void FormWindow::makeView(const layout::ControlSpec& spec) {
+  const layout::Binding* binding = nullptr;
+  for (const layout::Binding& one : binding_.controls) {
+    if (one.control == spec.name) binding = &one;
+  }
+  const ViewSite site{ui_,
+                      *binding_.window,
+                      spec,
+                      binding,
+                      windowOf(spec.parent),
+                      ui_.fonts.pixels(spec.place),
+                      plainColor(layout::groundOf(*binding_.window, spec)),
+                      [this](int page) { showPage(page); }};
+  std::unique_ptr<View> view = makeKitView(site);
+  if (!view) view = makeNativeView(site);
+  if (spec.kind == layout::Kind::Group) holders_[spec.name] = view->hwnd();
+  if (spec.kind == layout::Kind::Tabs) tabs_ = view->hwnd();
+  if (TextBox* box = site.bound<TextBox*>()) boxes_[box] = view.get();
+  // One group each for the arrow keys, but for option buttons that follow each other.
+  const bool continues = spec.kind == layout::Kind::Radio && &spec != binding_.window->controls.data() &&
+                         (&spec)[-1].kind == layout::Kind::Radio;
+  const LONG style = GetWindowLongA(view->hwnd(), GWL_STYLE);
+  if (!continues) SetWindowLongA(view->hwnd(), GWL_STYLE, style | LONG{WS_GROUP});
+  if (!spec.toolTip.empty()) addToolTip(view->hwnd(), spec.toolTip);
+  views_.push_back(std::move(view));
+}
+
+void FormWindow::addToolTip(HWND control, std::string_view text) {
+  std::string shown(text);
+  TOOLINFOA tool{};
+  tool.cbSize = TTTOOLINFOA_V2_SIZE;  // what every version of the tool tips knows
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = hwnd();
+  tool.uId = reinterpret_cast<UINT_PTR>(control);
+  tool.lpszText = shown.data();
+  SendMessageA(toolTips_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+// In the middle of the screen's free part, or of the owner.
+void FormWindow::place() {
+  RECT middle{};
+  if (owner_ == nullptr || IsWindowVisible(owner_) == 0 || GetWindowRect(owner_, &middle) == 0)
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &middle, 0);
+  RECT size;
+  GetWindowRect(hwnd(), &size);
+  const LONG left = (middle.left + middle.right - (size.right - size.left)) / 2;
+  const LONG top = (middle.top + middle.bottom - (size.bottom - size.top)) / 2;
+  SetWindowPos(hwnd(), nullptr, static_cast<int>(left), static_cast<int>(std::max(top, LONG{0})), 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void FormWindow::showPage(int page) {
+  for (int one = 0; one < static_cast<int>(pages_.size()); ++one)
+    ShowWindow(pages_[static_cast<std::size_t>(one)]->hwnd(), one == page ? SW_SHOW : SW_HIDE);
+}
+
+}  // namespace zub

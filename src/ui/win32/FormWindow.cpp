@@ -1,0 +1,153 @@
+#include "ui/win32/FormWindow.h"
+
+#include "ui/win32/CommonControls.h"
+#include "ui/win32/NativeView.h"
+
+namespace zub {
+
+bool FormWindow::isWanted() const {
+  const Form* form = binding_.form();
+  return form != nullptr && form->Visible;
+}
+
+void FormWindow::showForm() {
+  if (!isWanted()) return;
+  Form& form = *binding_.form();
+  if (!visible_) {
+    for (const auto& view : views_) view->forget();
+    broughtUp_ = form.shown - 1;
+  }
+  if (changes(enabled_, form.Enabled)) EnableWindow(hwnd(), enabled_ ? TRUE : FALSE);
+  showControls();
+  appear(form);
+  takeFocus();
+}
+
+void FormWindow::appear(Form& form) {
+  if (!std::exchange(placed_, true)) place();
+  const bool comes = !std::exchange(visible_, true);
+  const bool restores = form.windowState == WindowState::Normal && IsIconic(hwnd()) != 0;
+  if (comes || restores)
+    ShowWindow(hwnd(), form.windowState == WindowState::Normal ? SW_RESTORE : SW_SHOWMINNOACTIVE);
+  if (changes(broughtUp_, form.shown)) {
+    SetForegroundWindow(hwnd());
+    BringWindowToTop(hwnd());
+  }
+  // A wash may not come to paint anything for a while.
+  if (comes) RedrawWindow(hwnd(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+void FormWindow::hideForm() {
+  if (!visible_ || isWanted()) return;
+  visible_ = false;
+  ShowWindow(hwnd(), SW_HIDE);
+  // A main window that a wash disables is hidden first.
+  const Form* form = binding_.form();
+  if (form != nullptr && changes(enabled_, form->Enabled)) EnableWindow(hwnd(), enabled_ ? TRUE : FALSE);
+}
+
+void FormWindow::showControls() {
+  for (const auto& view : views_) view->show();
+}
+
+void FormWindow::takeFocus() {
+  const TextBox* box = binding_.takesFocus ? binding_.takesFocus() : nullptr;
+  if (const auto view = boxes_.find(box); view != boxes_.end()) SetFocus(view->second->hwnd());
+  if (GetActiveWindow() != hwnd()) return;
+  // The control that had the keyboard may have gone or been disabled.
+  const HWND focus = GetFocus();
+  if (focus == nullptr || focus == hwnd() || IsWindowEnabled(focus) == 0 || IsWindowVisible(focus) == 0)
+    SetFocus(GetNextDlgTabItem(hwnd(), IsChild(hwnd(), focus) != 0 ? focus : nullptr, FALSE));
+}
+
+bool FormWindow::takesKey(const MSG& key) {
+  if (key.message != WM_KEYDOWN) return false;
+  switch (key.wParam) {
+    case VK_ESCAPE:
+      return takesEscape(key.hwnd);
+    case VK_RETURN:
+      return takesEnter();
+    case VK_TAB:
+      return GetKeyState(VK_CONTROL) < 0 && turnPage(GetKeyState(VK_SHIFT) < 0 ? -1 : 1);
+    default:
+      return false;
+  }
+}
+
+// A list that hangs open keeps the key.
+bool FormWindow::takesEscape(HWND control) {
+  const auto hangsOpen = [](HWND window) { return SendMessageA(window, CB_GETDROPPEDSTATE, 0, 0) == TRUE; };
+  if (!binding_.escape || hangsOpen(control) || hangsOpen(GetParent(control))) return false;
+  ui_.guard.run([this] { raise(binding_.escape); });
+  return true;
+}
+
+bool FormWindow::takesEnter() {
+  const HWND focus = GetFocus();
+  bool taken = false;
+  for (const auto& view : views_) {
+    if (view->hwnd() == focus) ui_.guard.run([&] { taken = view->enter(); });
+  }
+  return taken;
+}
+
+bool FormWindow::turnPage(int direction) {
+  if (tabs_ == nullptr) return false;
+  const auto pages = static_cast<int>(pages_.size());
+  const auto now = static_cast<int>(SendMessageA(tabs_, TCM_GETCURSEL, 0, 0));
+  SendMessageA(tabs_, TCM_SETCURFOCUS, static_cast<WPARAM>((now + direction + pages) % pages), 0);
+  return true;
+}
+
+void FormWindow::stateChanged(WPARAM how) {
+  Form* form = binding_.form();
+  if (form == nullptr || (how != SIZE_MINIMIZED && how != SIZE_RESTORED)) return;
+  form->windowState = how == SIZE_MINIMIZED ? WindowState::Minimised : WindowState::Normal;
+  raise(binding_.resize);
+}
+
+// As if the title bar had been grabbed.
+void FormWindow::drag() {
+  ReleaseCapture();
+  SendMessageA(hwnd(), WM_NCLBUTTONDOWN, HTCAPTION, 0);
+}
+
+LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_CLOSE:
+      raise(binding_.close);
+      return 0;
+    case WM_SIZE:
+      if (visible_) stateChanged(wParam);
+      break;
+    case WM_MOUSEMOVE:
+      if ((wParam & (MK_LBUTTON | MK_RBUTTON | MK_MBUTTON)) == MK_LBUTTON) drag();
+      return 0;
+    case WM_SETCURSOR: {
+      const Form* form = binding_.form();
+      if (form == nullptr || form->mousePointer != MousePointer::Hourglass) break;
+      SetCursor(LoadCursorA(nullptr, IDC_WAIT));
+      return TRUE;
+    }
+    case WM_ACTIVATE:
+      if (LOWORD(wParam) == WA_INACTIVE)
+        lastFocus_ = GetFocus();
+      else if (HIWORD(wParam) == 0 && IsChild(hwnd(), lastFocus_) != 0 && IsWindowVisible(lastFocus_) != 0)
+        return SetFocus(lastFocus_), 0;
+      break;
+    case WM_SETFOCUS:
+      SetFocus(GetNextDlgTabItem(hwnd(), nullptr, FALSE));
+      return 0;
+    case WM_QUERYENDSESSION:
+      raise(binding_.queryEnd);
+      return TRUE;
+    case WM_ENDSESSION:
+      if (wParam != 0) raise(binding_.end);
+      return 0;
+    default:
+      break;
+  }
+  return OwnWindow::onMessage(message, wParam, lParam);
+}
+
+}  // namespace zub

@@ -1,0 +1,71 @@
+// A window of the program: made from its layout, it shows a form and hands the user's doings to it. It stays
+// made when the form is unloaded, and then is hidden.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "ui/win32/FormPage.h"
+#include "ui/win32/OwnWindow.h"
+#include "ui/win32/View.h"
+
+namespace zub {
+
+class FormWindow : public OwnWindow {
+ public:
+  // `owner` may be null. The binding's objects outlive the window.
+  FormWindow(Ui& ui, layout::WindowBinding binding, HWND owner);
+  ~FormWindow() override;
+
+  // The window of a handle; null for a window that is none of these.
+  static FormWindow* of(HWND window);
+
+  // The two halves of a turn: windows that come are shown before others go, so that the program keeps the
+  // user's attention.
+  void showForm();
+  void hideForm();
+  // A key that works on the window as a whole: Esc, Enter on a button, the keys of the tab headers. False:
+  // it goes its usual way.
+  bool takesKey(const MSG& key);
+
+ protected:
+  LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  void makeControls();
+  void makePage(const layout::ControlSpec& spec);
+  void makeView(const layout::ControlSpec& spec);
+  void addToolTip(HWND control, std::string_view text);
+  HWND windowOf(std::string_view parent) const;
+  void place();
+  void showPage(int page);
+
+  bool isWanted() const;
+  void appear(Form& form);
+  void showControls();
+  void takeFocus();
+  bool takesEscape(HWND control);
+  bool takesEnter();
+  bool turnPage(int direction);
+
+  void stateChanged(WPARAM how);
+  void drag();
+
+  layout::WindowBinding binding_;
+  HWND owner_;
+  HWND toolTips_ = nullptr;
+  HWND tabs_ = nullptr;
+  HWND lastFocus_ = nullptr;
+  std::map<std::string_view, HWND> holders_;  // pages and groups by name
+  std::vector<std::unique_ptr<FormPage>> pages_;
+  std::vector<std::unique_ptr<View>> views_;
+  std::map<const TextBox*, View*> boxes_;
+  bool visible_ = false;
+  bool enabled_ = true;
+  unsigned broughtUp_ = 0;
+  bool placed_ = false;
+};
+
+}  // namespace zub

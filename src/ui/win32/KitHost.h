@@ -1,0 +1,56 @@
+// The window around a control of the kit: gives it pixels, the mouse, the keyboard and its timer.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "ui/win32/OwnWindow.h"
+#include "ui/win32/PixelCanvas.h"
+#include "ui/win32/View.h"
+
+namespace zub {
+
+class KitHost : public OwnWindow, public View {
+ public:
+  struct Parts {
+    std::unique_ptr<controls::Control> control;
+    std::function<void()> show;  // brings the control up to the state; what is none stays as it is
+    std::function<bool()> visible;
+    std::function<bool()> enabled;
+    Handler press;  // what space does; none: the control takes no such key
+    LRESULT dialogCode = DLGC_STATIC;
+    bool takesFocus = false;
+    bool stretched = false;  // painted for 96 pixels an inch, whatever the screen has
+  };
+  KitHost(const ViewSite& site, Parts parts);
+
+  HWND hwnd() const override { return OwnWindow::hwnd(); }
+  void show() override;
+  bool enter() override;
+
+ protected:
+  LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  void makeCanvas();
+  void press();
+  void refresh();  // paints the control anew where its look has changed
+  void paintCanvas();
+  void paint();
+  void serveTimer();
+  bool onMouse(UINT message, WPARAM wParam, LPARAM lParam);
+  bool onKey(UINT message, WPARAM wParam);
+  controls::Mouse mouseAt(std::int16_t button, WPARAM keys, LPARAM place) const;
+
+  Parts parts_;
+  std::optional<PixelCanvas> canvas_;
+  std::optional<unsigned> painted_;  // the look that the canvas shows
+  std::string caption_;
+  bool visible_ = true;
+  bool enabled_ = true;
+  bool focused_ = false;
+  bool timerRuns_ = false;
+};
+
+}  // namespace zub

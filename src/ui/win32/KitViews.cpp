@@ -1,0 +1,195 @@
+// The controls of the kit, each tied to the state that it shows.
+#include "ui/controls/Clock.h"
+#include "ui/controls/ListBox.h"
+#include "ui/controls/XPCheck.h"
+#include "ui/controls/XPCmdButton.h"
+#include "ui/controls/XPGroupBox.h"
+#include "ui/controls/ZUBCloseButton.h"
+#include "ui/win32/KitHost.h"
+#include "ui/win32/PictureControl.h"
+
+namespace zub {
+namespace {
+
+using layout::Kind;
+
+KitHost::Parts button(const ViewSite& site) {
+  auto control = std::make_unique<controls::XPCmdButton>(site.ui.kit);
+  controls::XPCmdButton& button = *control;
+  button.Caption(std::string(site.spec.caption));
+  button.Click = site.click();
+  KitHost::Parts parts;
+  parts.control = std::move(control);
+  if (const auto* state = site.bound<const Button*>()) {
+    parts.show = [&button, state] {
+      if (button.Caption() != state->Caption) button.Caption(state->Caption);
+    };
+    parts.visible = [state] { return state->Visible; };
+    parts.enabled = [state] { return state->Enabled; };
+  }
+  parts.press = [&button] { raise(button.Click); };
+  parts.dialogCode = DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
+  parts.takesFocus = true;
+  return parts;
+}
+
+KitHost::Parts check(const ViewSite& site) {
+  auto control = std::make_unique<controls::XPCheck>(site.ui.kit);
+  controls::XPCheck& box = *control;
+  box.Caption(std::string(site.spec.caption));
+  CheckOption& option = *site.bound<CheckOption*>();
+  KitHost::Parts parts;
+  parts.control = std::move(control);
+  // A write of the box raises its click also where it only follows the option.
+  const auto writesOption = [&box, &option] { option.Value(static_cast<int>(box.Value())); };
+  box.Click = writesOption;
+  parts.show = [&box, &option, writesOption] {
+    if (static_cast<int>(box.Value()) == option.Value()) return;
+    box.Click = {};
+    box.Value(static_cast<float>(option.Value()));
+    box.Click = writesOption;
+  };
+  parts.enabled = [&option] { return option.Enabled; };
+  parts.press = [&box] { box.Value(box.Value() == 0 ? 1.0F : 0.0F); };
+  parts.dialogCode = DLGC_BUTTON;
+  parts.takesFocus = true;
+  return parts;
+}
+
+KitHost::Parts group(const ViewSite& site) {
+  auto control = std::make_unique<controls::XPGroupBox>(site.ui.kit);
+  control->Caption(std::string(site.spec.caption));
+  KitHost::Parts parts;
+  parts.control = std::move(control);
+  if (const auto* state = site.bound<const Group*>()) parts.visible = [state] { return state->Visible; };
+  return parts;
+}
+
+KitHost::Parts iconList(const ViewSite& site) {
+  auto control = std::make_unique<controls::ListBox>(site.ui.kit);
+  controls::ListBox& list = *control;
+  const auto state = site.bound<layout::IconListState>();
+  list.ClickSelect = [state](std::int16_t& row) { state.ClickSelect(row); };
+  list.ClickCheck = [state, &list](std::int16_t& row) {
+    state.checks->Check(row, list.Check(row));
+    state.ClickCheck(row);
+  };
+  list.Initialise();
+  KitHost::Parts parts;
+  parts.control = std::move(control);
+  parts.show = [state, &list] {
+    for (std::int16_t row = 0; row < controls::ListBox::Items; ++row) {
+      if (list.Check(row) != state.checks->Check(row))
+        list.Check(row, static_cast<std::int16_t>(state.checks->Check(row)));
+    }
+  };
+  parts.dialogCode = DLGC_WANTARROWS;
+  parts.takesFocus = true;
+  parts.stretched = true;
+  return parts;
+}
+
+KitHost::Parts clock(const ViewSite& site) {
+  auto control = std::make_unique<controls::Clock>(site.ui.kit);
+  controls::Clock& clock = *control;
+  const auto* display = site.bound<const ClockDisplay*>();
+  KitHost::Parts parts;
+  parts.control = std::move(control);
+  parts.show = [&clock, display, shown = std::string()]() mutable {
+    if (changes(shown, display->text)) clock.SetText(shown);
+    if (clock.colonIsVisible() != display->colon) clock.Blink();
+  };
+  parts.stretched = true;
+  return parts;
+}
+
+KitHost::Parts closeButton(const ViewSite& site) {
+  auto control = std::make_unique<controls::ZUBCloseButton>(site.ui.kit);
+  control->Click = site.click();
+  KitHost::Parts parts;
+  parts.control = std::move(control);
+  parts.stretched = true;
+  return parts;
+}
+
+KitHost::Parts picture(const ViewSite& site) {
+  auto control = std::make_unique<PictureControl>(site.ui.kit);
+  PictureControl& picture = *control;
+  picture.picture(site.spec.caption);
+  KitHost::Parts parts;
+  parts.control = std::move(control);
+  if (const auto* image = site.bound<const Image*>())
+    parts.show = [&picture, image] { picture.picture(artOf(image->picture)); };
+  if (const auto* shown = site.bound<const bool*>()) parts.visible = [shown] { return *shown; };
+  parts.stretched = true;
+  return parts;
+}
+
+KitHost::Parts line(const ViewSite& site) {
+  KitHost::Parts parts;
+  parts.control = std::make_unique<LineControl>(site.ui.kit, site.spec.color);
+  return parts;
+}
+
+KitHost::Parts partsOf(const ViewSite& site) {
+  switch (site.spec.kind) {
+    case Kind::Button:
+      return button(site);
+    case Kind::Check:
+      return check(site);
+    case Kind::Group:
+      return group(site);
+    case Kind::IconList:
+      return iconList(site);
+    case Kind::Clock:
+      return clock(site);
+    case Kind::CloseButton:
+      return closeButton(site);
+    case Kind::Picture:
+      return picture(site);
+    case Kind::Line:
+      return line(site);
+    default:
+      return {};
+  }
+}
+
+}  // namespace
+
+std::string_view artOf(Picture picture) {
+  switch (picture) {
+    case Picture::None:
+      break;
+    case Picture::OpenMark:
+      return "mark-open";
+    case Picture::DoneMark:
+      return "mark-done";
+    case Picture::Frame0:
+      return "animation-0";
+    case Picture::Frame1:
+      return "animation-1";
+    case Picture::Frame2:
+      return "animation-2";
+    case Picture::Frame3:
+      return "animation-3";
+    case Picture::Frame4:
+      return "animation-4";
+    case Picture::Frame5:
+      return "animation-5";
+    case Picture::KindRegistry:
+      return "kind-registry";
+    case Picture::KindFolder:
+      return "kind-folder";
+    case Picture::KindFiles:
+      return "kind-files";
+  }
+  return {};
+}
+
+std::unique_ptr<View> makeKitView(const ViewSite& site) {
+  KitHost::Parts parts = partsOf(site);
+  if (!parts.control) return nullptr;
+  return std::make_unique<KitHost>(site, std::move(parts));
+}
+
+}  // namespace zub

@@ -1,0 +1,145 @@
+#include "ui/win32/WindowSystem.h"
+
+#include <algorithm>
+
+namespace zub {
+namespace {
+
+constexpr std::uint64_t TurnPause = 5;    // milliseconds between two real turns of DoEvents
+constexpr std::uint64_t ShowPause = 16;   // between two comparisons of the windows with their forms
+constexpr std::uint64_t IdlePause = 100;  // the longest sleep: the shortest interval of a form's timer
+
+}  // namespace
+
+// Beats while the system runs a loop of its own, in which the program's loop has no turn: a window that is
+// dragged, an open menu, a message box.
+class WindowSystem::Heart : public OwnWindow {
+ public:
+  Heart(Ui& ui, WindowSystem& system) : OwnWindow(ui, colors::White), system_(system) {
+    create({"ZubraneHeart", "", WS_POPUP, 0, {}, nullptr});
+    SetTimer(hwnd(), 1, IdlePause, nullptr);
+  }
+
+ protected:
+  LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+    if (message != WM_TIMER) return OwnWindow::onMessage(message, wParam, lParam);
+    system_.serve();
+    return 0;
+  }
+
+ private:
+  WindowSystem& system_;
+};
+
+WindowSystem::WindowSystem(Ui& ui) : ui_(ui) {
+  LARGE_INTEGER frequency;
+  QueryPerformanceFrequency(&frequency);
+  frequency_ = std::max<std::int64_t>(1, frequency.QuadPart);
+  heart_ = std::make_unique<Heart>(ui, *this);
+}
+
+WindowSystem::~WindowSystem() = default;
+
+std::uint64_t WindowSystem::now() const {
+  LARGE_INTEGER count;
+  QueryPerformanceCounter(&count);
+  const std::int64_t seconds = count.QuadPart / frequency_;
+  return static_cast<std::uint64_t>(seconds * 1000 + count.QuadPart % frequency_ * 1000 / frequency_);
+}
+
+FormWindow& WindowSystem::add(layout::WindowBinding binding) {
+  windows_.push_back(std::make_unique<FormWindow>(ui_, std::move(binding), nullptr));
+  return *windows_.back();
+}
+
+void WindowSystem::addLater(layout::WindowBinding binding, std::function<HWND()> owner) {
+  later_.push_back({std::move(binding), std::move(owner)});
+}
+
+void WindowSystem::DoEvents() {
+  const std::uint64_t time = now();
+  if (time - lastTurn_ < TurnPause) return;
+  lastTurn_ = time;
+  pump();
+  serve();
+  ui_.guard.throwIfEnded();
+}
+
+void WindowSystem::run() {
+  for (;;) {
+    pump();
+    serve();
+    ui_.guard.throwIfEnded();
+    wait();
+  }
+}
+
+void WindowSystem::runModal(HWND disabled, const std::function<bool()>& lasts) {
+  EnableWindow(disabled, FALSE);
+  while (lasts()) {
+    pump();
+    serve();
+    ui_.guard.throwIfEnded();
+    if (lasts()) wait();
+  }
+  EnableWindow(disabled, TRUE);
+  showAll();
+  SetActiveWindow(disabled);
+}
+
+void WindowSystem::pump() {
+  MSG message;
+  while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
+    if (message.message == WM_QUIT) throw EndOfProcess{};
+    dispatch(message);
+    ui_.guard.throwIfEnded();
+  }
+}
+
+void WindowSystem::dispatch(MSG& message) {
+  owesShow_ = true;
+  const HWND top = message.hwnd != nullptr ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
+  FormWindow* form = FormWindow::of(top);
+  if (form != nullptr && (form->takesKey(message) || IsDialogMessageA(top, &message) != 0)) return;
+  TranslateMessage(&message);
+  DispatchMessageA(&message);
+}
+
+void WindowSystem::serve() {
+  if (serveTimers) serveTimers(now());
+  if (now() - lastShow_ >= ShowPause) showAll();
+}
+
+void WindowSystem::showAll() {
+  if (showing_) return;
+  showing_ = true;
+  lastShow_ = now();
+  owesShow_ = false;
+  for (std::size_t at = 0; at < later_.size();) {
+    const Form* form = later_[at].binding.form();
+    if (form == nullptr || !form->Visible) {
+      ++at;
+      continue;
+    }
+    const HWND owner = later_[at].owner ? later_[at].owner() : nullptr;
+    windows_.push_back(std::make_unique<FormWindow>(ui_, std::move(later_[at].binding), owner));
+    later_.erase(later_.begin() + static_cast<std::ptrdiff_t>(at));
+  }
+  for (const auto& window : windows_) window->showForm();
+  for (const auto& window : windows_) window->hideForm();
+  showing_ = false;
+}
+
+// Sleeps until there is a message, or something to show, or a timer may be due.
+void WindowSystem::wait() {
+  const std::uint64_t sinceShow = now() - lastShow_;
+  const std::uint64_t pause = !owesShow_ ? IdlePause : sinceShow < ShowPause ? ShowPause - sinceShow : 0;
+  MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(pause), QS_ALLINPUT);
+}
+
+HWND WindowSystem::activeWindow() {
+  const HWND active = GetActiveWindow();
+  return active != nullptr && IsWindowVisible(active) != 0 ? active : nullptr;
+}
+
+}  // namespace zub

@@ -1,0 +1,65 @@
+// The program's event loop and its windows. The windows compare themselves with their forms here, and only
+// here, at most about 60 times a second.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "platform/Services.h"
+#include "ui/layout/Bindings.h"
+#include "ui/win32/FormWindow.h"
+
+namespace zub {
+
+class WindowSystem : public EventLoop {
+ public:
+  explicit WindowSystem(Ui& ui);
+  WindowSystem(const WindowSystem&) = delete;
+  WindowSystem& operator=(const WindowSystem&) = delete;
+  ~WindowSystem() override;
+
+  // Runs in each turn; `now` is the steady clock in milliseconds.
+  std::function<void(std::uint64_t now)> serveTimers;
+
+  // A window that is made at once, hidden.
+  FormWindow& add(layout::WindowBinding binding);
+  // A window that is made when its form is first visible; `owner` answers the window that it lies over.
+  void addLater(layout::WindowBinding binding, std::function<HWND()> owner = {});
+
+  // Throws EndOfProcess where the process ends in it. Does nothing if the last turn was a moment ago.
+  void DoEvents() override;
+  // The main loop. Throws EndOfProcess.
+  [[noreturn]] void run();
+  // Runs the loop while the condition holds, with the window disabled.
+  void runModal(HWND disabled, const std::function<bool()>& lasts);
+
+  // The program's window in front; null where none is visible.
+  static HWND activeWindow();
+
+ private:
+  class Heart;
+  struct Later {
+    layout::WindowBinding binding;
+    std::function<HWND()> owner;
+  };
+
+  std::uint64_t now() const;  // milliseconds
+  void pump();
+  void dispatch(MSG& message);
+  void serve();  // timers, then the windows if their time has come
+  void showAll();
+  void wait();
+
+  Ui& ui_;
+  std::int64_t frequency_;
+  std::unique_ptr<Heart> heart_;
+  std::vector<std::unique_ptr<FormWindow>> windows_;
+  std::vector<Later> later_;
+  std::uint64_t lastTurn_ = 0;
+  std::uint64_t lastShow_ = 0;
+  bool showing_ = false;
+  bool owesShow_ = false;  // something happened since the windows were shown
+};
+
+}  // namespace zub
