@@ -1,10 +1,10 @@
-// Trace specifications: one line that names a registry key to wipe or a registry value to delete or read.
+// Traces: one line that names a registry key to wipe or a registry value to delete or read.
 //
 //   HIVE\PATH- Key*                 the key: its values, its subkeys, itself
 //   HIVE\PATH+ Value`= NAME         one value of the key
 //
 // The hive stands in any case and is matched exactly after upper-casing; one that matches nothing leaves the
-// hive of the specification before it in force. The path of a key ends at the first hyphen.
+// hive of the trace before it in force. The path of a key ends at the first hyphen.
 //
 // The state is sticky on purpose and lives as long as the process: from the first key form on every call
 // wipes the key that it opens, and retries all names collected so far under it.
@@ -25,7 +25,7 @@ class RegistryHelper {
   explicit RegistryHelper(Engine& engine) : engine_(engine) {}
 
   // 0, or -1 when the key could not be opened, the named value could not be deleted or the last deletion of
-  // the key itself failed. RuntimeError 5 for a specification without a backslash, or with a marker and no
+  // the key itself failed. RuntimeError 5 for a trace without a backslash, or with a marker and no
   // sign before it.
   int DeleteTrace(const std::string& Spec);
   // The value's text without its last character, which is the terminating NUL of a stored text; empty where

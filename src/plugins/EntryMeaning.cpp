@@ -68,7 +68,7 @@ constexpr Fault<FileEntry> fileFaults[] = {
      "Never works: it holds a character that no file name can hold"},
 };
 
-// The specification behind its hive.
+// What stands behind the hive.
 struct RegistryEntry {
   std::string_view hive;
   std::string_view rest;

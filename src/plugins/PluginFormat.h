@@ -5,7 +5,7 @@
 //          C:\FOLDER\PATTERN                          the files of the folder; the pattern has "?" or "*"
 //          C:\FOLDER\PATTERN >plus subdirectories<    these, and those in all folders below
 //          No entries.                                ends the list
-//   .zb2   a trace specification (engine/RegistryHelper.h)
+//   .zb2   a trace (engine/RegistryHelper.h)
 //   .zb3   the information line, then the comments
 #pragma once
 

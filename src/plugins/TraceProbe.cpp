@@ -60,12 +60,12 @@ TraceProbe::TraceProbe(const Platform& pc) : laboratory_(std::make_unique<Labora
 
 TraceProbe::~TraceProbe() = default;
 
-std::optional<TraceTarget> TraceProbe::target(const std::string& specification) {
+std::optional<TraceTarget> TraceProbe::target(const std::string& trace) {
   TraceTarget& target = laboratory_->registry.target;
   target = {};
   RegistryHelper helper(laboratory_->engine);
   try {
-    helper.DeleteTrace(specification);
+    helper.DeleteTrace(trace);
   } catch (const RuntimeError&) {
     return std::nullopt;
   }

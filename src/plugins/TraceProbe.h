@@ -1,4 +1,4 @@
-// What the registry removal makes of a trace specification, found out by letting it work on a registry that
+// What the registry removal makes of a trace, found out by letting it work on a registry that
 // is not there.
 #pragma once
 
@@ -23,8 +23,8 @@ class TraceProbe {
   explicit TraceProbe(const Platform& pc);
   ~TraceProbe();
 
-  // As the first specification of a process; none for one that the removal refuses with a failure.
-  std::optional<TraceTarget> target(const std::string& specification);
+  // As the first trace of a process; none for one that the removal refuses with a failure.
+  std::optional<TraceTarget> target(const std::string& trace);
 
  private:
   struct Laboratory;

@@ -39,7 +39,7 @@ struct Seeded : WashFixture {
 
 }  // namespace
 
-TEST_CASE("a specification finds its value by hive, path and name") {
+TEST_CASE("a trace finds its value by hive, path and name") {
   struct {
     const char* spec;
     const char* found;
@@ -89,7 +89,7 @@ TEST_CASE("a value reads as text of any type, short of its last character") {
   }
 }
 
-TEST_CASE("a specification without its signs is refused to the caller") {
+TEST_CASE("a trace without its signs is refused to the caller") {
   Seeded pc;
   const std::string before = pc.pc.snapshot();
   for (const char* spec :
@@ -106,7 +106,7 @@ TEST_CASE("a specification without its signs is refused to the caller") {
   CHECK(pc.pc.diffSince(before).empty());
 }
 
-TEST_CASE("what a specification removes depends on those before it in the process") {
+TEST_CASE("what a trace removes depends on those before it in the process") {
   const std::string keyForm = CU + "None- Key*";
   const std::string valueForm = CU + "None+ Value`= V";
   struct {
