@@ -10,6 +10,7 @@ WindowBinding bindEditor(frmPluginEditor& form) {
   WindowBinding editor;
   editor.window = &editorWindow;
   editor.form = [&form] { return &form.state.form; };
+  editor.anew = true;
   editor.close = on(&frmPluginEditor::cmdCancel_Click);
   editor.escape = on(&frmPluginEditor::cmdCancel_Click);
   editor.takesFocus = [&state]() -> const TextBox* {

@@ -16,6 +16,10 @@ void FormWindow::showForm() {
   if (!visible_) {
     for (const auto& view : views_) view->forget();
     broughtUp_ = form.shown - 1;
+    if (binding_.anew && tabs_ != nullptr) {
+      SendMessageA(tabs_, TCM_SETCURSEL, 0, 0);
+      showPage(0);
+    }
   }
   if (changes(enabled_, form.Enabled)) EnableWindow(hwnd(), enabled_ ? TRUE : FALSE);
   showControls();
