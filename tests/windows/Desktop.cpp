@@ -1,0 +1,242 @@
+#include "windows/Desktop.h"
+
+#include <algorithm>
+
+namespace zub::drive {
+namespace {
+
+constexpr UINT AnswerTime = 20000;  // milliseconds
+
+BOOL CALLBACK addVisible(HWND child, LPARAM list) {
+  if (IsWindowVisible(child) != 0) reinterpret_cast<std::vector<Window>*>(list)->emplace_back(child);
+  return TRUE;
+}
+
+std::vector<Window> childrenOf(HWND parent) {
+  std::vector<Window> found;
+  EnumChildWindows(parent, addVisible, reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+struct Search {
+  DWORD process;
+  std::vector<Window> found;
+};
+
+BOOL CALLBACK addOfProcess(HWND window, LPARAM search) {
+  auto& wanted = *reinterpret_cast<Search*>(search);
+  DWORD owner = 0;
+  GetWindowThreadProcessId(window, &owner);
+  if ((wanted.process == 0 || owner == wanted.process) && IsWindowVisible(window) != 0)
+    wanted.found.emplace_back(window);
+  return TRUE;
+}
+
+void input(const INPUT& event) {
+  INPUT sent = event;
+  REQUIRE(SendInput(1, &sent, sizeof sent) == 1);
+}
+
+void pointer(DWORD flags, LONG x = 0, LONG y = 0) {
+  INPUT event{};
+  event.type = INPUT_MOUSE;
+  event.mi.dwFlags = flags;
+  event.mi.dx = x;
+  event.mi.dy = y;
+  input(event);
+}
+
+void stroke(int virtualKey, bool down) {
+  INPUT event{};
+  event.type = INPUT_KEYBOARD;
+  event.ki.wVk = static_cast<WORD>(virtualKey);
+  event.ki.wScan = static_cast<WORD>(MapVirtualKeyA(static_cast<UINT>(virtualKey), MAPVK_VK_TO_VSC));
+  event.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
+  input(event);
+}
+
+// Two clicks in turn on one control are no double-click: each is a little off the last.
+int apart() {
+  static int pixels = 0;
+  constexpr int MoreThanADoubleClick = 6;
+  return pixels = MoreThanADoubleClick - pixels;
+}
+
+// The window that gets what is typed.
+void settleKeyboard() {
+  const HWND front = GetForegroundWindow();
+  if (front != nullptr) Window(front).settle();
+}
+
+}  // namespace
+
+LRESULT Window::send(UINT message, WPARAM wParam, LPARAM lParam) const {
+  DWORD_PTR result = 0;
+  SetLastError(0);
+  const LRESULT answered =
+      SendMessageTimeoutA(handle_, message, wParam, lParam, SMTO_NORMAL, AnswerTime, &result);
+  REQUIRE_MESSAGE((answered != 0 || GetLastError() != ERROR_TIMEOUT), "the program does not answer");
+  return static_cast<LRESULT>(result);
+}
+
+// A message that is sent is answered before input is fetched: the pause lets the loop go round once.
+void Window::settle() const {
+  constexpr DWORD ALoop = 5;  // milliseconds
+  send(WM_NULL);
+  Sleep(ALoop);
+  send(WM_NULL);
+}
+
+std::string Window::caption() const {
+  char text[1024] = "";
+  GetWindowTextA(handle_, text, sizeof text);
+  return text;
+}
+
+std::string Window::text() const {
+  std::string text(static_cast<std::size_t>(send(WM_GETTEXTLENGTH)) + 1, '\0');
+  const LRESULT length = send(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<std::size_t>(std::max<LRESULT>(length, 0)));
+  return text;
+}
+
+std::string Window::className() const {
+  char name[128] = "";
+  GetClassNameA(handle_, name, sizeof name);
+  return name;
+}
+
+RECT Window::place() const {
+  RECT place{};
+  GetWindowRect(handle_, &place);
+  return place;
+}
+
+bool Window::hasChild(std::string_view text) const {
+  return std::ranges::any_of(childrenOf(handle_),
+                             [&](const Window& child) { return child.caption() == text; });
+}
+
+Window Window::child(std::string_view text) const {
+  Window found;
+  soon([&] {
+    const std::vector<Window> children = childrenOf(handle_);
+    const auto place =
+        std::ranges::find_if(children, [&](const Window& one) { return one.caption() == text; });
+    if (place != children.end()) found = *place;
+    return found.handle_ != nullptr;
+  });
+  REQUIRE_MESSAGE(found.handle_ != nullptr, "no control says \"" << std::string(text) << "\"");
+  return found;
+}
+
+Window Window::child(std::string_view className, int index) const {
+  for (const Window& one : childrenOf(handle_)) {
+    if (lstrcmpiA(one.className().c_str(), std::string(className).c_str()) == 0 && index-- == 0) return one;
+  }
+  FAIL("no further control of the class " << std::string(className));
+  return Window();
+}
+
+bool Window::comesToSay(std::string_view part) const {
+  return soon([&] { return text().find(part) != std::string::npos; });
+}
+
+bool Window::comesToFront() const {
+  return soon([&] { return GetForegroundWindow() == handle_; });
+}
+
+void Window::clickAt(int x, int y) const {
+  const RECT all = place();
+  movePointer(static_cast<int>(all.left) + x, static_cast<int>(all.top) + y);
+  pressButton();
+  releaseButton();
+  settle();
+}
+
+void Window::click() const {
+  const RECT all = place();
+  clickAt(static_cast<int>(all.right - all.left) / 2 - apart(), static_cast<int>(all.bottom - all.top) / 2);
+}
+
+void Window::tick() const {
+  constexpr int BoxEnd = 16;
+  const RECT all = place();
+  clickAt(BoxEnd - apart(), static_cast<int>(all.bottom - all.top) / 2);
+}
+
+std::vector<Window> windowsOf(DWORD process) {
+  Search search{process, {}};
+  EnumWindows(addOfProcess, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+Window focus() {
+  GUITHREADINFO thread{};
+  thread.cbSize = sizeof thread;
+  GetGUIThreadInfo(GetWindowThreadProcessId(GetForegroundWindow(), nullptr), &thread);
+  return Window(thread.hwndFocus);
+}
+
+// A late echo of an earlier movement, which the host's screen sends to the window under it, may carry the
+// pointer back: it is moved until it stays.
+void movePointer(int x, int y) {
+  // The system counts the screen's width and height as 65536 each.
+  const auto share = [](int pixel, int size) { return LONG{(pixel * 65536 + size - 1) / size}; };
+  const auto stays = [&] {
+    pointer(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, share(x, GetSystemMetrics(SM_CXSCREEN)),
+            share(y, GetSystemMetrics(SM_CYSCREEN)));
+    Window(WindowFromPoint({x, y})).settle();
+    POINT now{};
+    GetCursorPos(&now);
+    return now.x == x && now.y == y;
+  };
+  REQUIRE(soon(stays));
+}
+
+void pressButton(bool right) {
+  pointer(right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN);
+}
+
+void releaseButton(bool right) {
+  pointer(right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP);
+}
+
+void chord(std::initializer_list<int> virtualKeys) {
+  for (const int one : virtualKeys) stroke(one, true);
+  for (auto one = std::rbegin(virtualKeys); one != std::rend(virtualKeys); ++one) stroke(*one, false);
+  settleKeyboard();
+}
+
+void type(std::string_view text) {
+  constexpr int WithShift = 1;
+  for (const char letter : text) {
+    const int found = VkKeyScanA(letter);
+    REQUIRE_MESSAGE(found != -1, "no key for " << letter);
+    if ((found >> 8) == WithShift)
+      chord({VK_SHIFT, found & 0xFF});
+    else
+      chord({found & 0xFF});
+  }
+}
+
+void choose(const Window& combo, std::string_view row) {
+  const auto hangsOpen = [&] { return combo.send(CB_GETDROPPEDSTATE) != 0; };
+  combo.click();
+  REQUIRE(soon(hangsOpen));
+  type(row);
+  key(VK_RETURN);
+  REQUIRE(soon([&] { return !hangsOpen() && combo.text().starts_with(row); }));
+}
+
+void fill(const Window& box, std::string_view text) {
+  box.click();
+  REQUIRE(soon([&] { return focus() == box; }));
+  key(VK_HOME);
+  chord({VK_SHIFT, VK_END});
+  key(VK_DELETE);
+  type(text);
+  REQUIRE(soon([&] { return box.text() == text; }));
+}
+
+}  // namespace zub::drive

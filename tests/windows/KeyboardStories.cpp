@@ -1,0 +1,75 @@
+// The keyboard alone, and the window moved by its background.
+#include "windows/Story.h"
+
+using namespace zub::drive;
+
+TEST_CASE("the Tab key goes through the main tab, and back with Shift") {
+  const Story story;
+  const Zub zub;
+  const Window main = zub.main();
+  const std::vector<std::string> order = {
+      "SysTabControl32",     "ZubraneControl", "Cache",           "Index.dat", "Cookies", "Autocomplete Data",
+      "Downloaded Programs", "Manage",         "&Start Cleaning", "Help",      "About"};
+  const auto name = [] {
+    const Window control = focus();
+    return control.text().empty() ? control.className() : control.text();
+  };
+  const auto reaches = [&name](const std::string& control) {
+    soon([&] { return name() == control; }, 2);
+    CHECK(name() == control);
+  };
+  openTab(main, "Main");
+  reaches(order.front());
+  for (std::size_t at = 1; at <= order.size(); ++at) {
+    key(VK_TAB);
+    reaches(order[at % order.size()]);
+  }
+  for (std::size_t at = order.size(); at-- > 0;) {
+    chord({VK_SHIFT, VK_TAB});
+    reaches(order[at]);
+  }
+}
+
+TEST_CASE("space ticks a box, arrows turn the tabs, access keys press") {
+  const Story story;
+  const Zub zub;
+  const Window main = zub.main();
+  openTab(main, "Main");
+  for (int tab = 0; tab < 2; ++tab) key(VK_TAB);
+  REQUIRE(soon([] { return focus().caption() == "Cache"; }));
+  key(VK_SPACE);
+  CHECK(main.child("STATIC", 0).comesToSay("IE Cache - "));
+
+  for (int tab = 0; tab < 2; ++tab) chord({VK_SHIFT, VK_TAB});
+  REQUIRE(soon([] { return focus().className() == "SysTabControl32"; }));
+  key(VK_RIGHT);
+  key(VK_RIGHT);
+  CHECK(main.child("Use shredder").isVisible());
+  key(VK_RIGHT);
+  const int before = rows::count(main.child("LISTBOX", 0));
+  chord({VK_MENU, 'A'});
+  CHECK(soon([&] { return rows::count(main.child("LISTBOX", 0)) == before + 1; }));
+
+  chord({VK_MENU, 'S'});
+  zub.window(title::Progress).child("&Finish");
+  chord({VK_MENU, 'F'});
+  CHECK(zub.hides(title::Progress));
+  zub.close();
+  CHECK(pc::storedOption("chkIECache") == "1");
+}
+
+TEST_CASE("the background of the main window is a handle to move it") {
+  const Story story;
+  const Zub zub;
+  const Window main = zub.main();
+  const RECT before = main.place();
+  // Between the buttons at the foot.
+  constexpr int Right = 254, AboveTheFoot = 20, Moved = 60;
+  const int x = static_cast<int>(before.left) + Right, y = static_cast<int>(before.bottom) - AboveTheFoot;
+  movePointer(x, y);
+  pressButton();
+  for (int step = 4; step <= Moved; step += 4) movePointer(x + step, y + step);
+  releaseButton();
+  CHECK(soon([&] { return main.place().left > before.left + Moved / 2; }));
+  CHECK(main.place().top > before.top + Moved / 2);
+}

@@ -1,0 +1,142 @@
+// A custom plugin from its making to its removal, and the standard ones.
+#include "windows/Story.h"
+
+using namespace zub::drive;
+
+namespace {
+
+const std::string App = "Software\\Drive App";
+
+void addRegistryEntry(const Window& editor, const std::string& path, const std::string& name) {
+  fill(editor.child("EDIT", 1), path);
+  fill(editor.child("EDIT", 2), name);
+  editor.child("Add").click();
+}
+
+Window pluginList(const Window& main) {
+  openTab(main, "Custom Plugins");
+  return main.child("SysListView32", 0);
+}
+
+}  // namespace
+
+TEST_CASE("a plugin is made, edited, run and removed") {
+  const Story story;
+  const pc::fs::path data = "C:\\Drive App";
+  pc::remove(data);
+  for (const char* file : {"a.trc", "deep\\b.trc", "kept.dat"}) pc::put(data / file, "12345");
+  for (const char* key : {"\\Traces", "\\Kept"}) pc::putValue(App + key, "value", "text");
+  pc::putValue(App + "\\Values", "Last", "text");
+  const pc::fs::path base = pc::programs() / "Plugins" / "Drive App";
+
+  const Zub zub;
+  const Window main = zub.main();
+  Window list = pluginList(main);
+  CHECK(rows::count(list) == 3);
+  main.child("Create A New Plugin").click();
+  Window editor = zub.window(title::Editor);
+  REQUIRE(soon([&] { return focus() == editor.child("EDIT", 0); }));
+  type("Drive App");
+  addRegistryEntry(editor, App, "Traces");
+  CHECK(rows::find(editor.child("LISTBOX", 0), "HKey_Current_User\\" + App + "\\Traces- Key*") == 0);
+  openTab(editor, "Files & Folders");
+  fill(editor.child("EDIT", 1), data.string());
+  editor.child("File pattern").click();
+  fill(editor.child("EDIT", 3), "*.trc");
+  editor.child("Subfolders").tick();
+  editor.child("Add").click();
+  CHECK(rows::find(editor.child("LISTBOX", 0), data.string() + "\\*.trc >plus subdirectories<") == 0);
+  openTab(editor, "Comments");
+  fill(editor.child("EDIT", 1), "Traces of Drive App");
+  editor.child("EDIT", 2).click();
+  type("First line");
+  key(VK_RETURN);
+  type("second line");
+  editor.child("&Ok").click();
+  CHECK(zub.hides(title::Editor));
+  CHECK(pc::bytesOf(base.string() + ".zb1") == data.string() + "\\*.trc >plus subdirectories<\r\n");
+  CHECK(pc::bytesOf(base.string() + ".zb2") == "HKey_Current_User\\" + App + "\\Traces- Key*\r\n");
+  CHECK(pc::bytesOf(base.string() + ".zb3") == "Traces of Drive App\r\nFirst line\r\nsecond line\r\n");
+
+  rows::click(list, rows::find(list, "Drive App"));
+  main.child("Edit Plugin").click();
+  editor = zub.window(title::Editor);
+  CHECK(editor.child("EDIT", 0).comesToSay("Drive App"));
+  openTab(editor, "Registry");
+  editor.child("New").click();
+  choose(editor.child("COMBOBOX", 1), "V");
+  addRegistryEntry(editor, App + "\\Values", "Last");
+  CHECK(rows::find(editor.child("LISTBOX", 0), "HKey_Current_User\\" + App + "\\Values+ Value`= Last") == 1);
+  editor.child("&Ok").click();
+  CHECK(zub.hides(title::Editor));
+
+  rows::clickCheck(list, rows::find(list, "Drive App"));
+  wash(zub);
+  finish(zub);
+  CHECK_FALSE(pc::exists(data / "a.trc"));
+  CHECK_FALSE(pc::exists(data / "deep" / "b.trc"));
+  CHECK(pc::exists(data / "kept.dat"));
+  CHECK_FALSE(pc::hasKey(App + "\\Traces"));
+  CHECK(pc::value(App + "\\Kept", "value") == "text");
+  CHECK_FALSE(pc::value(App + "\\Values", "Last").has_value());
+
+  list = pluginList(main);
+  rows::click(list, rows::find(list, "Drive App"));
+  main.child("Remove").click();
+  CHECK(soon([&] { return rows::count(list) == 3; }));
+  for (const char* extension : {".zb1", ".zb2", ".zb3"}) CHECK_FALSE(pc::exists(base.string() + extension));
+  zub.close();
+  pc::remove(data);
+  pc::removeKey(App);
+}
+
+TEST_CASE("an entry without a path is refused with a message, and the path box gets the keyboard") {
+  const Story story;
+  const Zub zub;
+  pluginList(zub.main());
+  zub.main().child("Create A New Plugin").click();
+  const Window editor = zub.window(title::Editor);
+  editor.child("Add").click();
+  CHECK(answer(zub, "ZUB Plugin") == "Path cannot be empty");
+  CHECK(soon([&] { return focus() == editor.child("EDIT", 1); }));
+  REQUIRE(editor.comesToFront());
+  chord({VK_MENU, 'C'});
+  CHECK(zub.hides(title::Editor));
+}
+
+TEST_CASE("the editor comes up on its first tab each time") {
+  const Story story;
+  const Zub zub;
+  pluginList(zub.main());
+  for (int time = 0; time < 2; ++time) {
+    zub.main().child("Create A New Plugin").click();
+    const Window editor = zub.window(title::Editor);
+    CHECK(soon([&] { return editor.hasChild("Path of registry entry:"); }, 2));
+    openTab(editor, "Comments");
+    editor.child("&Cancel").click();
+    CHECK(zub.hides(title::Editor));
+  }
+}
+
+TEST_CASE("Select All ticks every plugin, and a row's description is shown") {
+  const Story story;
+  const Zub zub;
+  const Window main = zub.main();
+  const Window custom = pluginList(main);
+  main.child("Select All").tick();
+  for (int row = 0; row < 3; ++row) CHECK(soon([&] { return rows::isChecked(custom, row); }));
+  openTab(main, " Standard Plugins");
+  const Window standard = main.child("SysListView32", 0);
+  const Window description = main.child("STATIC", 0);
+  CHECK(description.text() == "Please select a plugin to see the description");
+  rows::click(standard, 0);
+  CHECK(soon([&] { return description.text() != "Please select a plugin to see the description"; }));
+  const std::string first = rows::text(standard, 0), last = rows::text(standard, rows::count(standard) - 1);
+  main.child("Select All").tick();
+  REQUIRE(soon([&] { return rows::isChecked(standard, 0); }));
+  rows::clickCheck(standard, 0);
+  zub.close();
+  CHECK(pc::storedOption("ZUBPlugin Card Shop Deluxe") == "1");
+  CHECK(pc::storedOption("ZUBStandardPlugin " + first) == "0");
+  CHECK(pc::storedOption("ZUBStandardPlugin " + last) == "1");
+}

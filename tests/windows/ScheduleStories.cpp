@@ -1,0 +1,72 @@
+// Washes without the user's hand: dated entries and the automatic interval.
+#include "windows/Story.h"
+
+using namespace zub::drive;
+
+namespace {
+
+const pc::fs::path Job = "C:\\windows\\tasks\\ZUB.job";
+
+}  // namespace
+
+TEST_CASE("a dated entry is added, still there at the next start, and removed") {
+  const Story story;
+  {
+    const Zub zub;
+    const Window main = zub.main();
+    openTab(main, "Scheduler");
+    const Window list = main.child("LISTBOX", 0);
+    const int before = rows::count(list);
+    fill(main.child("EDIT", 0), "12/24/2031");
+    fill(main.child("EDIT", 1), "06:30:00 PM");
+    main.child("&Add").click();
+    REQUIRE(soon([&] { return rows::count(list) == before + 1; }));
+    const std::string text = rows::text(list, before);
+    CHECK(text.find("12/24/2031") != std::string::npos);
+    CHECK(pc::exists(Job));
+    zub.close();
+  }
+  const Zub zub;
+  const Window main = zub.main();
+  openTab(main, "Scheduler");
+  const Window list = main.child("LISTBOX", 0);
+  REQUIRE(soon([&] { return rows::count(list) > 0; }));
+  const int before = rows::count(list);
+  rows::click(list, before - 1);
+  CHECK(rows::text(list, before - 1).find("12/24/2031") != std::string::npos);
+  main.child("&Remove").click();
+  CHECK(soon([&] { return rows::count(list) == before - 1; }));
+}
+
+TEST_CASE("a date that is none is refused with a message, and its box gets the keyboard") {
+  const Story story;
+  const Zub zub;
+  const Window main = zub.main();
+  openTab(main, "Scheduler");
+  const Window list = main.child("LISTBOX", 0);
+  const int before = rows::count(list);
+  fill(main.child("EDIT", 0), "whenever");
+  main.child("&Add").click();
+  CHECK(answer(zub, "ZUB Scheduler") == "Wrong date format");
+  CHECK(soon([&] { return focus() == main.child("EDIT", 0); }));
+  CHECK(rows::count(list) == before);
+}
+
+TEST_CASE("the automatic interval changes what the clock tells") {
+  const Story story;
+  const Zub zub;
+  const Window main = zub.main();
+  const Window clock = main.child("Current time:");
+  openTab(main, "Scheduler");
+  const Window help = main.child("STATIC", 2);
+  main.child("ZubraneControl", 5).tick();
+  CHECK(help.comesToSay("Automatic run - "));
+  CHECK(clock.comesToSay("Next auto track removal at:"));
+  // A text that names no interval leaves the current minute, in which a wash is due at once.
+  const Window interval = main.child("COMBOBOX", 0);
+  fill(interval.child("EDIT", 0), "now");
+  zub.window(title::Progress).child("&Finish");
+  finish(zub);
+  zub.close();
+  CHECK(pc::storedOption("chkRunAuto") == "1");
+}

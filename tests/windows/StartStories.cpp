@@ -1,0 +1,118 @@
+// The program starts, ends, and starts again.
+#include "windows/IconList.h"
+#include "windows/Story.h"
+
+using namespace zub::drive;
+
+TEST_CASE("the first start shows the main window in the middle of the screen's free part") {
+  const Story story;
+  const Zub zub;
+  const Window main = zub.main();
+  RECT room{};
+  SystemParametersInfoA(SPI_GETWORKAREA, 0, &room, 0);
+  const RECT place = main.place();
+  CHECK(std::abs((place.left - room.left) - (room.right - place.right)) <= 1);
+  CHECK(std::abs((place.top - room.top) - (room.bottom - place.bottom)) <= 1);
+
+  CHECK(main.hasChild("Current time:"));
+  CHECK(main.hasChild("Downloaded Programs"));    // the choices of the first picture
+  CHECK_FALSE(main.hasChild("Mail"));             // not those of another
+  CHECK_FALSE(main.hasChild("&View Log"));        // nothing to view yet
+  CHECK(main.child("STATIC", 0).text().empty());  // the help
+  for (const char* tab : {"Custom Plugins", "Options", "Scheduler", " Standard Plugins", "Main"})
+    openTab(main, tab);
+  CHECK(main.child("STATIC", 0).text() == "Click on the item you need help with!");
+  zub.close();
+}
+
+TEST_CASE("everything chosen is there again at the next start") {
+  const Story story;
+  {
+    const Zub zub;
+    const Window main = zub.main();
+    main.child("Cookies").tick();
+    IconList(main).clickBox(1);
+    openTab(main, "Custom Plugins");
+    const Window plugins = main.child("SysListView32", 0);
+    rows::clickCheck(plugins, rows::find(plugins, "Home Photo Album"));
+    openTab(main, "Options");
+    main.child("Use shredder").tick();
+    choose(main.child("COMBOBOX", 0), "7");
+    openTab(main, " Standard Plugins");
+    rows::clickCheck(main.child("SysListView32", 0), 3);
+    zub.close();
+  }
+  CHECK(pc::storedOption("chkWMP") == "1");
+  CHECK(pc::storedOption("chkIE") == "0");
+  CHECK(pc::storedOption("chkIECookies") == "1");
+  CHECK(pc::storedOption("ZUBPlugin Home Photo Album") == "1");
+  CHECK(pc::storedOption("ZUBPlugin Modem and Fax Logs") == "0");
+  CHECK(pc::storedOption("chkBleach") == "1");
+  CHECK(pc::storedOption("cmbShredder") == "6");
+
+  const Zub zub;
+  const Window main = zub.main();
+  openTab(main, "Custom Plugins");
+  const Window plugins = main.child("SysListView32", 0);
+  CHECK(rows::isChecked(plugins, rows::find(plugins, "Home Photo Album")));
+  CHECK_FALSE(rows::isChecked(plugins, rows::find(plugins, "Modem and Fax Logs")));
+  openTab(main, "Options");
+  CHECK(main.child("COMBOBOX", 0).text() == "7");
+  openTab(main, " Standard Plugins");
+  const Window standard = main.child("SysListView32", 0);
+  CHECK(rows::count(standard) > 70);
+  CHECK_FALSE(rows::isChecked(standard, 2));
+  CHECK(rows::isChecked(standard, 3));
+  zub.close();
+  CHECK(pc::storedOption("chkWMP") == "1");
+}
+
+TEST_CASE("a second instance ends by itself, and the first one stays as it is") {
+  const Story story;
+  const Zub first;
+  const Window main = first.main();
+  const Zub second;
+  CHECK(second.ends());
+  CHECK(first.runs());
+  CHECK(first.main() == main);
+}
+
+TEST_CASE("started with Windows, the program waits in the tray with its lists filled") {
+  const Story story;
+  const Zub zub("/STARTUP");
+  zub.trayWindow();
+  CHECK_FALSE(zub.shows(title::Main));
+  zub.trayMessage(WM_LBUTTONDOWN);
+  const Window main = zub.main();
+  openTab(main, " Standard Plugins");
+  CHECK(rows::count(main.child("SysListView32", 0)) > 70);
+  zub.close();
+}
+
+TEST_CASE("started with Windows, the program washes at once where that is chosen") {
+  const Story story;
+  pc::option("chkRunStarted");
+  pc::option("chkTempFolder");
+  const pc::fs::path trace = pc::temp() / "trace.tmp";
+  pc::put(trace, "trace");
+  const Zub zub("/STARTUP");
+  zub.window(title::Progress).child("&Finish");
+  CHECK_FALSE(pc::exists(trace));
+  CHECK_FALSE(zub.shows(title::Main));
+  finish(zub);
+  CHECK_FALSE(zub.shows(title::Main));
+}
+
+TEST_CASE("started by the task scheduler, the program washes without its main window") {
+  const Story story;
+  pc::option("chkTempFolder");
+  const pc::fs::path trace = pc::temp() / "trace.tmp";
+  pc::put(trace, "trace");
+  const Zub zub("/SCHEDULER");
+  zub.window(title::Progress).child("&Finish");
+  CHECK_FALSE(pc::exists(trace));
+  CHECK_FALSE(zub.shows(title::Main));
+  finish(zub);
+  CHECK(zub.runs());
+  CHECK_FALSE(zub.shows(title::Main));
+}

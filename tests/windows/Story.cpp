@@ -1,0 +1,140 @@
+#include "windows/Story.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+namespace zub::drive {
+namespace {
+
+const std::string Explorer = "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
+
+std::string setting(const char* name) {
+  const char* text = std::getenv(name);
+  REQUIRE_MESSAGE(text != nullptr, name << " is not set: start this program with run-desktop");
+  return text;
+}
+
+// Once a run.
+void install() {
+  static bool done = false;
+  if (std::exchange(done, true)) return;
+  const pc::fs::path source = setting("ZUB_SOURCE");
+  pc::remove(pc::programs());
+  pc::fs::create_directories(pc::programs());
+  pc::fs::copy(setting("ZUB_PROGRAM"), pc::programs() / "zub.exe");
+  pc::fs::copy(source / "help", pc::programs() / "help", pc::fs::copy_options::recursive);
+}
+
+}  // namespace
+
+Story::Story() {
+  install();
+  pc::remove(pc::programs() / "Plugins");
+  pc::fs::copy(pc::fs::path(setting("ZUB_SOURCE")) / "samples" / "Plugins", pc::programs() / "Plugins");
+  pc::removeKey(pc::Store);
+  for (const char* key : {"RunMRU", "RecentDocs"}) pc::removeKey(Explorer + key);
+  for (const pc::fs::path& folder : {pc::temp(), pc::recent(), pc::cookies(), pc::appData() / "Mozilla"})
+    pc::remove(folder);
+  pc::fs::create_directories(pc::temp());
+  pc::remove("C:\\windows\\tasks\\ZUB.job");
+  movePointer(1, 1);
+}
+
+Zub::Zub(const std::string& switches) {
+  STARTUPINFOA startup{};
+  startup.cb = sizeof startup;
+  const std::string folder = pc::programs().string();
+  std::string command = "\"" + folder + "\\zub.exe\" " + switches;
+  REQUIRE(CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
+                         &startup, &process_) != 0);
+  AllowSetForegroundWindow(process_.dwProcessId);
+  WaitForInputIdle(process_.hProcess, Patience * 1000);
+}
+
+Zub::~Zub() {
+  if (runs()) {
+    TerminateProcess(process_.hProcess, 1);
+    ends();
+  }
+  CloseHandle(process_.hThread);
+  CloseHandle(process_.hProcess);
+}
+
+bool Zub::shows(std::string_view title) const {
+  return std::ranges::any_of(windowsOf(process_.dwProcessId),
+                             [&](const Window& one) { return one.caption() == title; });
+}
+
+bool Zub::hides(std::string_view title) const {
+  return soon([&] { return !shows(title); });
+}
+
+Window Zub::window(std::string_view title) const {
+  Window found;
+  soon([&] {
+    for (const Window& one : windowsOf(process_.dwProcessId)) {
+      if (one.caption() == title) found = one;
+    }
+    return found.handle() != nullptr || !runs();
+  });
+  REQUIRE_MESSAGE(found.handle() != nullptr, "no window \""
+                                                 << std::string(title)
+                                                 << std::string(runs() ? "\"" : "\": the program has ended"));
+  found.settle();
+  return found;
+}
+
+Window Zub::trayWindow() const {
+  HWND found = nullptr;
+  soon([&] {
+    found = FindWindowA("ZubraneTray", nullptr);
+    return found != nullptr;
+  });
+  REQUIRE(found != nullptr);
+  return Window(found);
+}
+
+void Zub::trayMessage(UINT mouseMessage) const {
+  PostMessageA(trayWindow().handle(), WM_MOUSEMOVE, 0, static_cast<LPARAM>(mouseMessage));
+}
+
+bool Zub::ends(int seconds) const {
+  return WaitForSingleObject(process_.hProcess, static_cast<DWORD>(seconds) * 1000) == WAIT_OBJECT_0;
+}
+
+void Zub::close() const {
+  const Window window = main();
+  constexpr int TitleX = 80, TitleY = 12;
+  window.clickAt(TitleX, TitleY);
+  chord({VK_MENU, VK_F4});
+  REQUIRE(ends());
+}
+
+Window wash(const Zub& zub) {
+  zub.main().child("&Start Cleaning").click();
+  const Window progress = zub.window(title::Progress);
+  progress.child("&Finish");
+  return progress;
+}
+
+std::string answer(const Zub& zub, std::string_view title) {
+  const Window message = zub.window(title);
+  std::string text = message.child("STATIC", 0).text();
+  if (text.empty()) text = message.child("STATIC", 1).text();  // the first was the place of the box's icon
+  message.child("OK").click();
+  // Other files in the folder may be in use as well: their boxes are answered by the keyboard.
+  REQUIRE(soon([&] {
+    if (!zub.shows(title)) return true;
+    key(VK_RETURN);
+    return false;
+  }));
+  return text;
+}
+
+void finish(const Zub& zub) {
+  zub.window(title::Progress).child("&Finish").click();
+  REQUIRE(zub.hides(title::Progress));
+}
+
+}  // namespace zub::drive

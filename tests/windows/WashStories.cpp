@@ -1,0 +1,147 @@
+// Washes from the main window: what they remove, show and report.
+#include "windows/IconList.h"
+#include "windows/Story.h"
+
+using namespace zub::drive;
+
+namespace {
+
+const std::string Explorer = "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
+
+// Enough work that a person can press a button in its midst: files that are shredded again and again.
+std::size_t seedLongWork() {
+  constexpr std::size_t Files = 60;
+  const std::string bytes(256 * 1024, 'x');
+  for (std::size_t file = 0; file < Files; ++file)
+    pc::put(pc::temp() / ("long" + std::to_string(file)), bytes);
+  pc::option("chkTempFolder");
+  pc::option("chkBleach");
+  pc::option("cmbShredder", "8");
+  return Files;
+}
+
+}  // namespace
+
+TEST_CASE("the items that are ticked are washed, and nothing beside them") {
+  const Story story;
+  pc::put(pc::temp() / "trace.tmp", "trace");
+  pc::put(pc::temp() / "deep" / "deeper" / "trace.tmp", "trace");
+  const pc::fs::path fileDecoy = pc::temp().parent_path() / "Temporary" / "kept.tmp";
+  pc::put(fileDecoy, "kept");
+  pc::put(pc::recent() / "letter.lnk", "trace");
+  pc::putValue(Explorer + "RunMRU", "a", "calc\\1");
+  pc::putValue(Explorer + "RunMRU2", "a", "kept");
+  pc::putValue(Explorer + "Doc Find Spec MRU", "a", "kept, for its item is not ticked");
+
+  const Zub zub;
+  const Window main = zub.main();
+  IconList icons(main);
+  icons.toTheEnd();
+  for (const int row : {6, 7, 8}) icons.clickBox(row);
+  const Window progress = wash(zub);
+  CHECK_FALSE(zub.shows(title::Main));
+  CHECK(progress.hasChild("Finished"));
+  CHECK(progress.hasChild("Total amount of space restored: 15 Bytes"));
+  finish(zub);
+  CHECK(main.isVisible());
+  CHECK(main.child("STATIC", 2).comesToSay("Last removal on "));
+
+  CHECK(pc::exists(pc::temp()));
+  CHECK(pc::filesIn(pc::temp()) == 0);
+  CHECK(pc::filesIn(pc::recent()) == 0);
+  CHECK_FALSE(pc::hasKey(Explorer + "RunMRU"));
+  CHECK(pc::bytesOf(fileDecoy) == "kept");
+  CHECK(pc::value(Explorer + "RunMRU2", "a") == "kept");
+  CHECK(pc::hasKey(Explorer + "Doc Find Spec MRU"));
+  zub.close();
+  CHECK(pc::storedOption("lblLastRemoval").starts_with("Last removal on "));
+  pc::removeKey(Explorer + "RunMRU2");
+  pc::removeKey(Explorer + "Doc Find Spec MRU");
+}
+
+TEST_CASE("Cancel closes the display, and the removal goes on") {
+  const Story story;
+  const std::size_t files = seedLongWork();
+  const Zub zub;
+  const Window main = zub.main();
+  main.child("&Start Cleaning").click();
+  zub.window(title::Progress).child("&Cancel").click();
+  CHECK(zub.hides(title::Progress));
+  CHECK(main.isVisible());
+  const std::size_t left = pc::filesIn(pc::temp());
+  CHECK(left > 0);
+  CHECK(left <= files);
+  CHECK(soon([] { return pc::filesIn(pc::temp()) == 0; }, 2 * Patience));
+  CHECK_FALSE(zub.shows(title::Progress));
+  CHECK(main.child("STATIC", 2).comesToSay("Last removal on "));
+}
+
+TEST_CASE("Esc closes the progress window") {
+  const Story story;
+  const Zub zub;
+  const Window main = zub.main();
+  REQUIRE(wash(zub).comesToFront());
+  key(VK_ESCAPE);
+  CHECK(zub.hides(title::Progress));
+  CHECK(soon([&] { return main.isVisible() && main.isEnabled(); }));
+}
+
+TEST_CASE("the report tells of the last wash") {
+  const Story story;
+  pc::option("chkTempFolder");
+  pc::put(pc::temp() / "told of.tmp", "trace");
+  const Zub zub;
+  wash(zub).child("&View Log").click();
+  const Window report = zub.window(title::Report);
+  const Window text = report.child("EDIT", 0);
+  CHECK(text.comesToSay("Log file generated at "));
+  CHECK(text.comesToSay("ZUB has cleaned the TEMP folder, with the following results:"));
+  CHECK(text.comesToSay("\tDeleting file told of.tmp\r\n"));
+  report.child("&Cancel").click();
+  CHECK(zub.hides(title::Report));
+  finish(zub);
+  zub.main().child("&View Log").click();
+  CHECK(zub.window(title::Report).child("EDIT", 0).comesToSay("told of.tmp"));
+  key(VK_ESCAPE);
+  CHECK(zub.hides(title::Report));
+}
+
+TEST_CASE("the program closes a while after the wash where that is chosen") {
+  const Story story;
+  pc::option("chkCloseAfterWash");
+  const Zub zub;
+  const Window progress = wash(zub);
+  const DWORD finished = GetTickCount();
+  CHECK(progress.hasChild("Press finish to close this application"));
+  REQUIRE(zub.ends());
+  constexpr DWORD Delay = 6000, Slack = 1500;  // milliseconds; the wash was seen to be over a little late
+  CHECK(GetTickCount() - finished > Delay - Slack);
+  CHECK(pc::storedOption("lblLastRemoval").starts_with("Last removal on "));
+}
+
+TEST_CASE("the shredder passes over a file that is in use, and tells of it") {
+  const Story story;
+  pc::option("chkTempFolder");
+  pc::option("chkBleach");
+  pc::option("cmbShredder", "6");
+  pc::option("chkSkipMessages");
+  const pc::fs::path locked = pc::temp() / "in use.tmp", shredded = pc::temp() / "shredded.tmp";
+  pc::put(locked, std::string(5000, 'x'));
+  pc::put(shredded, std::string(5000, 'x'));
+  const HANDLE user =
+      CreateFileA(locked.string().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  REQUIRE(user != INVALID_HANDLE_VALUE);
+  {
+    const Zub zub;
+    zub.main().child("&Start Cleaning").click();
+    CHECK(answer(zub, "Permission denied") ==
+          "The file " + locked.string() + "\r\n is locked or is on a read only drive/network");
+    zub.window(title::Progress).child("&View Log").click();
+    const Window report = zub.window(title::Report).child("EDIT", 0);
+    CHECK(report.comesToSay("\tShredding file shredded.tmp\r\n"));
+    CHECK(report.comesToSay("\tPermission denied The file " + locked.string()));
+  }
+  CloseHandle(user);
+  CHECK(pc::bytesOf(locked) == std::string(5000, 'x'));
+  CHECK_FALSE(pc::exists(shredded));
+}
