@@ -143,7 +143,8 @@ bool Window::comesToSay(std::string_view part) const {
 }
 
 bool Window::comesToFront() const {
-  return soon([&] { return GetForegroundWindow() == handle_; });
+  constexpr int Seconds = 5;
+  return soon([&] { return GetForegroundWindow() == handle_; }, Seconds);
 }
 
 void Window::clickAt(int x, int y) const {
