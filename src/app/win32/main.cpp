@@ -16,7 +16,7 @@ using namespace zub;
   Ui ui(instance);
   TrayWindow tray(ui);
   WindowSystem windows(ui);
-  Win32Platform pc(windows, tray, [] { return WindowSystem::activeWindow(); });
+  Win32Platform pc(windows, tray, [&windows] { return windows.dialogOwner(); });
   Program program(pc.platform());
   frmAbout about(program.engine.pc);
   MessageBox messageBox;

@@ -137,7 +137,8 @@ void WindowSystem::wait() {
   MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(pause), QS_ALLINPUT);
 }
 
-HWND WindowSystem::activeWindow() {
+HWND WindowSystem::dialogOwner() {
+  showAll();
   const HWND active = GetActiveWindow();
   return active != nullptr && IsWindowVisible(active) != 0 ? active : nullptr;
 }

@@ -34,8 +34,9 @@ class WindowSystem : public EventLoop {
   // Runs the loop while the condition holds, with the window disabled.
   void runModal(HWND disabled, const std::function<bool()>& lasts);
 
-  // The program's window in front; null where none is visible.
-  static HWND activeWindow();
+  // The program's window in front, for a dialog to lie over; null where none is visible. What the forms have
+  // come to is shown first: a window that came up later would cover the dialog.
+  HWND dialogOwner();
 
  private:
   class Heart;
