@@ -21,3 +21,12 @@ TEST_CASE("the about box lies over the main window until it is closed") {
   zub.window(title::About).child("&OK").click();
   CHECK(zub.hides(title::About));
 }
+
+TEST_CASE("without the system's information tool, the about box says so") {
+  const Story story;
+  const Zub zub;
+  zub.main().child("About").click();
+  zub.window(title::About).child("&System info").click();
+  CHECK(answer(zub, "Zubrane") == "System Information Is Unavailable At This Time");
+  CHECK(zub.window(title::About).comesToFront());
+}

@@ -37,12 +37,19 @@ void input(const INPUT& event) {
   REQUIRE(SendInput(1, &sent, sizeof sent) == 1);
 }
 
-void pointer(DWORD flags, LONG x = 0, LONG y = 0) {
+// Where the pointer was last sent, in pixels of the screen. What a button does is told with its place: a late
+// echo of an earlier movement, which the host's screen sends to the window under it, may have carried the pointer
+// back.
+POINT sentTo{};
+
+void pointer(DWORD flags) {
+  // The system counts the screen's width and height as 65536 each.
+  const auto share = [](LONG pixel, int size) { return (pixel * 65536 + size - 1) / size; };
   INPUT event{};
   event.type = INPUT_MOUSE;
-  event.mi.dwFlags = flags;
-  event.mi.dx = x;
-  event.mi.dy = y;
+  event.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+  event.mi.dx = share(sentTo.x, GetSystemMetrics(SM_CXSCREEN));
+  event.mi.dy = share(sentTo.y, GetSystemMetrics(SM_CYSCREEN));
   input(event);
 }
 
@@ -179,15 +186,11 @@ Window focus() {
   return Window(thread.hwndFocus);
 }
 
-// A late echo of an earlier movement, which the host's screen sends to the window under it, may carry the
-// pointer back: it is moved until it stays.
 void movePointer(int x, int y) {
-  // The system counts the screen's width and height as 65536 each.
-  const auto share = [](int pixel, int size) { return LONG{(pixel * 65536 + size - 1) / size}; };
+  sentTo = {x, y};
   const auto stays = [&] {
-    pointer(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, share(x, GetSystemMetrics(SM_CXSCREEN)),
-            share(y, GetSystemMetrics(SM_CYSCREEN)));
-    Window(WindowFromPoint({x, y})).settle();
+    pointer(0);
+    Window(WindowFromPoint(sentTo)).settle();
     POINT now{};
     GetCursorPos(&now);
     return now.x == x && now.y == y;
@@ -237,7 +240,8 @@ void fill(const Window& box, std::string_view text) {
   chord({VK_SHIFT, VK_END});
   key(VK_DELETE);
   type(text);
-  REQUIRE(soon([&] { return box.text() == text; }));
+  const bool typed = soon([&] { return box.text() == text; });
+  REQUIRE_MESSAGE(typed, "the box says \"" << box.text() << '"');
 }
 
 }  // namespace zub::drive

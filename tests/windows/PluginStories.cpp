@@ -140,3 +140,28 @@ TEST_CASE("Select All ticks every plugin, and a row's description is shown") {
   CHECK(pc::storedOption("ZUBStandardPlugin " + first) == "0");
   CHECK(pc::storedOption("ZUBStandardPlugin " + last) == "1");
 }
+
+TEST_CASE("the system's folder picker fills the path box") {
+  const Story story;
+  const Zub zub;
+  pluginList(zub.main());
+  zub.main().child("Create A New Plugin").click();
+  const Window editor = zub.window(title::Editor);
+  openTab(editor, "Files & Folders");
+  const Window path = editor.child("EDIT", 1);
+  fill(path, "C:\\before");
+  editor.child("Browse").click();
+  const Window picker = zub.dialog("Browse for Folder");
+  CHECK(picker.hasChild("Find the Folder"));
+  picker.child("SysTreeView32", 0).click();
+  key(VK_HOME);
+  type("m");  // My Computer
+  key(VK_RIGHT);
+  key(VK_DOWN);  // its first drive
+  picker.child("OK").click();
+  CHECK(soon([&] { return path.text() == "C:\\"; }));
+  editor.child("Browse").click();
+  zub.dialog("Browse for Folder").child("Cancel").click();
+  CHECK(editor.comesToFront());
+  CHECK(path.text() == "C:\\");
+}

@@ -22,7 +22,8 @@ void install() {
   const pc::fs::path source = setting("ZUB_SOURCE");
   pc::remove(pc::programs());
   pc::fs::create_directories(pc::programs());
-  pc::fs::copy(setting("ZUB_PROGRAM"), pc::programs() / "zub.exe");
+  for (const char* program : {"zub.exe", "zub-console.exe"})
+    pc::fs::copy(pc::fs::path(setting("ZUB_PROGRAMS")) / program, pc::programs() / program);
   pc::fs::copy(source / "help", pc::programs() / "help", pc::fs::copy_options::recursive);
 }
 
@@ -71,10 +72,18 @@ bool Zub::hides(std::string_view title) const {
 }
 
 Window Zub::window(std::string_view title) const {
+  return find(title, false);
+}
+
+Window Zub::dialog(std::string_view title) const {
+  return find(title, true);
+}
+
+Window Zub::find(std::string_view title, bool isDialog) const {
   Window found;
   soon([&] {
     for (const Window& one : windowsOf(process_.dwProcessId)) {
-      if (one.caption() == title) found = one;
+      if (one.caption() == title && (one.className() == "#32770") == isDialog) found = one;
     }
     return found.handle() != nullptr || !runs();
   });
@@ -119,7 +128,7 @@ Window wash(const Zub& zub) {
 }
 
 std::string answer(const Zub& zub, std::string_view title) {
-  const Window message = zub.window(title);
+  const Window message = zub.dialog(title);
   REQUIRE(message.comesToFront());
   std::string text = message.child("STATIC", 0).text();
   if (text.empty()) text = message.child("STATIC", 1).text();  // the first was the place of the box's icon

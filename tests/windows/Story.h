@@ -27,6 +27,8 @@ class Zub {
 
   // The window with this title, when it has come.
   Window window(std::string_view title) const;
+  // The same of the system's own: a message box, the folder picker.
+  Window dialog(std::string_view title) const;
   Window main() const { return window(title::Main); }
   bool shows(std::string_view title) const;
   bool hides(std::string_view title) const;  // waits until it is gone
@@ -41,6 +43,8 @@ class Zub {
   void close() const;
 
  private:
+  Window find(std::string_view title, bool isDialog) const;
+
   PROCESS_INFORMATION process_{};
 };
 
