@@ -100,15 +100,6 @@ TEST_CASE("indexed cookies come in the order of their records, the others after 
   CHECK(pc.rows() == indexed + others);
 }
 
-TEST_CASE("an index of any bytes gives one row for each cookie file") {
-  for (const std::string& bytes : {""s, "x"s, std::string(20481, 'U'), indexFile({"URL "s}),
-                                   indexFile({"LEAK" + std::string(9000, '\xFF')})}) {
-    CookiePc pc({"a.txt", "b.txt"});
-    pc.cookie("index.dat", bytes);
-    CHECK(pc.rows() == "[a.txt|a.txt]\n[b.txt|b.txt]\n");
-  }
-}
-
 TEST_CASE("a keep line ticks the rows that read like it") {
   const struct {
     std::string lines;
