@@ -79,6 +79,7 @@ TEST_CASE("a folder of recent documents is made where it is missing, an Office o
   CleanerPc pc;
   pc.pc.shellFolder("Recent", "C:\\WINDOWS\\Recent");
   pc.pc.shellFolder("AppData", "C:\\WINDOWS");
+  pc.plant({"C:\\WINDOWS\\Microsoft\\Office\\"});
   CHECK(pc.removedBy([&] {
     CleanDocumentHistory(pc.engine);
     CleanOffice(pc.engine);

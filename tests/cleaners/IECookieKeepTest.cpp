@@ -58,8 +58,8 @@ TEST_CASE("a record puts its site beside the cookie file that it names") {
       {"no @ before the name", indexRecord("URL ", "Visited:shop\0plain.txt\0"s),
        "[http://Visited:shop |plain.txt ]\n" + bare},
       {"bytes that are no text",
-       indexRecord("URL ", "\1\2x\xF0\r me@sh\x80op/\0\0me@shop[1].txt\0\r\xF0\xAD"s),
-       "[http://shop/ |me@shop[1].txt ]\n"},
+       indexRecord("URL ", "\1\2x\xF0\r me@!sh\x80\x7Fop~/\0\0me@shop[1].txt\0\r\xF0\xAD"s),
+       "[http://!shop~/ |me@shop[1].txt ]\n"},
       {"a text that fills the record", indexRecord("URL ", "me@" + longest + "\0"s + file),
        "[http://" + longest + " |me@shop[1].txt]\n"},
       {"names of other files",
@@ -82,9 +82,9 @@ TEST_CASE("a record puts its site beside the cookie file that it names") {
 }
 
 TEST_CASE("indexed cookies come in the order of their records, the others after them by name") {
-  CookiePc pc({});
-  std::string records = cookieRecord("me", "gone/", "gone.txt");
-  std::string indexed;
+  CookiePc pc({"z.txt"});
+  std::string records = cookieRecord("me", "gone/", "gone.txt") + cookieRecord("me", "last/", "z.txt");
+  std::string indexed = "[http://last/ |z.txt ]\n";
   std::string others;
   for (int number = 10; number < 60; ++number) {
     const std::string file = std::to_string(number) + ".txt";
@@ -92,8 +92,8 @@ TEST_CASE("indexed cookies come in the order of their records, the others after 
     if (number % 2 == 0) {
       others += "[" + file + "|" + file + "]\n";
     } else {
-      records.insert(0, cookieRecord("me", file + "/", file));
-      indexed.insert(0, "[http://" + file + "/ |" + file + " ]\n");
+      records += cookieRecord("me", file + "/", file);
+      indexed += "[http://" + file + "/ |" + file + " ]\n";
     }
   }
   pc.cookie("index.dat", indexFile({records}));

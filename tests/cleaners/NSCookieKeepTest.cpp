@@ -81,14 +81,17 @@ TEST_CASE("cookie rows are the lines with a tab that are no comments") {
   pc.profiles();
   pc.pc.file(One + "\\Cookies.txt",
              "# comment\twith tab\n  # too\tx\n\n   \nno tab\n.a.example\tx\r\n\tstart\n" +
-                 cookieLine("b.example", "n", "v") + "unended\tx");
+                 cookieLine("b.example", " n", "v") + "unended\tx");
   pc.keep.Show();
   REQUIRE(pc.keep.lstDelete.ListCount() == 3);
   CHECK(pc.keep.lstDelete.List(0) == ".a.example\t");
   CHECK(pc.keep.lstCookies.List(0) == ".a.example\tx\r");
   CHECK(pc.keep.lstDelete.List(1) == "\t");
   pc.keep.lstDelete.ListIndex(2);
-  CHECK(pc.keep.txtKeep.Text == "n\t\r\nv");
+  CHECK(pc.keep.txtKeep.Text == " n\t\r\nv");
+  pc.keep.lstDelete.Selected(2, true);
+  pc.keep.SaveNS6(One);
+  CHECK(pc.kept(One) == "b.example\tn\t\r\n");
 }
 
 TEST_CASE("ticks belong to the profile and come back with it") {
