@@ -1,11 +1,23 @@
 #include "cleaners/IECookieIndex.h"
 
+#include <array>
+
 namespace zub {
 namespace {
 
 constexpr std::int64_t FirstRecord = 20480;
-constexpr std::size_t TagSize = 4;
-constexpr std::size_t TextOffset = 97;  // the record's URL and file name, with what lies around them
+
+struct IndexRecord {
+  std::array<char, 4> Tag;
+  std::array<char, 93> Gap;    // nothing in it is asked for
+  std::array<char, 159> Text;  // the record's URL and file name, with what lies around them
+};
+static_assert(sizeof(IndexRecord) == 256);
+
+template <std::size_t Size>
+std::string_view textOf(const std::array<char, Size>& field) {
+  return {field.data(), Size};
+}
 
 // The printable characters; each run of NULs becomes one blank, all else is left out.
 void appendReadable(std::string& text, std::string_view bytes) {
@@ -30,14 +42,13 @@ IECookieIndex::IECookieIndex(Files& files, std::string_view path) : file_(files,
 bool IECookieIndex::next(IECookie& cookie) {
   constexpr std::string_view scheme = "http://";
   for (;;) {
-    record_.fill(0);
-    if (file_.read(record_) == 0) return false;
-    const std::string_view record(record_.data(), record_.size());
-    const std::string_view tag = record.substr(0, TagSize);
+    IndexRecord record{};
+    if (file_.read({reinterpret_cast<char*>(&record), sizeof record}) == 0) return false;
+    const std::string_view tag = textOf(record.Tag);
     if (tag != "URL " && tag != "LEAK") continue;
 
     item_ = scheme;
-    appendReadable(item_, record.substr(TextOffset));
+    appendReadable(item_, textOf(record.Text));
     // What stands before the first "@" is the user's name.
     const auto user = item_.find('@');
     if (user != std::string::npos) item_.erase(scheme.size(), user + 1 - scheme.size());

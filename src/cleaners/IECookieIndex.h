@@ -5,7 +5,6 @@
 // tells of itself is not followed. A record that does not begin at a chunk is not seen.
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -28,7 +27,6 @@ class IECookieIndex {
 
  private:
   FileReader file_;
-  std::array<char, 256> record_{};
   std::string item_;
 };
 

@@ -43,23 +43,23 @@ void frmIECookieKeep::listCookies() {
   lstFiles.Clear();
   flList_.path(g_strPath);
   IECookieIndex index(engine_.pc.files, g_strPath + "index.dat");
-  UnclaimedFiles unclaimed(engine_.pc.codePage, flList_.names());
+  UnclaimedFiles lstTemp(engine_.pc.codePage, flList_.names());
   IECookie cookie;
   while (index.next(cookie)) {
-    if (unclaimed.claim(trim(cookie.file))) addRow(cookie.site, cookie.file);
+    if (lstTemp.claim(trim(cookie.file))) addRow(cookie.site, cookie.file);
   }
-  unclaimed.forEach([this](const std::string& name) { addRow(name, name); });
+  lstTemp.forEach([this](const std::string& name) { addRow(name, name); });
 }
 
 void frmIECookieKeep::tickKept() {
   const auto comparable = [this](std::string_view text) { return engine_.pc.codePage.upper(trim(text)); };
-  std::unordered_set<std::string> kept;
+  std::unordered_set<std::string> lstChecked;
   FileReader file(engine_.pc.files, keepFile());
   std::string line;
-  while (file.line(line)) kept.insert(comparable(line));
-  if (kept.empty()) return;
+  while (file.line(line)) lstChecked.insert(comparable(line));
+  if (lstChecked.empty()) return;
   for (int row = 0; row < lstDelete.ListCount(); ++row) {
-    if (kept.contains(comparable(lstDelete.List(row)))) lstDelete.Selected(row, true);
+    if (lstChecked.contains(comparable(lstDelete.List(row)))) lstDelete.Selected(row, true);
   }
 }
 

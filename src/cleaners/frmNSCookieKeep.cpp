@@ -110,26 +110,23 @@ void frmNSCookieKeep::SelectNS6(std::string_view Folder) {
 }
 
 void frmNSCookieKeep::SaveNS6(std::string_view Folder) {
-  try {
-    const auto file = engine_.pc.files.open(withBackslash(Folder).append(KeepFile), OpenMode::Output);
-    for (int row = 0; row < lstDelete.ListCount(); ++row) {
-      if (!lstDelete.Selected(row)) continue;
-      file->write(lstDelete.List(row));
-      file->write(trim(nameAndValue(lstCookies.List(row)).name));
-      file->write(CrLf);
-    }
-    file->close();
-  } catch (const RuntimeError&) {
-  }
+  writeTicked(withBackslash(Folder).append(KeepFile), [this](int row) {
+    return std::string(lstDelete.List(row))
+        .append(trim(nameAndValue(lstCookies.List(row)).name))
+        .append(CrLf);
+  });
 }
 
 void frmNSCookieKeep::CleanCookieNS6(std::string_view Folder) {
+  writeTicked(withBackslash(Folder).append(CookieFile),
+              [this](int row) { return lstCookies.List(row) + "\n"; });
+}
+
+void frmNSCookieKeep::writeTicked(const std::string& path, const std::function<std::string(int)>& lineOf) {
   try {
-    const auto file = engine_.pc.files.open(withBackslash(Folder).append(CookieFile), OpenMode::Output);
+    const auto file = engine_.pc.files.open(path, OpenMode::Output);
     for (int row = 0; row < lstDelete.ListCount(); ++row) {
-      if (!lstDelete.Selected(row)) continue;
-      file->write(lstCookies.List(row));
-      file->write("\n");
+      if (lstDelete.Selected(row)) file->write(lineOf(row));
     }
     file->close();
   } catch (const RuntimeError&) {

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -61,6 +62,8 @@ class frmNSCookieKeep {
   void findProfiles();
   bool HasCookieFile(const std::string& Folder);
   void LoadCookieLines(const std::string& Folder);
+  // The lines, with their ends, of the ticked rows; the file is emptied first.
+  void writeTicked(const std::string& path, const std::function<std::string(int row)>& lineOf);
   void chooseFolderOfProfile();
   void cleanProfile(const std::string& Folder);
 

@@ -1,11 +1,10 @@
 #include <doctest/doctest.h>
 
-#include <vector>
-
+#include "base/Text.h"
 #include "cleaners/BrowserFiles.h"
 #include "cleaners/CleanIE.h"
+#include "cleaners/CleanerPc.h"
 #include "cleaners/frmIECookieKeep.h"
-#include "support/WashFixture.h"
 
 using namespace zub;
 
@@ -15,167 +14,101 @@ const std::string Head = "ZUB has cleaned IE files and registry entries, with th
 const std::string TypedUrls = "HKEY_CURRENT_USER\\Software\\Microsoft\\Internet Explorer\\TypedUrls";
 const std::string Settings =
     "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\";
+const std::string Cookies = "C:\\W\\Cookies\\";
+const std::string Programs = "C:\\WINDOWS\\Downloaded Program Files\\";
 
-struct IEPc : WashFixture {
+struct IEPc : CleanerPc {
   frmIECookieKeep keep{engine};
 
-  IEPc() {
-    pc.shellFolder("Cookies", "C:\\W\\Cookies");
-    pc.shellFolder("Cache", "C:\\W\\Cache");
-    pc.shellFolder("History", "C:\\W\\History");
-    pc.file("C:\\W\\Cookies\\me@a.txt");
-    pc.file("C:\\W\\Cookies\\me@b.txt");
-    pc.file("C:\\W\\Cookies\\note.doc");
-    pc.file("C:\\W\\Cookies\\index.dat", "");
-    pc.file("C:\\W\\Cookies\\Sub\\deep.txt");
-    pc.file("C:\\W\\Cache\\Content.IE5\\page.htm");
-    pc.file("C:\\W\\Cache\\Content.IE5\\index.dat");
-    pc.file("C:\\W\\History\\day\\page.dat");
-    pc.file("C:\\W\\CacheContent.IE5\\index.dat");
-    pc.file("C:\\W\\CacheContent.IE5\\other.dat");
-    pc.file("C:\\W\\HistoryHistory.IE5\\index.dat");
-    pc.file("C:\\WINDOWS\\Downloaded Program Files\\a.ocx");
-    pc.file("C:\\WINDOWS\\Downloaded Program Files\\Sub\\b.ocx");
-    pc.file("C:\\WINDOWS\\win.com");
-    pc.value(TypedUrls, "url1", "http://a/");
-    pc.value("HKEY_CURRENT_USER\\Software\\Microsoft\\Internet Explorer", "Home", "x");
-    for (const char* version : {"4.0", "5.0"}) {
-      pc.value(Settings + version + "\\Cache\\Extensible Cache", "a", "x");
-      pc.value(Settings + version + "\\Cache", "Signature", "x");
+  explicit IEPc(std::initializer_list<CheckOption Options::*> chosen) {
+    pc.file(Cookies + "index.dat", "");
+    for (const auto option : chosen) (options.*option).Value(1);
+  }
+  void shellFolders() {
+    for (const char* name : {"Cookies", "Cache", "History"}) {
+      pc.shellFolder(name, std::string("C:\\W\\") + name);
     }
   }
   std::string wash() {
-    engine.clean.txtResult.clear();
-    CleanIE(engine, keep);
-    return engine.clean.txtResult;
+    return removedBy([this] { CleanIE(engine, keep); });
   }
 };
 
 }  // namespace
 
 TEST_CASE("each Internet Explorer option removes its own traces and nothing else") {
-  struct Case {
-    std::string what;
+  const struct {
     CheckOption Options::*option;
-    std::vector<std::string> gone;
+    Paths traces;
     std::string report;
-  };
-  const Case cases[] = {
-      {"cookies",
-       &Options::chkIECookies,
-       {"C:\\W\\Cookies\\me@a.txt", "C:\\W\\Cookies\\me@b.txt"},
+  } cases[] = {
+      {&Options::chkIECookies,
+       {Cookies + "me@a.txt", Cookies + "me@b.txt"},
        "\tCleaning Cookies\r\n\tDeleting file me@a.txt\r\n\tDeleting file me@b.txt\r\n"},
-      {"cache and history",
-       &Options::chkIECache,
+      {&Options::chkIECache,
        {"C:\\W\\Cache\\Content.IE5\\page.htm", "C:\\W\\Cache\\Content.IE5\\index.dat",
-        "C:\\W\\Cache\\Content.IE5", "C:\\W\\History\\day\\page.dat", "C:\\W\\History\\day",
+        "C:\\W\\Cache\\Content.IE5\\", "C:\\W\\History\\day\\page.dat", "C:\\W\\History\\day\\",
         Settings + "5.0\\Cache\\Extensible Cache", Settings + "4.0\\Cache\\Extensible Cache"},
        "\tDeleting History Entries\r\n\tDeleting file page.dat\r\n\tDeleting Folder day\r\n"
        "\tDeleting file index.dat\r\n\tDeleting file page.htm\r\n\tDeleting Folder Content.IE5\r\n"},
-      {"index files, by names without a backslash",
-       &Options::chkIEIndex,
+      // The names have no backslash behind the folder.
+      {&Options::chkIEIndex,
        {"C:\\W\\CacheContent.IE5\\index.dat", "C:\\W\\HistoryHistory.IE5\\index.dat"},
        "\tDeleting INDEX.DAT\r\n\tDeleting file index.dat\r\n\tDeleting file index.dat\r\n"},
-      {"typed addresses",
-       &Options::chkIEAutocomplete,
-       {TypedUrls},
-       "\tRemoving registry entries - Typed URLs\r\n"},
-      {"downloaded programs",
-       &Options::chkIEProgram,
-       {"C:\\WINDOWS\\Downloaded Program Files\\a.ocx", "C:\\WINDOWS\\Downloaded Program Files\\Sub\\b.ocx",
-        "C:\\WINDOWS\\Downloaded Program Files\\Sub"},
+      {&Options::chkIEAutocomplete, {TypedUrls}, "\tRemoving registry entries - Typed URLs\r\n"},
+      {&Options::chkIEProgram,
+       {Programs + "a.ocx", Programs + "Sub\\b.ocx", Programs + "Sub\\"},
        "\tDeleting file a.ocx\r\n\tDeleting file b.ocx\r\n\tDeleting Folder Sub\r\n"},
   };
-  for (const Case& c : cases) {
-    CAPTURE(c.what);
-    IEPc pc;
-    (pc.options.*c.option).Value(1);
-    const std::string before = pc.pc.snapshot();
-    CHECK(pc.wash() == Head + c.report);
-    const std::string removed = pc.pc.diffSince(before);
-    CHECK(removed.find("+ ") == std::string::npos);
-    std::size_t files = 0;
-    for (const std::string& trace : c.gone) {
-      CAPTURE(trace);
-      CHECK(!pc.pc.hasFile(trace));
-      CHECK(!pc.pc.hasFolder(trace));
-      CHECK(!pc.pc.hasKey(trace));
-      CHECK(removed.find(trace) != std::string::npos);
-      ++files;
-    }
-    CHECK(files == c.gone.size());
+  const auto wash = [&](IEPc& pc) {
+    pc.shellFolders();
+    for (const auto& each : cases) pc.plant(each.traces);
+    pc.plant({Cookies + "note.doc", Cookies + "Sub\\deep.txt", "C:\\W\\CacheContent.IE5\\other.dat",
+              "C:\\WINDOWS\\win.com"});
+    return pc.wash();
+  };
+  for (const auto& c : cases) {
+    CAPTURE(c.report);
+    IEPc pc({c.option});
+    CHECK(wash(pc) == listed(c.traces));
+    CHECK(pc.takeReport() == Head + c.report);
   }
-}
-
-TEST_CASE("with all options off the task reports its heading and counts as done") {
-  IEPc pc;
-  const std::string before = pc.pc.snapshot();
-  CHECK(pc.wash() == Head);
-  CHECK(pc.pc.diffSince(before) == "");
-  CHECK(pc.engine.animated->state.lblCompleted.Caption == "1");
-  CHECK(pc.engine.animated->state.Image10.picture == Picture::DoneMark);
-  CHECK(!pc.engine.animated->state.Label8.Bold);
-  CHECK(!pc.keep.form.Visible);
+  IEPc idle({});
+  CHECK(wash(idle) == "");
+  CHECK(idle.takeReport() == Head);
+  CHECK(idle.progress().lblCompleted.Caption == "1");
 }
 
 TEST_CASE("a kept cookie survives the wash and is not reported") {
-  for (const int shredder : {0, 1}) {
-    IEPc pc;
-    pc.options.chkIECookies.Value(1);
-    pc.options.chkBleach.Value(shredder);
-    pc.pc.file("C:\\W\\Cookies\\index.dat", indexFile({cookieRecord("me", "keep.example/", "me@b.txt"),
-                                                       cookieRecord("me", "go.example/", "me@a.txt")}));
-    pc.pc.file("C:\\W\\Cookies\\ZUBKeep.inf", "HTTP://KEEP.example/\r\n");
-    const std::string verb = shredder == 1 ? "Shredding" : "Deleting";
-    CHECK(pc.wash() == Head + "\tCleaning Cookies\r\n\t" + verb + " file me@a.txt \r\n");
-    CHECK(pc.pc.hasFile("C:\\W\\Cookies\\me@b.txt"));
-    CHECK(!pc.pc.hasFile("C:\\W\\Cookies\\me@a.txt"));
-    CHECK(pc.pc.hasFile("C:\\W\\Cookies\\ZUBKeep.inf"));
-    REQUIRE(pc.keep.lstDelete.ListCount() == 1);  // the lists show what is left
-    CHECK(pc.keep.lstDelete.Selected(0));
-    CHECK(pc.engine.TotalBytes == 1);
-    CHECK(pc.engine.clean.form.mousePointer == MousePointer::Default);
-  }
-}
-
-TEST_CASE("an index that names paths leads to no file outside the Cookies folder") {
-  IEPc pc;
-  pc.options.chkIECookies.Value(1);
-  pc.pc.file("C:\\out.txt");
-  pc.pc.file("C:\\W\\out.txt");
-  pc.pc.file(
-      "C:\\W\\Cookies\\index.dat",
-      indexFile({cookieRecord("me", "a/", "..\\out.txt"), cookieRecord("me", "b/", "C:\\out.txt"),
-                 cookieRecord("me", "c/", "..\\..\\out.txt"), cookieRecord("me", "d/", "Sub\\deep.txt"),
-                 cookieRecord("me", "e/", "*.txt"), cookieRecord("me", "f/", "note.doc")}));
-  pc.wash();
-  for (const char* decoy : {"C:\\out.txt", "C:\\W\\out.txt", "C:\\W\\Cookies\\Sub\\deep.txt",
-                            "C:\\W\\Cookies\\note.doc", "C:\\W\\Cookies\\index.dat"}) {
-    CAPTURE(decoy);
-    CHECK(pc.pc.hasFile(decoy));
-  }
-  CHECK(!pc.pc.hasFile("C:\\W\\Cookies\\me@a.txt"));
+  IEPc pc({&Options::chkIECookies});
+  pc.shellFolders();
+  pc.plant({Cookies + "me@a.txt", Cookies + "me@b.txt"});
+  pc.pc.file(Cookies + "index.dat", indexFile({cookieRecord("me", "keep.example/", "me@b.txt"),
+                                               cookieRecord("me", "go.example/", "me@a.txt")}));
+  pc.pc.file(Cookies + "ZUBKeep.inf", "HTTP://KEEP.example/\r\n");
+  CHECK(pc.wash() == Cookies + "me@a.txt\n");
+  CHECK(pc.takeReport() == Head + "\tCleaning Cookies\r\n\tDeleting file me@a.txt \r\n");
+  CHECK(pc.keep.lstDelete.ListCount() == 1);  // the lists show what is left
+  CHECK(pc.keep.lstDelete.Selected(0));
+  CHECK(pc.engine.clean.form.mousePointer == MousePointer::Default);
 }
 
 TEST_CASE("a held index file is left for the next start") {
-  IEPc pc;
-  pc.options.chkIEIndex.Value(1);
-  pc.pc.lock("C:\\W\\CacheContent.IE5\\index.dat");
-  const std::string report = pc.wash();
-  CHECK(report.find("\tDelete locked file: The file C:\\W\\CacheContent.IE5\\index.dat") !=
-        std::string::npos);
-  CHECK(pc.pc.hasFile("C:\\W\\CacheContent.IE5\\index.dat"));
-  CHECK(pc.pc.hasFile("C:\\WINDOWS\\wininit.ini"));
+  IEPc pc({&Options::chkIEIndex});
+  pc.shellFolders();
+  const Paths held{"C:\\W\\CacheContent.IE5\\index.dat", "C:\\W\\HistoryHistory.IE5\\index.dat"};
+  pc.plant(held);
+  for (const std::string& file : held) pc.pc.lock(file);
+  CHECK(pc.wash() == "+ C:\\WINDOWS\\wininit.ini\n");
+  const std::string report = pc.takeReport();
+  for (const std::string& file : held) CHECK(contains(report, "\tDelete locked file: The file " + file));
 }
 
 TEST_CASE("lists that are loaded anew amid a shred do not lead the wash astray") {
-  IEPc pc;
-  pc.options.chkIECookies.Value(1);
-  pc.options.chkBleach.Value(1);
-  for (const char* name : {"p.txt", "q.txt", "r.txt", "s.txt"}) {
-    pc.pc.file("C:\\W\\Cookies\\" + std::string(name), std::string(4096, 'x'));
-  }
-  pc.pc.file("C:\\W\\Cookies\\ZUBKeep.inf", "r.txt\r\n");
+  IEPc pc({&Options::chkIECookies, &Options::chkBleach});
+  pc.shellFolders();
+  for (const char* name : {"a.txt", "b.txt", "c.txt"}) pc.pc.file(Cookies + name, std::string(4096, 'x'));
+  pc.pc.file(Cookies + "ZUBKeep.inf", "b.txt\r\n");
   bool inside = false;
   pc.pc.onDoEvents = [&](int) {
     if (inside) return;
@@ -183,20 +116,14 @@ TEST_CASE("lists that are loaded anew amid a shred do not lead the wash astray")
     CleanIE(pc.engine, pc.keep);  // a whole wash comes due
     inside = false;
   };
-  pc.wash();
-  CHECK(pc.pc.hasFile("C:\\W\\Cookies\\r.txt"));
-  for (const char* name : {"me@a.txt", "p.txt"})
-    CHECK(!pc.pc.hasFile("C:\\W\\Cookies\\" + std::string(name)));
+  CHECK(pc.wash() == Cookies + "a.txt\n" + Cookies + "c.txt\n");
 }
 
-TEST_CASE("without shell folders nothing of the browser's is found") {
-  IEPc pc;
-  for (const char* folder : {"Cookies", "Cache", "History"}) pc.pc.shellFolder(folder, "");
-  for (CheckOption Options::*option : {&Options::chkIECookies, &Options::chkIECache, &Options::chkIEIndex}) {
-    (pc.options.*option).Value(1);
-  }
-  pc.wash();
-  CHECK(pc.pc.hasFile("C:\\W\\Cookies\\me@a.txt"));
-  CHECK(pc.pc.hasFile("C:\\W\\Cache\\Content.IE5\\page.htm"));
-  CHECK(pc.pc.hasFile("C:\\W\\CacheContent.IE5\\index.dat"));
+TEST_CASE(
+    "without shell folders no cache is found, and the index files are looked for in the current folder") {
+  IEPc pc({&Options::chkIECache, &Options::chkIEIndex});
+  const Paths traces{"C:\\Content.IE5\\index.dat", "C:\\History.IE5\\index.dat"};
+  pc.plant(traces);
+  pc.plant({"C:\\W\\Cache\\Content.IE5\\page.htm"});
+  CHECK(pc.wash() == listed(traces));
 }

@@ -1,8 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "base/Text.h"
 #include "cleaners/BrowserFiles.h"
-#include "cleaners/UnclaimedFiles.h"
 #include "cleaners/frmIECookieKeep.h"
 #include "support/WashFixture.h"
 
@@ -11,20 +9,23 @@ using namespace std::string_literals;
 
 namespace {
 
-const std::string Cookies = "C:\\WINDOWS\\Cookies";
+const std::string Cookies = "C:\\WINDOWS\\Cookies\\";
 
 struct CookiePc : WashFixture {
   frmIECookieKeep keep{engine};
 
-  CookiePc() {
-    pc.shellFolder("Cookies", Cookies);
-    pc.folder(Cookies);
+  explicit CookiePc(std::initializer_list<const char*> cookies)
+      : WashFixture({"hidden = C:\\WINDOWS\\Cookies\\hidden.txt"}) {
+    pc.shellFolder("Cookies", "C:\\WINDOWS\\Cookies");
+    for (const char* name : cookies) cookie(name);
+    for (const char* decoy : {"hidden.txt", "note.doc", "Sub\\deep.txt"}) cookie(decoy);
   }
   void cookie(std::string_view name, std::string_view bytes = "x") {
-    pc.file(Cookies + "\\" + std::string(name), bytes);
+    pc.file(Cookies + std::string(name), bytes);
   }
-  // One line per row: shown text, file, and "*" where it is kept.
-  std::string rows() const {
+  // What a load of the lists shows, one line per row: shown text, file, and "*" where it is kept.
+  std::string rows() {
+    keep.LoadCookies();
     REQUIRE(keep.lstDelete.ListCount() == keep.lstFiles.ListCount());
     std::string text;
     for (int row = 0; row < keep.lstDelete.ListCount(); ++row) {
@@ -38,114 +39,86 @@ struct CookiePc : WashFixture {
 }  // namespace
 
 TEST_CASE("a record puts its site beside the cookie file that it names") {
-  struct Case {
-    std::string what;
-    std::string records;
-    std::string row;
-  };
   const std::string file = "me@shop[1].txt";
   const std::string url = cookieRecord("me", "shop.example/", file);
-  const Case cases[] = {
-      {"a cookie", url, "[http://shop.example/ |me@shop[1].txt ]\n"},
-      {"left over", indexRecord("LEAK", url.substr(97)), "[http://shop.example/ |me@shop[1].txt ]\n"},
-      {"another tag", indexRecord("REDR", url.substr(97)), "[me@shop[1].txt|me@shop[1].txt]\n"},
+  const std::string longest(141, 's');
+  const std::string bare = "[me@shop[1].txt|me@shop[1].txt]\n";
+  const std::string sited = "[http://shop.example/ |me@shop[1].txt ]\n";
+  const struct {
+    std::string what;
+    std::string records;
+    std::string rows;
+  } cases[] = {
+      {"a cookie", url, sited},
+      {"left over", indexRecord("LEAK", url.substr(97)), sited},
+      {"another tag", indexRecord("REDR", url.substr(97)), bare},
       {"other case", cookieRecord("me", "shop.example/", "ME@Shop[1].TXT"),
        "[http://shop.example/ |ME@Shop[1].TXT ]\n"},
-      {"the first of two records wins", url + cookieRecord("me", "late.example/", file),
-       "[http://shop.example/ |me@shop[1].txt ]\n"},
+      {"the first of two records wins", url + cookieRecord("me", "late.example/", file), sited},
       {"no @ before the name", indexRecord("URL ", "Visited:shop\0plain.txt\0"s),
-       "[http://Visited:shop |plain.txt ]\n[me@shop[1].txt|me@shop[1].txt]\n"},
+       "[http://Visited:shop |plain.txt ]\n" + bare},
       {"bytes that are no text",
-       indexRecord("URL ", "\1\2x\xF0\r me@sh\x80op/\0\0me@shop[1].txt\0\r\xF0\xAD"s),
-       "[http://shop/ |me@shop[1].txt ]\n"},
-      {"off the walk by half a chunk", std::string(128, '\0') + url, "[me@shop[1].txt|me@shop[1].txt]\n"},
-      {"a longer record before it", indexRecord("URL ", "x") + std::string(256, 'y') + url,
-       "[http://shop.example/ |me@shop[1].txt ]\n"},
-      {"the file cut off behind the name", url.substr(0, 150), "[http://shop.example/ |me@shop[1].txt ]\n"},
-      {"the file cut off within the name", url.substr(0, 125), "[me@shop[1].txt|me@shop[1].txt]\n"},
-      {"a path", cookieRecord("me", "shop.example/", "..\\me@shop[1].txt"),
-       "[me@shop[1].txt|me@shop[1].txt]\n"},
+       indexRecord("URL ", "\1\2x\xF0\r me@!sh\x80\x7Fop~/\0\0me@shop[1].txt\0\r\xF0\xAD"s),
+       "[http://!shop~/ |me@shop[1].txt ]\n"},
+      {"a text that fills the record", indexRecord("URL ", "me@" + longest + "\0"s + file),
+       "[http://" + longest + " |me@shop[1].txt]\n"},
+      {"names of other files",
+       cookieRecord("me", "up/", "..\\me@shop[1].txt") + cookieRecord("me", "root/", "C:\\me@shop[1].txt") +
+           cookieRecord("me", "sub/", "Sub\\deep.txt") + cookieRecord("me", "all/", "*.txt") +
+           cookieRecord("me", "doc/", "note.doc") + cookieRecord("me", "hidden/", "hidden.txt"),
+       bare},
+      {"off the walk by half a chunk", std::string(128, '\0') + url, bare},
+      {"a longer record before it", indexRecord("URL ", "x") + std::string(256, 'y') + url, sited},
+      {"the file cut off behind the name", url.substr(0, 150), sited},
+      {"the file cut off within the name", url.substr(0, 125), bare},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     CAPTURE(c.what);
-    CookiePc pc;
-    pc.cookie(file);
-    if (contains(c.row, "plain.txt")) pc.cookie("plain.txt");
+    CookiePc pc({file.c_str()});
+    if (c.what == "no @ before the name") pc.cookie("plain.txt");
     pc.cookie("index.dat", indexFile({c.records}));
-    pc.keep.LoadCookies();
-    CHECK(pc.rows() == c.row);
+    CHECK(pc.rows() == c.rows);
   }
 }
 
 TEST_CASE("indexed cookies come in the order of their records, the others after them by name") {
-  CookiePc pc;
-  for (const char* name : {"c.txt", "a.txt", "d.txt", "b.txt", "note.doc"}) pc.cookie(name);
-  pc.cookie("index.dat",
-            indexFile({cookieRecord("me", "four/", "d.txt"), cookieRecord("me", "gone/", "gone.txt"),
-                       cookieRecord("me", "two/", "b.txt")}));
-  pc.keep.LoadCookies();
-  CHECK(pc.keep.g_strPath == Cookies + "\\");
-  CHECK(pc.rows() == "[http://four/ |d.txt ]\n[http://two/ |b.txt ]\n[a.txt|a.txt]\n[c.txt|c.txt]\n");
-}
-
-TEST_CASE("of files whose names differ in case alone the first is claimed first") {
-  CookiePc pc;
-  const std::vector<std::string> names{"b.txt", "A.txt", "a.txt", "a.TXT"};
-  UnclaimedFiles files(pc.engine.pc.codePage, names);
-  const auto left = [&] {
-    std::string text;
-    files.forEach([&](const std::string& name) { text += name + " "; });
-    return text;
-  };
-  CHECK(!files.claim("c.txt"));
-  CHECK(files.claim("a.txt"));
-  CHECK(left() == "b.txt a.txt a.TXT ");
-  CHECK(files.claim("a.TXT"));
-  CHECK(files.claim("A.TXT"));
-  CHECK(!files.claim("a.txt"));
-  CHECK(left() == "b.txt ");
-}
-
-TEST_CASE("an index of any bytes gives one row for each cookie file") {
-  std::string noise;
-  for (std::uint32_t state = 1, i = 0; i < 9000; ++i) {
-    state = state * 1664525 + 1013904223;
-    noise += static_cast<char>(state >> 24U);
+  CookiePc pc({"z.txt"});
+  std::string records = cookieRecord("me", "gone/", "gone.txt") + cookieRecord("me", "last/", "z.txt");
+  std::string indexed = "[http://last/ |z.txt ]\n";
+  std::string others;
+  for (int number = 10; number < 60; ++number) {
+    const std::string file = std::to_string(number) + ".txt";
+    pc.cookie(file);
+    if (number % 2 == 0) {
+      others += "[" + file + "|" + file + "]\n";
+    } else {
+      records += cookieRecord("me", file + "/", file);
+      indexed += "[http://" + file + "/ |" + file + " ]\n";
+    }
   }
-  for (const std::string& bytes : {""s, "x"s, std::string(20481, 'U'), std::string(20480, '\0') + noise,
-                                   indexFile({"URL "s, noise}), indexFile({"LEAK" + noise})}) {
-    CookiePc pc;
-    pc.cookie("a.txt");
-    pc.cookie("b.txt");
-    pc.cookie("index.dat", bytes);
-    pc.keep.LoadCookies();
-    CHECK(pc.rows() == "[a.txt|a.txt]\n[b.txt|b.txt]\n");
-  }
+  pc.cookie("index.dat", indexFile({records}));
+  CHECK(pc.rows() == indexed + others);
 }
 
 TEST_CASE("a keep line ticks the rows that read like it") {
-  struct Case {
-    std::string line;
+  const struct {
+    std::string lines;
     std::string kept;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"http://shop.example/ \r\n", "http://shop.example/ "},
       {"  HTTP://Shop.Example/", "http://shop.example/ "},
-      {"BARE.TXT\r\n", "bare.txt"},
-      {"http://other/ \r\n\r\n\r\nbare.txt", "bare.txt"},
+      {"http://other/ \r\n\r\n\r\nBARE.TXT", "bare.txt"},
       {"http://shop.example", ""},
       {"\0\1\xFF\x1A\r\r\n\n"s, ""},
-      {std::string(100000, 'x'), ""},
       {"", ""},
   };
-  for (const Case& c : cases) {
-    CAPTURE(c.line.substr(0, 60));
-    CookiePc pc;
-    pc.cookie("shop.txt");
-    pc.cookie("bare.txt");
+  for (const auto& c : cases) {
+    CAPTURE(c.lines);
+    CookiePc pc({"shop.txt", "bare.txt"});
     pc.cookie("index.dat", indexFile({cookieRecord("me", "shop.example/", "shop.txt")}));
-    pc.cookie("ZUBKeep.inf", c.line);
+    pc.cookie("ZUBKeep.inf", c.lines);
     pc.keep.LoadCookies();
+    REQUIRE(pc.keep.lstDelete.ListCount() == 2);
     for (int row = 0; row < 2; ++row) {
       CHECK(pc.keep.lstDelete.Selected(row) == (pc.keep.lstDelete.List(row) == c.kept));
     }
@@ -153,70 +126,47 @@ TEST_CASE("a keep line ticks the rows that read like it") {
 }
 
 TEST_CASE("saved ticks come back, unsaved ones are lost by a refresh") {
-  CookiePc pc;
-  for (const char* name : {"a.txt", "b.txt", "c.txt"}) pc.cookie(name);
+  CookiePc pc({"a.txt", "b.txt", "c.txt"});
   pc.cookie("index.dat", indexFile({cookieRecord("me", "see/", "c.txt")}));
   pc.keep.Show();
-  CHECK(pc.keep.form.Visible);
   pc.keep.chkSelectAll.Value(1);
   pc.keep.lstDelete.Selected(1, false);
   pc.keep.cmdOK_Click();
   CHECK(!pc.keep.form.Visible);
-  CHECK(pc.pc.bytes(Cookies + "\\ZUBKeep.inf") == "http://see/ \r\nb.txt\r\n");
+  CHECK(pc.pc.bytes(Cookies + "ZUBKeep.inf") == "http://see/ \r\nb.txt\r\n");
 
   pc.keep.Show();
   pc.keep.chkSelectAll.Value(0);
   CHECK(pc.keep.lstDelete.SelCount() == 0);
-  pc.keep.Unload();
-  CHECK(!pc.keep.form.Visible);
-  pc.keep.cmdRefresh_Click();
   CHECK(pc.rows() == "[http://see/ |c.txt ]*\n[a.txt|a.txt]\n[b.txt|b.txt]*\n");
+
+  pc.pc.lock(Cookies + "ZUBKeep.inf");
+  pc.keep.cmdOK_Click();
+  CHECK(pc.keep.form.Visible);  // what cannot be written leaves the window open
 }
 
 TEST_CASE("a click shows the cookie's lines that a line feed ends") {
-  CookiePc pc;
+  CookiePc pc({});
   pc.cookie("a.txt", "name\nvalue\n\n\nsite/\r\n*\ntail");
-  pc.cookie("b.txt", "");
   pc.keep.LoadCookies();
   pc.keep.lstDelete.ListIndex(0);
   CHECK(pc.keep.txtKeep.Text == "name\r\nvalue\r\nsite/\r\r\n*\r\n");
-  pc.keep.lstDelete.ListIndex(1);
-  CHECK(pc.keep.txtKeep.Text == "");
-  pc.keep.txtKeep.Text = "old";
-  pc.pc.lock(Cookies + "\\a.txt");
+  pc.pc.lock(Cookies + "a.txt");
   pc.keep.lstDelete.ListIndex(0);
   CHECK(pc.keep.txtKeep.Text == "");
 }
 
 TEST_CASE("a failure ends the load with the lists as far as they came") {
-  CookiePc pc;
-  pc.cookie("a.txt");
+  CookiePc pc({"a.txt"});
   pc.cookie("ZUBKeep.inf", "a.txt\r\n");
-  pc.keep.LoadCookies();
   CHECK(pc.rows() == "[a.txt|a.txt]*\n");
-  CHECK(pc.pc.bytes(Cookies + "\\index.dat") == "");  // came into being
+  CHECK(pc.pc.bytes(Cookies + "index.dat") == "");  // came into being
 
-  SUBCASE("a held index gives no rows") {
-    pc.pc.lock(Cookies + "\\index.dat");
-    pc.keep.LoadCookies();
-    CHECK(pc.rows() == "");
-  }
-  SUBCASE("an unreadable keep file ticks nothing") {
-    pc.pc.lock(Cookies + "\\ZUBKeep.inf");
-    pc.keep.LoadCookies();
-    CHECK(pc.rows() == "[a.txt|a.txt]\n");
-  }
-  SUBCASE("an absent folder gives no rows and is not made") {
-    pc.pc.shellFolder("Cookies", "C:\\Nowhere");
-    pc.keep.LoadCookies();
-    CHECK(pc.rows() == "");
-    CHECK(!pc.pc.hasFolder("C:\\Nowhere"));
-  }
-  SUBCASE("a keep file that cannot be written leaves the window open") {
-    pc.keep.Show();
-    pc.pc.lock(Cookies + "\\ZUBKeep.inf");
-    pc.keep.cmdOK_Click();
-    CHECK(pc.keep.form.Visible);
-    CHECK(pc.pc.bytes(Cookies + "\\ZUBKeep.inf") == "a.txt\r\n");
-  }
+  pc.pc.lock(Cookies + "ZUBKeep.inf");
+  CHECK(pc.rows() == "[a.txt|a.txt]\n");
+  pc.pc.lock(Cookies + "index.dat");
+  CHECK(pc.rows() == "");
+  pc.pc.shellFolder("Cookies", "C:\\Nowhere");
+  CHECK(pc.rows() == "");
+  CHECK(!pc.pc.hasFolder("C:\\Nowhere"));
 }
