@@ -1,4 +1,5 @@
-// A small fixed font in place of the system's letters, the same on every system. One size; 13 pixels a line.
+// A small fixed font in place of the system's letters, the same on every system. It has the letters that the
+// controls under test and the sheet need. One size; 13 pixels a line.
 #pragma once
 
 #include "ui/controls/TextPainter.h"
