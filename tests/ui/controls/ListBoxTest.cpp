@@ -112,8 +112,9 @@ TEST_CASE("the thumb runs down from above the lower end, and up from there, what
       {"moved down", move(LeftButton, ArrowX, 50), "", "-1196 569"},
       {"the direction stays until the release", move(LeftButton, ArrowX, 50), "", "-1192 568"},
       {"released", up(LeftButton, ArrowX, 50), "", "-1192 568"},
-      {"down once more", down(LeftButton, ArrowX, 45), "", "-1192 568"},
-      {"short of the end it runs down", move(LeftButton, ArrowX, 0), "", "-1196 569"},
+      {"a step further", click(ArrowX, DownY), "", "-1196 569"},
+      {"down once more", down(LeftButton, ArrowX, 45), "", "-1196 569"},
+      {"a step short of the end it runs down", move(LeftButton, ArrowX, 0), "", "-1200 570"},
   });
 }
 
