@@ -23,6 +23,9 @@ TEST_CASE("the Tab key goes through the main tab, and back with Shift") {
   for (std::size_t at = 1; at <= order.size(); ++at) {
     key(VK_TAB);
     reaches(order[at % order.size()]);
+    if (name() != "About") continue;
+    key(VK_SPACE);  // neither clicks a button: no window comes to take the keyboard
+    key(VK_RETURN);
   }
   for (std::size_t at = order.size(); at-- > 0;) {
     chord({VK_SHIFT, VK_TAB});

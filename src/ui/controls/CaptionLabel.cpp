@@ -2,14 +2,6 @@
 
 namespace zub::controls {
 
-namespace {
-
-char lower(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-}  // namespace
-
 AccessText withoutAmpersands(std::string_view caption) {
   AccessText shown;
   for (std::size_t i = 0; i < caption.size(); ++i) {
@@ -29,11 +21,6 @@ Size CaptionLabel::size(TextPainter& painter) const {
 void CaptionLabel::paint(Surface& surface, TextPainter& painter, Point at) const {
   const AccessText shown = withoutAmpersands(text);
   painter.draw(surface, at, shown.text, shown.underlined, *font, color);
-}
-
-bool CaptionLabel::isAccessKey(char key) const {
-  const AccessText shown = withoutAmpersands(text);
-  return shown.underlined >= 0 && lower(shown.text[static_cast<std::size_t>(shown.underlined)]) == lower(key);
 }
 
 }  // namespace zub::controls

@@ -25,8 +25,6 @@ class CaptionLabel {
 
   Size size(TextPainter& painter) const;
   void paint(Surface& surface, TextPainter& painter, Point at) const;
-  // Whether the key is the caption's access key. Letters of the English alphabet match in both cases.
-  bool isAccessKey(char key) const;
 };
 
 }  // namespace zub::controls

@@ -60,8 +60,8 @@ void Control::keyPress(std::int16_t ascii) {
   if (enabled_) onKeyPress(ascii);
 }
 
-bool Control::accessKey(char key) {
-  return enabled_ && onAccessKey(key);
+void Control::press() {
+  if (enabled_) onPress();
 }
 
 void Control::timerTick() {

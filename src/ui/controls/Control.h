@@ -96,8 +96,8 @@ class Control {
   void keyDown(std::int16_t code, std::int16_t shift);
   void keyUp(std::int16_t code, std::int16_t shift);
   void keyPress(std::int16_t ascii);
-  // A key pressed with alt; whether it was this control's.
-  bool accessKey(char key);
+  // A click without the mouse: the caption's access key, or automation.
+  void press();
   // The control has come in sight.
   virtual void shown() {}
 
@@ -126,7 +126,7 @@ class Control {
   virtual void onKeyDown(std::int16_t, std::int16_t) {}
   virtual void onKeyUp(std::int16_t, std::int16_t) {}
   virtual void onKeyPress(std::int16_t) {}
-  virtual bool onAccessKey(char) { return false; }
+  virtual void onPress() {}
   virtual void onTimer() {}
   virtual void onResize() {}
 

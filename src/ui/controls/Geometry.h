@@ -41,6 +41,8 @@ constexpr Box common(const Box& a, const Box& b) {
 
 // The program draws for 96 pixels an inch.
 inline constexpr int TwipsPerPixel = 15;
+// Tabs and title buttons are told at 120 pixels an inch: there the areas for the mouse cover the pictures.
+inline constexpr int TitleTwipsPerPixel = 12;
 
 // The nearest pixel, halves upward.
 constexpr int pixels(int twips, int twipsPerPixel = TwipsPerPixel) {

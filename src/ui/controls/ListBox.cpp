@@ -118,10 +118,11 @@ int ListBox::partAt(float x, float y) const {
   if (!container.contains(x, y)) return Nothing;
   const float panelX = x - static_cast<float>(container.left);
   const float panelY = y - static_cast<float>(container.top + panel().top);
-  for (int item = 0; item < Items; ++item) {
+  // A box lies over its neighbour's picture.
+  for (int item = 0; item < Items; ++item)
     if (checkPlace(item).contains(panelX, panelY)) return FirstCheck + item;
+  for (int item = 0; item < Items; ++item)
     if (picturePlace(item).contains(panelX, panelY)) return item;
-  }
   return Nothing;
 }
 

@@ -4,8 +4,6 @@ namespace zub::controls {
 
 namespace {
 
-constexpr int TitleTwipsPerPixel = 12;  // as the background is drawn: the close button begins at pixel 20
-
 constexpr Box Buttons[] = {pixels(Box{0, 0, 252, 300}, TitleTwipsPerPixel),
                            pixels(Box{240, 0, 252, 300}, TitleTwipsPerPixel)};
 constexpr std::string_view ToolTips[] = {"Minimise to tray", "Close"};

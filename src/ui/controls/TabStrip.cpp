@@ -6,21 +6,19 @@ namespace zub::controls {
 
 namespace {
 
-constexpr int StripTwipsPerPixel = 12;
-
 constexpr Box XPTabAreas[] = {
     {-12, 0, 732, 300}, {720, 0, 732, 300}, {1440, 12, 840, 300}, {2280, 12, 1032, 300}};
 constexpr Box EditorAreas[] = {{36, 36, 696, 276}, {720, 36, 1020, 276}, {1680, 0, 708, 276}};
 
 constexpr Size sizeOf(int width, int height) {
-  return {width / StripTwipsPerPixel, height / StripTwipsPerPixel};
+  return {width / TitleTwipsPerPixel, height / TitleTwipsPerPixel};
 }
 
 }  // namespace
 
 TabStrip::TabStrip(const Kit& kit, Size size, std::span<const Box> areas, std::string art)
     : Control(kit, size), art_(std::move(art)) {
-  for (const Box& area : areas) areas_.push_back(pixels(area, StripTwipsPerPixel));
+  for (const Box& area : areas) areas_.push_back(pixels(area, TitleTwipsPerPixel));
 }
 
 void TabStrip::ShowTab(std::int16_t Index) {

@@ -1,6 +1,5 @@
 // Headers of pages: one picture of all tabs for each tab that may be the active one, and the areas that a
-// click may hit. The measures are told at 12 twips a pixel, at which the areas cover the tabs of the
-// pictures.
+// click may hit.
 #pragma once
 
 #include <cstdint>

@@ -56,7 +56,7 @@ int XPCheck::partAt(float x, float y) const {
   return boxPlace().contains(x, y) || labelPlace().contains(x, y) ? 0 : Nothing;
 }
 
-void XPCheck::onClick(int) {
+void XPCheck::onPress() {
   Value(value_ == 0 ? 1.0F : 0.0F);
   Draw_Control();
 }

@@ -33,7 +33,8 @@ class XPCheck : public Control {
 
  protected:
   int partAt(float x, float y) const override;
-  void onClick(int part) override;
+  void onClick(int) override { onPress(); }
+  void onPress() override;
 
  private:
   enum Picture { Off, On, OffDisabled, OnDisabled };

@@ -29,7 +29,7 @@ void XPCmdButton::Caption(const std::string& caption) {
   raise(PropertyChanged, "Caption");
 }
 
-void XPCmdButton::font(const FontRef& font) {
+void XPCmdButton::Font(const FontRef& font) {
   label_.font = font;
   changeLook();
   Redraw();
@@ -38,10 +38,10 @@ void XPCmdButton::font(const FontRef& font) {
 
 void XPCmdButton::Redraw() {
   if (state_ == 1)
-    cellAtRest_ = Marked;
+    cellIndex_ = Marked;
   else if (state_ == 0)
-    cellAtRest_ = Normal;
-  DrawCell(Enabled() ? cellAtRest_ : Disabled);
+    cellIndex_ = Normal;
+  DrawCell(Enabled() ? cellIndex_ : Disabled);
 }
 
 void XPCmdButton::paint(Surface& surface) const {
@@ -110,16 +110,6 @@ void XPCmdButton::onMouseUp(int, Mouse& mouse) {
   Redraw();
 }
 
-void XPCmdButton::onClick(int) {
-  raise(Click);
-}
-
-bool XPCmdButton::onAccessKey(char key) {
-  if (!label_.isAccessKey(key)) return false;
-  raise(Click);
-  return true;
-}
-
 void XPCmdButton::onKeyDown(std::int16_t code, std::int16_t shift) {
   raise(KeyDown, code, shift);
 }
@@ -142,13 +132,13 @@ void XPCmdButton::onTimer() {
 void XPCmdButton::InitProperties(const Ambient& ambient) {
   Enabled(true);
   Caption(ambient.Name);
-  font(ambient.font);
+  Font(ambient.font);
 }
 
 void XPCmdButton::ReadProperties(const PropertyBag& bag, const Ambient& ambient) {
   Enabled(bag.ReadProperty("Enabled", true));
   Caption(bag.ReadProperty("Caption", ambient.Name));
-  font(bag.ReadProperty("Font", ambient.font));
+  Font(bag.ReadProperty("Font", ambient.font));
 }
 
 void XPCmdButton::WriteProperties(PropertyBag& bag, const Ambient& ambient) const {

@@ -26,13 +26,13 @@ class XPCmdButton : public Control {
   void State(std::int32_t state);
   std::string Caption() const override { return label_.text; }
   void Caption(const std::string& caption);
-  const FontRef& font() const { return label_.font; }
-  void font(const FontRef& font);
+  const FontRef& Font() const { return label_.font; }
+  void Font(const FontRef& font);
 
   void paint(Surface& surface) const override;
   void shown() override { Redraw(); }
 
-  // A stored State is read and lost: only code sets it.
+  // A stored State is lost: only code sets it.
   void InitProperties(const Ambient& ambient) override;
   void ReadProperties(const PropertyBag& bag, const Ambient& ambient) override;
   void WriteProperties(PropertyBag& bag, const Ambient& ambient) const override;
@@ -41,11 +41,11 @@ class XPCmdButton : public Control {
   void onMouseDown(int part, Mouse& mouse) override;
   void onMouseMove(int part, Mouse& mouse) override;
   void onMouseUp(int part, Mouse& mouse) override;
-  void onClick(int part) override;
+  void onClick(int) override { raise(Click); }
   void onKeyDown(std::int16_t code, std::int16_t shift) override;
   void onKeyUp(std::int16_t code, std::int16_t shift) override;
   void onKeyPress(std::int16_t ascii) override;
-  bool onAccessKey(char key) override;
+  void onPress() override { raise(Click); }
   void onTimer() override;
   void onResize() override { Redraw(); }
 
@@ -65,8 +65,8 @@ class XPCmdButton : public Control {
 
   CaptionLabel label_;
   std::int32_t state_ = 0;
-  Cell cellAtRest_ = Normal;
-  Cell cell_ = Normal;
+  Cell cellIndex_ = Normal;  // at rest
+  Cell cell_ = Normal;       // on show
   bool labelIsPressed_ = false;
 };
 

@@ -25,7 +25,7 @@ void XPGroupBox::Caption(const std::string& caption) {
   raise(PropertyChanged, "Caption");
 }
 
-void XPGroupBox::font(const FontRef& font) {
+void XPGroupBox::Font(const FontRef& font) {
   title_.font = font;
   changeLook();
   raise(PropertyChanged, "Font");
@@ -73,12 +73,12 @@ void XPGroupBox::forward(const MouseEvent& event, int part, Mouse mouse) const {
 void XPGroupBox::InitProperties(const Ambient& ambient) {
   Caption(ambient.Name);
   Enabled(true);
-  font(ambient.font);
+  Font(ambient.font);
 }
 
 void XPGroupBox::ReadProperties(const PropertyBag& bag, const Ambient& ambient) {
   Enabled(bag.ReadProperty("Enabled", true));
-  font(bag.ReadProperty("Font", ambient.font));
+  Font(bag.ReadProperty("Font", ambient.font));
   BackColor(bag.ReadProperty("BackColor", colors::Page));
   Caption(bag.ReadProperty("Caption", ambient.Name));
 }

@@ -19,8 +19,8 @@ class XPGroupBox : public Control {
   void Enabled(bool enabled) override;
   std::string Caption() const override { return title_.text; }
   void Caption(const std::string& caption);
-  const FontRef& font() const { return title_.font; }
-  void font(const FontRef& font);
+  const FontRef& Font() const { return title_.font; }
+  void Font(const FontRef& font);
 
   void paint(Surface& surface) const override;
 

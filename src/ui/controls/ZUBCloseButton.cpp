@@ -4,7 +4,7 @@ namespace zub::controls {
 
 namespace {
 
-constexpr Box PicClose = pixels(Box{15, 15, 360, 240});
+constexpr Box PicClose = pixels(Box{15, 15, 360, 240}, TitleTwipsPerPixel);
 constexpr std::string_view ImgActions[] = {"close-rest", "close-pressed", "close-hot"};
 
 }  // namespace

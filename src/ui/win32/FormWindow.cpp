@@ -1,6 +1,7 @@
 #include "ui/win32/FormWindow.h"
 
 #include "ui/win32/CommonControls.h"
+#include "ui/win32/KitHost.h"
 #include "ui/win32/NativeView.h"
 
 namespace zub {
@@ -69,8 +70,6 @@ bool FormWindow::takesKey(const MSG& key) {
   switch (key.wParam) {
     case VK_ESCAPE:
       return takesEscape(key.hwnd);
-    case VK_RETURN:
-      return takesEnter();
     case VK_TAB:
       return GetKeyState(VK_CONTROL) < 0 && turnPage(GetKeyState(VK_SHIFT) < 0 ? -1 : 1);
     default:
@@ -84,15 +83,6 @@ bool FormWindow::takesEscape(HWND control) {
   if (!binding_.escape || hangsOpen(control) || hangsOpen(GetParent(control))) return false;
   ui_.guard.run([this] { raise(binding_.escape); });
   return true;
-}
-
-bool FormWindow::takesEnter() {
-  const HWND focus = GetFocus();
-  bool taken = false;
-  for (const auto& view : views_) {
-    if (view->hwnd() == focus) ui_.guard.run([&] { taken = view->enter(); });
-  }
-  return taken;
 }
 
 bool FormWindow::turnPage(int direction) {
@@ -125,7 +115,7 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (visible_) stateChanged(wParam);
       break;
     case WM_MOUSEMOVE:
-      if ((wParam & (MK_LBUTTON | MK_RBUTTON | MK_MBUTTON)) == MK_LBUTTON) drag();
+      if (controls::dragsWindow(buttonsDown(wParam))) drag();
       return 0;
     case WM_SETCURSOR: {
       const Form* form = binding_.form();

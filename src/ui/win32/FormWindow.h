@@ -26,7 +26,7 @@ class FormWindow : public OwnWindow {
   // user's attention.
   void showForm();
   void hideForm();
-  // A key that works on the window as a whole: Esc, Enter on a button, the keys of the tab headers. False:
+  // A key that works on the window as a whole: Esc, the keys of the tab headers. False:
   // it goes its usual way.
   bool takesKey(const MSG& key);
 
@@ -47,7 +47,6 @@ class FormWindow : public OwnWindow {
   void showControls();
   void takeFocus();
   bool takesEscape(HWND control);
-  bool takesEnter();
   bool turnPage(int direction);
 
   void stateChanged(WPARAM how);

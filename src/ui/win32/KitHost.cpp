@@ -12,7 +12,23 @@ std::int16_t shiftState() {
                                    (down(VK_MENU) ? 4 : 0));
 }
 
+struct ButtonMessages {
+  UINT down, doubleClick, up;
+  std::int16_t button;
+};
+constexpr ButtonMessages MouseButtons[] = {
+    {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_LBUTTONUP, controls::LeftButton},
+    {WM_RBUTTONDOWN, WM_RBUTTONDBLCLK, WM_RBUTTONUP, controls::RightButton},
+    {WM_MBUTTONDOWN, WM_MBUTTONDBLCLK, WM_MBUTTONUP, controls::MiddleButton},
+};
+
 }  // namespace
+
+std::int16_t buttonsDown(WPARAM keys) {
+  return static_cast<std::int16_t>(((keys & MK_LBUTTON) != 0 ? controls::LeftButton : 0) |
+                                   ((keys & MK_RBUTTON) != 0 ? controls::RightButton : 0) |
+                                   ((keys & MK_MBUTTON) != 0 ? controls::MiddleButton : 0));
+}
 
 KitHost::KitHost(const ViewSite& site, Parts parts)
     : OwnWindow(site.ui, site.ground), parts_(std::move(parts)) {
@@ -43,21 +59,11 @@ void KitHost::show() {
     parts_.control->Enabled(enabled_);
     EnableWindow(hwnd(), enabled_ ? TRUE : FALSE);
   }
-  if (parts_.visible && changes(visible_, parts_.visible()))
+  if (parts_.visible && changes(visible_, parts_.visible())) {
+    if (visible_) parts_.control->shown();
     ShowWindow(hwnd(), visible_ ? SW_SHOWNA : SW_HIDE);
+  }
   refresh();
-}
-
-void KitHost::press() {
-  if (!parts_.press || !parts_.control->Enabled()) return;
-  parts_.press();
-  refresh();
-}
-
-bool KitHost::enter() {
-  if ((parts_.dialogCode & DLGC_UNDEFPUSHBUTTON) == 0) return false;
-  press();
-  return true;
 }
 
 void KitHost::refresh() {
@@ -72,7 +78,7 @@ void KitHost::paintCanvas() {
   ui_.text.paintOn(canvas_->dc());
   controls::Surface surface = canvas_->surface();
   parts_.control->paint(surface);
-  if (!focused_ || !parts_.press) return;
+  if (!focused_ || !parts_.takesSpace) return;
   constexpr int Inset = 3;
   RECT inside{Inset, Inset, canvas_->width() - Inset, canvas_->height() - Inset};
   SetTextColor(canvas_->dc(), colors::Black);
@@ -99,72 +105,59 @@ void KitHost::serveTimer() {
     KillTimer(hwnd(), TimerId);
 }
 
-controls::Mouse KitHost::mouseAt(std::int16_t button, WPARAM keys, LPARAM place) const {
-  if (button == 0) {
-    button = static_cast<std::int16_t>(((keys & MK_LBUTTON) != 0 ? controls::LeftButton : 0) |
-                                       ((keys & MK_RBUTTON) != 0 ? controls::RightButton : 0) |
-                                       ((keys & MK_MBUTTON) != 0 ? controls::MiddleButton : 0));
-  }
+controls::Mouse KitHost::mouseAt(std::int16_t buttons, LPARAM place) const {
   const float scale =
       parts_.stretched ? static_cast<float>(DesignDpi) / static_cast<float>(ui_.fonts.dpi()) : 1.0F;
-  return {button, shiftState(), static_cast<float>(static_cast<short>(LOWORD(place))) * scale,
+  return {buttons, shiftState(), static_cast<float>(static_cast<short>(LOWORD(place))) * scale,
           static_cast<float>(static_cast<short>(HIWORD(place))) * scale};
 }
 
 bool KitHost::onMouse(UINT message, WPARAM wParam, LPARAM lParam) {
   controls::Control& control = *parts_.control;
-  const auto at = [&](std::int16_t button) { return mouseAt(button, wParam, lParam); };
-  constexpr WPARAM AnyButton = MK_LBUTTON | MK_RBUTTON | MK_MBUTTON;
-  switch (message) {
-    case WM_MOUSEMOVE:
-      control.mouseMove(at(0));
-      break;
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONDBLCLK:
-      if (parts_.takesFocus) SetFocus(hwnd());
-      [[fallthrough]];
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONDBLCLK: {
-      SetCapture(hwnd());
-      const bool left = message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK;
-      const controls::Mouse mouse = at(left ? controls::LeftButton : controls::RightButton);
-      if (message == WM_LBUTTONDBLCLK || message == WM_RBUTTONDBLCLK)
-        control.mouseDoubleClick(mouse);
-      else
-        control.mouseDown(mouse);
-      break;
-    }
-    case WM_LBUTTONUP:
-    case WM_RBUTTONUP:
-      if ((wParam & AnyButton) == 0 && GetCapture() == hwnd()) ReleaseCapture();
-      control.mouseUp(at(message == WM_LBUTTONUP ? controls::LeftButton : controls::RightButton));
-      break;
-    default:
-      return false;
-  }
-  refresh();
-  return true;
-}
-
-bool KitHost::onKey(UINT message, WPARAM wParam) {
-  if (parts_.press) {
-    if (wParam != VK_SPACE) return false;
-    if (message == WM_KEYUP) press();
+  if (message == WM_MOUSEMOVE) {
+    control.mouseMove(mouseAt(buttonsDown(wParam), lParam));
     return true;
   }
-  if (!parts_.takesFocus) return false;
+  for (const auto& [down, doubleClick, up, button] : MouseButtons) {
+    if (message != down && message != doubleClick && message != up) continue;
+    const controls::Mouse mouse = mouseAt(button, lParam);
+    if (message == up) {
+      if (buttonsDown(wParam) == 0 && GetCapture() == hwnd()) ReleaseCapture();
+      control.mouseUp(mouse);
+    } else {
+      if (parts_.takesFocus && button == controls::LeftButton) SetFocus(hwnd());
+      SetCapture(hwnd());
+      if (message == down)
+        control.mouseDown(mouse);
+      else
+        control.mouseDoubleClick(mouse);
+    }
+    return true;
+  }
+  return false;
+}
+
+void KitHost::onKey(UINT message, WPARAM wParam) {
+  controls::Control& control = *parts_.control;
   const auto code = static_cast<std::int16_t>(wParam);
-  if (message == WM_KEYDOWN)
-    parts_.control->keyDown(code, shiftState());
-  else
-    parts_.control->keyUp(code, shiftState());
+  if (parts_.takesSpace && wParam == VK_SPACE) {
+    if (message == WM_KEYUP) control.press();
+  } else if (message == WM_KEYDOWN) {
+    control.keyDown(code, shiftState());
+  } else if (message == WM_KEYUP) {
+    control.keyUp(code, shiftState());
+  } else {
+    control.keyPress(code);
+  }
   refresh();
-  return true;
 }
 
 LRESULT KitHost::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (!canvas_) return OwnWindow::onMessage(message, wParam, lParam);  // it is being made
-  if (onMouse(message, wParam, lParam)) return 0;
+  if (onMouse(message, wParam, lParam)) {
+    refresh();
+    return 0;
+  }
   switch (message) {
     case WM_ERASEBKGND:
       return 1;
@@ -177,8 +170,9 @@ LRESULT KitHost::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_KEYDOWN:
     case WM_KEYUP:
-      if (onKey(message, wParam)) return 0;
-      break;
+    case WM_CHAR:
+      onKey(message, wParam);
+      return 0;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
       focused_ = message == WM_SETFOCUS;
@@ -188,7 +182,8 @@ LRESULT KitHost::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_GETDLGCODE:
       return parts_.dialogCode;
     case BM_CLICK:
-      press();
+      parts_.control->press();
+      refresh();
       return 0;
     default:
       break;

@@ -11,6 +11,9 @@
 
 namespace zub {
 
+// The mouse buttons that are down, told by the keys of a mouse message.
+std::int16_t buttonsDown(WPARAM keys);
+
 class KitHost : public OwnWindow, public View {
  public:
   struct Parts {
@@ -18,30 +21,29 @@ class KitHost : public OwnWindow, public View {
     std::function<void()> show;  // brings the control up to the state; what is none stays as it is
     std::function<bool()> visible;
     std::function<bool()> enabled;
-    Handler press;  // what space does; none: the control takes no such key
     LRESULT dialogCode = DLGC_STATIC;
     bool takesFocus = false;
-    bool stretched = false;  // painted for 96 pixels an inch, whatever the screen has
+    bool takesSpace = false;  // the bar is a click, and a rectangle shows where the keyboard is
+    bool stretched = false;   // painted for 96 pixels an inch, whatever the screen has
   };
   KitHost(const ViewSite& site, Parts parts);
 
   HWND hwnd() const override { return OwnWindow::hwnd(); }
   void show() override;
-  bool enter() override;
+  void forget() override { parts_.control->shown(); }
 
  protected:
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
   void makeCanvas();
-  void press();
   void refresh();  // paints the control anew where its look has changed
   void paintCanvas();
   void paint();
   void serveTimer();
   bool onMouse(UINT message, WPARAM wParam, LPARAM lParam);
-  bool onKey(UINT message, WPARAM wParam);
-  controls::Mouse mouseAt(std::int16_t button, WPARAM keys, LPARAM place) const;
+  void onKey(UINT message, WPARAM wParam);
+  controls::Mouse mouseAt(std::int16_t buttons, LPARAM place) const;
 
   Parts parts_;
   std::optional<PixelCanvas> canvas_;

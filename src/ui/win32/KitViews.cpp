@@ -27,8 +27,7 @@ KitHost::Parts button(const ViewSite& site) {
     parts.visible = [state] { return state->Visible; };
     parts.enabled = [state] { return state->Enabled; };
   }
-  parts.press = [&button] { raise(button.Click); };
-  parts.dialogCode = DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
+  parts.dialogCode = DLGC_BUTTON;
   parts.takesFocus = true;
   return parts;
 }
@@ -50,9 +49,9 @@ KitHost::Parts check(const ViewSite& site) {
     box.Click = writesOption;
   };
   parts.enabled = [&option] { return option.Enabled; };
-  parts.press = [&box] { box.Value(box.Value() == 0 ? 1.0F : 0.0F); };
   parts.dialogCode = DLGC_BUTTON;
   parts.takesFocus = true;
+  parts.takesSpace = true;
   return parts;
 }
 
@@ -157,33 +156,21 @@ KitHost::Parts partsOf(const ViewSite& site) {
 }  // namespace
 
 std::string_view artOf(Picture picture) {
-  switch (picture) {
-    case Picture::None:
-      break;
-    case Picture::OpenMark:
-      return "mark-open";
-    case Picture::DoneMark:
-      return "mark-done";
-    case Picture::Frame0:
-      return "animation-0";
-    case Picture::Frame1:
-      return "animation-1";
-    case Picture::Frame2:
-      return "animation-2";
-    case Picture::Frame3:
-      return "animation-3";
-    case Picture::Frame4:
-      return "animation-4";
-    case Picture::Frame5:
-      return "animation-5";
-    case Picture::KindRegistry:
-      return "kind-registry";
-    case Picture::KindFolder:
-      return "kind-folder";
-    case Picture::KindFiles:
-      return "kind-files";
-  }
-  return {};
+  constexpr std::string_view Names[] = {
+      "",
+      "mark-open",
+      "mark-done",
+      "animation-0",
+      "animation-1",
+      "animation-2",
+      "animation-3",
+      "animation-4",
+      "animation-5",
+      "kind-registry",
+      "kind-folder",
+      "kind-files",
+  };
+  return Names[static_cast<std::size_t>(picture)];
 }
 
 std::unique_ptr<View> makeKitView(const ViewSite& site) {

@@ -21,8 +21,6 @@ class View {
   virtual void show() {}
   // The next show takes nothing as shown: the form may have been loaded anew.
   virtual void forget() {}
-  // The Enter key. False where the control has no use for it.
-  virtual bool enter() { return false; }
 };
 
 // Takes over a value; whether it is new.

@@ -1,5 +1,6 @@
 #include <doctest/doctest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "ui/controls/Art.h"
@@ -9,51 +10,55 @@ using namespace zub;
 using namespace zub::controls;
 
 TEST_CASE("every picture is there in its size") {
-  const Art art;
-  const auto check = [&](const std::string& name, int width, int height) {
-    CAPTURE(name);
-    CHECK(art[name].width() == width);
-    CHECK(art[name].height() == height);
-  };
   const struct {
-    int width, height;
-    std::initializer_list<const char*> names;
-  } sizes[] = {
-      {90, 21, {"button-strip"}},
-      {22, 20, {"group-frame"}},
-      {13, 13, {"check-off", "check-on", "check-off-disabled", "check-on-disabled"}},
-      {13, 13, {"simple-check-ticked", "simple-check-empty"}},
-      {407, 75, {"list-frame"}},
-      {15, 16, {"scroll-arrow-down", "scroll-arrow-up"}},
-      {15, 20, {"scroll-thumb"}},
-      {68, 26, {"clock-background"}},
-      {12, 20, {"digit-0", "digit-1", "digit-2", "digit-3", "digit-4", "digit-5"}},
-      {12, 20, {"digit-6", "digit-7", "digit-8", "digit-9", "digit-blank"}},
-      {3, 11, {"clock-colon"}},
-      {25, 20, {"close-rest", "close-pressed", "close-hot"}},
-      {276, 20, {"tab-top-0", "tab-top-1", "tab-top-2", "tab-top-3"}},
-      {202, 20, {"tab-editor-0", "tab-editor-1", "tab-editor-2"}},
-      {38, 20, {"minmax-background"}},
-      {18,
-       20,
-       {"minmax-minimise-hot", "minmax-close-hot", "minmax-minimise-pressed", "minmax-close-pressed"}},
-      {32, 32, {"kind-registry", "kind-folder", "kind-files"}},
-      {16, 16, {"mark-open", "mark-done"}},
-      {398, 154, {"message-background"}},
-      {32, 32, {"icon-information", "icon-question", "icon-critical", "icon-exclamation"}},
+    Size size;
+    int count;
+    std::initializer_list<std::string_view> beginnings;
+  } families[] = {
+      {{90, 21}, 1, {"button-strip"}},
+      {{22, 20}, 1, {"group-frame"}},
+      {{13, 13}, 6, {"check-", "simple-check-"}},
+      {{407, 75}, 1, {"list-frame"}},
+      {{15, 16}, 2, {"scroll-arrow-"}},
+      {{15, 20}, 1, {"scroll-thumb"}},
+      {{68, 26}, 1, {"clock-background"}},
+      {{12, 20}, 11, {"digit-"}},
+      {{3, 11}, 1, {"clock-colon"}},
+      {{25, 20}, 3, {"close-"}},
+      {{276, 20}, 4, {"tab-top-"}},
+      {{202, 20}, 3, {"tab-editor-"}},
+      {{38, 20}, 1, {"minmax-background"}},
+      {{18, 20}, 4, {"minmax-minimise-", "minmax-close-"}},
+      {{64, 64}, 6, {"animation-"}},
+      {{32, 32}, 7, {"kind-", "icon-"}},
+      {{16, 16}, 2, {"mark-"}},
+      {{300, 48}, 1, {"warning"}},
+      {{398, 154}, 1, {"message-background"}},
   };
-  for (const auto& [width, height, names] : sizes)
-    for (const char* name : names) check(name, width, height);
-
+  const Art art;
+  for (const auto& [size, count, beginnings] : families) {
+    CAPTURE(*beginnings.begin());
+    int found = 0;
+    for (const EmbeddedFile& file : artFiles()) {
+      const auto opens = [&file](std::string_view text) { return file.name.starts_with(text); };
+      if (std::none_of(beginnings.begin(), beginnings.end(), opens)) continue;
+      const Bitmap& picture = art[file.name.substr(0, file.name.rfind('.'))];
+      CHECK(Size{picture.width(), picture.height()} == size);
+      ++found;
+    }
+    CHECK(found == count);
+  }
+  // Plain and highlighted.
   const int items[][4] = {{37, 61, 39, 61}, {46, 72, 48, 73}, {47, 44, 49, 45}, {38, 55, 40, 56},
                           {43, 61, 45, 62}, {45, 46, 47, 47}, {33, 48, 35, 49}, {33, 56, 35, 57},
                           {51, 56, 53, 57}, {34, 53, 36, 54}};
-  for (int i = 0; i < 10; ++i) {
-    check("item-" + std::to_string(i), items[i][0], items[i][1]);
-    check("item-" + std::to_string(i) + "-active", items[i][2], items[i][3]);
+  for (std::size_t i = 0; i < std::size(items); ++i) {
+    CAPTURE(i);
+    const std::string name = "item-" + std::to_string(i);
+    const Bitmap &plain = art[name], &lit = art[name + "-active"];
+    const int sizes[] = {plain.width(), plain.height(), lit.width(), lit.height()};
+    CHECK(std::equal(std::begin(sizes), std::end(sizes), items[i]));
   }
-  for (int i = 0; i < 6; ++i) CHECK(art["animation-" + std::to_string(i)].width() > 0);
-  CHECK(art["warning"].width() > 0);
   CHECK(art["no such picture"].width() == 0);
 }
 
@@ -61,19 +66,15 @@ TEST_CASE("an ampersand marks the access key") {
   const struct {
     const char *caption, *text;
     int underlined;
-    char key;
   } cases[] = {
-      {"&Yes", "Yes", 0, 'y'},    {"Save &As", "Save As", 5, 'A'}, {"Help", "Help", -1, 0},
-      {"A && B", "A & B", -1, 0}, {"A && &B", "A & B", 4, 'B'},    {"&One &Two", "One Two", 0, 'o'},
-      {"End&", "End", -1, 0},     {"&&&X", "&X", 1, 'x'},          {"", "", -1, 0},
+      {"&Yes", "Yes", 0},      {"Save &As", "Save As", 5}, {"Help", "Help", -1},
+      {"A && B", "A & B", -1}, {"A && &B", "A & B", 4},    {"&One &Two", "One Two", 0},
+      {"End&", "End", -1},     {"&&&X", "&X", 1},          {"", "", -1},
   };
-  for (const auto& [caption, text, underlined, key] : cases) {
+  for (const auto& [caption, text, underlined] : cases) {
     CAPTURE(caption);
     const AccessText shown = withoutAmpersands(caption);
     CHECK(shown.text == text);
     CHECK(shown.underlined == underlined);
-    CaptionLabel label;
-    label.text = caption;
-    for (const char c : {'y', 'A', 'B', 'o', 'x', '&'}) CHECK(label.isAccessKey(c) == (c == key));
   }
 }

@@ -1,23 +1,12 @@
-#include <doctest/doctest.h>
+#include <cmath>
 
-#include "kit/Canvas.h"
-#include "kit/Desk.h"
-#include "kit/PaintedArt.h"
+#include "kit/Play.h"
 #include "ui/controls/SimpleCheck.h"
 #include "ui/controls/XPCheck.h"
 #include "ui/controls/XPGroupBox.h"
 
 using namespace zub;
 using namespace zub::controls;
-
-namespace {
-
-void click(Control& control, float x, float y) {
-  control.mouseDown({LeftButton, 0, x, y});
-  control.mouseUp({LeftButton, 0, x, y});
-}
-
-}  // namespace
 
 TEST_CASE("the group's frame is put together from its picture, the last row of the right corner left out") {
   // Each piece of the picture in its own digit, by rows for the lower corners.
@@ -40,64 +29,55 @@ TEST_CASE("the group's frame is put together from its picture, the last row of t
 }
 
 TEST_CASE("the group tells the clicks on itself and on its title, each from its own corner") {
-  Desk desk;
-  XPGroupBox group(desk.kit);
+  Stage stage;
+  XPGroupBox group(stage.desk.kit);
   group.Caption("IE");
   group.resize(100, 50);
-  std::string log;
-  group.Click = [&] { log += "Click;"; };
-  group.DblClick = [&] { log += "DblClick;"; };
+  group.Click = stage.logs("Click;");
+  group.DblClick = stage.logs("DblClick;");
   group.MouseDown = [&](std::int16_t&, std::int16_t&, float& x, float& y) {
-    log += std::to_string(static_cast<int>(x)) + "," + std::to_string(static_cast<int>(y)) + ";";
+    stage.log += std::to_string(static_cast<int>(x)) + "," + std::to_string(static_cast<int>(y)) + ";";
   };
-  click(group, 50, 20);
-  click(group, 17, 5);
-  group.mouseDoubleClick({LeftButton, 0, 50, 20});
-  group.Enabled(false);
-  click(group, 50, 20);
-  CHECK(log == "50,20;Click;2,5;Click;DblClick;");
+  const auto doubleClick = [&] { group.mouseDoubleClick({LeftButton, 0, 50, 20}); };
+  stage.play(group, {},
+             {
+                 {"within", click(50, 20), "50,20;Click;", ""},
+                 {"on the title", click(17, 5), "2,5;Click;", ""},
+                 {"twice", call(doubleClick), "DblClick;", ""},
+                 {"released after that", up(LeftButton, 50, 20), "", ""},
+                 {"disabled", call([&] { group.Enabled(false); }), "", ""},
+                 {"within while disabled", click(50, 20), "", ""},
+             });
 }
 
 TEST_CASE("a check box shows its value, and raises Click with every write") {
   PaintedArt painted;
-  Desk desk(
-      painted.addPlain({"check-off", "check-on", "check-off-disabled", "check-on-disabled"}, 13, 13).art());
-  XPCheck check(desk.kit);
+  Stage stage(painted.addPlain({"check-off", "check-on", "check-off-disabled", "check-on-disabled"}, 13, 13));
+  XPCheck check(stage.desk.kit);
   check.Caption("Cookies");
   check.resize(80, 17);
-  int clicks = 0;
-  check.Click = [&] { ++clicks; };
-  const auto picture = [&] { return Canvas::of(check).at(6, 2); };
-
-  const struct {
-    const char* what;
-    std::function<void()> act;
-    float value;
-    std::uint32_t picture;
-    int clicks;
-  } steps[] = {
-      {"at first", [] {}, 0, 0, 0},
-      {"written", [&] { check.Value(1); }, 1, 1, 1},
-      {"written again", [&] { check.Value(1); }, 1, 1, 2},
-      {"disabled", [&] { check.Enabled(false); }, 1, 3, 2},
-      {"clicked while disabled", [&] { click(check, 10, 8); }, 1, 3, 2},
-      {"written while disabled", [&] { check.Value(0); }, 0, 2, 3},
-      {"enabled", [&] { check.Enabled(true); }, 0, 0, 3},
-      {"box clicked", [&] { click(check, 10, 8); }, 1, 1, 4},
-      {"caption clicked", [&] { click(check, 30, 8); }, 0, 0, 5},
-      {"clicked between them", [&] { click(check, 23, 8); }, 0, 0, 5},
-      {"clicked behind them", [&] { click(check, 79, 8); }, 0, 0, 5},
-      {"set on", [&] { check.Value(1); }, 1, 1, 6},
-      {"neither on nor off keeps the picture", [&] { check.Value(0.5F); }, 0.5F, 1, 7},
-      {"and a click switches off", [&] { click(check, 10, 8); }, 0, 0, 8},
+  check.Click = [&] {
+    stage.log += check.Value() == 0.5F ? "half" : std::to_string(std::lrint(check.Value()));
   };
-  for (const auto& step : steps) {
-    CAPTURE(step.what);
-    step.act();
-    CHECK(check.Value() == step.value);
-    CHECK(picture() == step.picture);
-    CHECK(clicks == step.clicks);
-  }
+  const auto write = [&](float value) { return call([&check, value] { check.Value(value); }); };
+  const auto enable = [&](bool enabled) { return call([&check, enabled] { check.Enabled(enabled); }); };
+  stage.play(check, {{6, 2}},
+             {
+                 {"written", write(1), "1", "1"},
+                 {"written again", write(1), "1", "1"},
+                 {"disabled", enable(false), "", "3"},
+                 {"clicked while disabled", click(10, 8), "", "3"},
+                 {"pressed while disabled", call([&] { check.press(); }), "", "3"},
+                 {"written while disabled", write(0), "0", "2"},
+                 {"enabled", enable(true), "", "0"},
+                 {"box clicked", click(10, 8), "1", "1"},
+                 {"caption clicked", click(30, 8), "0", "0"},
+                 {"clicked between them", click(23, 8), "", "0"},
+                 {"clicked behind them", click(79, 8), "", "0"},
+                 {"pressed", call([&] { check.press(); }), "1", "1"},
+                 {"neither on nor off keeps the picture", write(0.5F), "half", "1"},
+                 {"and a click switches off", click(10, 8), "0", "0"},
+             });
 }
 
 TEST_CASE("stored properties of checks and groups come back, and loading raises no Click") {
@@ -127,31 +107,28 @@ TEST_CASE("stored properties of checks and groups come back, and loading raises 
   CHECK(group.BackColor() == colors::Window);
 
   SimpleCheck simple(desk.kit);
+  simple.Value(SimpleCheck::Ticked);
   simple.ReadProperties(PropertyBag(), ambient);
   CHECK(simple.Value() == SimpleCheck::Empty);
 }
 
 TEST_CASE("the simple check turns to the complement of its value, and tells clicks only") {
-  const struct {
-    float value, clicked;
-    bool tickAfter;
-  } cases[] = {{0, -1, false}, {-1, 0, true}, {1, -2, false}, {-2, 1, false}, {0.4F, -1, false}};
   PaintedArt painted;
-  Desk desk(painted.addPlain({"simple-check-ticked", "simple-check-empty"}, 13, 13).art());
-  for (const auto& [value, clicked, tickAfter] : cases) {
-    CAPTURE(value);
-    SimpleCheck check(desk.kit);
-    CHECK(check.Value() == -1);
-    int clicks = 0;
-    check.Click = [&] { ++clicks; };
-    check.resize(14, 16);
-    check.Value(value);
-    CHECK(clicks == 0);
-    click(check, 5, 1);  // above the box
-    CHECK(clicks == 0);
-    click(check, 5, 2);
-    CHECK(clicks == 1);
-    CHECK(check.Value() == clicked);
-    CHECK(Canvas::of(check).at(0, 2) == (tickAfter ? 0U : 1U));
-  }
+  Stage stage(painted.addPlain({"simple-check-ticked", "simple-check-empty"}, 13, 13));
+  SimpleCheck check(stage.desk.kit);
+  check.resize(14, 16);
+  check.Click = [&] { stage.log += std::to_string(std::lrint(check.Value())); };
+  CHECK(check.Value() == -1);
+  const auto write = [&](float value) { return call([&check, value] { check.Value(value); }); };
+  stage.play(check, {{0, 2}},
+             {
+                 {"empty at first, clicked", click(5, 2), "0", "0"},
+                 {"clicked above the box", click(5, 1), "", "0"},
+                 {"clicked again", click(5, 2), "-1", "1"},
+                 {"1 is empty too", write(1), "", "1"},
+                 {"clicked", click(5, 2), "-2", "1"},
+                 {"clicked again", click(5, 2), "1", "1"},
+                 {"not whole", write(0.4F), "", "1"},
+                 {"counts as the nearest", click(5, 2), "-1", "1"},
+             });
 }

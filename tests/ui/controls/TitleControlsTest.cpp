@@ -1,8 +1,4 @@
-#include <doctest/doctest.h>
-
-#include "kit/Canvas.h"
-#include "kit/Desk.h"
-#include "kit/PaintedArt.h"
+#include "kit/Play.h"
 #include "ui/controls/Clock.h"
 #include "ui/controls/MinMax.h"
 #include "ui/controls/TabStrip.h"
@@ -20,7 +16,6 @@ TEST_CASE("the clock reads a time leniently") {
       {"12:30", {1, 2, 3, 0}},    {"1:30", {None, 1, 3, 0}}, {"9:05", {None, 9, 0, 5}},
       {"12:30 PM", {1, 2, 3, 0}}, {"123456", {1, 2, 4, 5}},  {"1:", {None, 1, 0, 0}},
       {"", {0, 0, 0, 0}},         {"ab:c7", {0, 0, 0, 7}},   {"1:2:3", {None, 1, 2, 0}},
-      {":1234", {0, 1, 3, 4}},
   };
   Desk desk;
   Clock clock(desk.kit);
@@ -31,214 +26,97 @@ TEST_CASE("the clock reads a time leniently") {
     CHECK(clock.digits() == digits);
   }
   CHECK_FALSE(clock.colonIsVisible());
-  clock.Blink();
-  CHECK(clock.colonIsVisible());
-  clock.Blink();
-  CHECK_FALSE(clock.colonIsVisible());
+  for (const bool visible : {true, false}) {
+    clock.Blink();
+    CHECK(clock.colonIsVisible() == visible);
+  }
 }
 
 TEST_CASE("the close button follows the mouse") {
-  constexpr std::uint32_t Rest = 0, Pressed = 1, Hot = 2;
   PaintedArt painted;
-  Desk desk(painted.addPlain({"close-rest", "close-pressed", "close-hot"}, 25, 20).art());
-  ZUBCloseButton button(desk.kit);
-  int clicks = 0;
-  button.Click = [&] { ++clicks; };
-  const auto tick = [&](int x, int y) {
-    desk.pointer.at = {x, y};
-    button.timerTick();
-  };
+  Stage stage(painted.addPlain({"close-rest", "close-pressed", "close-hot"}, 25, 20));
+  ZUBCloseButton button(stage.desk.kit);
+  button.Click = stage.logs("Click");
   CHECK(button.timer().Interval == 10);
-  const struct {
-    const char* what;
-    std::function<void()> act;
-    std::uint32_t picture;
-    bool tracking;
-    int clicks;
-  } steps[] = {
-      {"at first", [] {}, Rest, true, 0},
-      {"the pointer is elsewhere", [&] { tick(30, 5); }, Rest, false, 0},
-      {"on the margin",
-       [&] {
-         button.mouseMove({0, 0, 0, 0});
-       },
-       Rest, false, 0},
-      {"over it",
-       [&] {
-         button.mouseMove({0, 0, 5, 5});
-       },
-       Hot, true, 0},
-      {"the far edges are inside", [&] { tick(29, 23); }, Hot, true, 0},
-      {"down",
-       [&] {
-         button.mouseDown({LeftButton, 0, 5, 5});
-       },
-       Pressed, true, 0},
-      {"dragged out",
-       [&] {
-         button.mouseMove({LeftButton, 0, 60, 5});
-       },
-       Pressed, true, 0},
-      {"left while held", [&] { tick(60, 5); }, Rest, false, 0},
-      {"back",
-       [&] {
-         button.mouseMove({LeftButton, 0, 5, 5});
-       },
-       Pressed, true, 0},
-      {"up",
-       [&] {
-         button.mouseUp({LeftButton, 0, 5, 5});
-       },
-       Rest, true, 1},
-      {"right held",
-       [&] {
-         button.mouseMove({RightButton, 0, 5, 5});
-       },
-       Hot, true, 1},
-  };
-  for (const auto& step : steps) {
-    CAPTURE(step.what);
-    step.act();
-    CHECK(Canvas::of(button).at(1, 1) == step.picture);
-    CHECK(button.timer().Enabled == step.tracking);
-    CHECK(clicks == step.clicks);
-  }
+  stage.play(button, {{1, 1}},
+             {
+                 {"at first", tick(5, 5), "", "0", true},
+                 {"the pointer is elsewhere", tick(30, 5), "", "0", false},
+                 {"on the margin", move(0, 0, 0), "", "0", false},
+                 {"over it", move(0, 5, 5), "", "2", true},
+                 {"the far edges are inside", tick(29, 23), "", "2", true},
+                 {"down", down(LeftButton, 5, 5), "", "1", true},
+                 {"dragged out", move(LeftButton, 60, 5), "", "1", true},
+                 {"left while held", tick(60, 5), "", "0", false},
+                 {"back", move(LeftButton, 5, 5), "", "1", true},
+                 {"up", up(LeftButton, 5, 5), "Click", "0", true},
+                 {"right held", move(RightButton, 5, 5), "", "2", true},
+                 {"a click on its lower right corner", click(25, 20), "Click", "0", true},
+             });
 }
 
 TEST_CASE("a tab shows its strip and raises its own event, then Click") {
   PaintedArt painted;
   painted.addPlain({"tab-top-0", "tab-top-1", "tab-top-2", "tab-top-3"}, 276, 20);
-  painted.addPlain({"tab-editor-0", "tab-editor-1", "tab-editor-2"}, 202, 20);
-  Desk desk(painted.art());
-  std::string log;
-  const auto logs = [&](const char* text) { return [&log, text] { log += text; }; };
-  const auto logsIndex = [&](std::int16_t& index) { log += std::to_string(index); };
-  XPTab top(desk.kit);
-  top.Main = logs("Main ");
-  top.Plugins = logs("Plugins ");
-  top.Options = logs("Options ");
-  top.ZUBScheduler = logs("Scheduler ");
+  Stage stage(painted.addPlain({"tab-editor-0", "tab-editor-1", "tab-editor-2"}, 202, 20));
+  const auto logsIndex = [&](std::int16_t& index) { stage.log += std::to_string(index); };
+  XPTab top(stage.desk.kit);
+  top.Main = stage.logs("Main ");
+  top.Plugins = stage.logs("Plugins ");
+  top.Options = stage.logs("Options ");
+  top.ZUBScheduler = stage.logs("Scheduler ");
   top.Click = logsIndex;
-  TabPluginsEditor editor(desk.kit);
-  editor.Registry = logs("Registry ");
-  editor.Files = logs("Files ");
-  editor.Comments = logs("Comments ");
+  stage.play(top, {{0, 0}},
+             {
+                 {"the second", click(100, 10), "Plugins 1", "1"},
+                 {"the third", click(150, 10), "Options 2", "2"},
+                 {"the end of the fourth", click(275, 10), "Scheduler 3", "3"},
+                 {"behind it", click(279, 10), "", "3"},
+                 {"the end of the first", click(59, 10), "Main 0", "0"},
+                 {"by code", call([&] { top.ShowTab(2); }), "Options 2", "2"},
+                 {"no tab", call([&] { top.ShowTab(4); }), "", "2"},
+                 {"no tab either", call([&] { top.ShowTab(-1); }), "", "2"},
+             });
+  TabPluginsEditor editor(stage.desk.kit);
+  editor.Registry = stage.logs("Registry ");
+  editor.Files = stage.logs("Files ");
+  editor.Comments = stage.logs("Comments ");
   editor.Click = logsIndex;
-
-  const struct {
-    TabStrip& strip;
-    float x;
-    const char* raised;
-    std::uint32_t shown;
-  } clicks[] = {
-      {top, 100, "Plugins 1", 1},     {top, 150, "Options 2", 2},
-      {top, 275, "Scheduler 3", 3},   {top, 279, "", 3},
-      {top, 59, "Main 0", 0},         {editor, 100, "Files 1", 1},
-      {editor, 140, "Comments 2", 2}, {editor, 1, "", 2},
-      {editor, 4, "Registry 0", 0},
-  };
-  for (const auto& [strip, x, raised, shown] : clicks) {
-    CAPTURE(raised);
-    log.clear();
-    strip.mouseDown({LeftButton, 0, x, 10});
-    strip.mouseUp({LeftButton, 0, x, 10});
-    CHECK(log == raised);
-    CHECK(Canvas::of(strip).at(0, 0) == shown);
-  }
-  log.clear();
-  top.ShowTab(2);
-  top.ShowTab(4);
-  top.ShowTab(-1);
-  CHECK(log == "Options 2");
+  stage.play(editor, {{0, 0}},
+             {
+                 {"the second", click(100, 10), "Files 1", "1"},
+                 {"where the third lies over it", click(140, 10), "Comments 2", "2"},
+                 {"before the first", click(1, 10), "", "2"},
+                 {"the first", click(4, 10), "Registry 0", "0"},
+             });
 }
 
 TEST_CASE("the title buttons follow the mouse, one of them at most") {
-  constexpr std::uint32_t Rest = 9;
   PaintedArt painted;
-  painted.add("minmax-background", 38, 20, [](int, int) { return Opaque | Rest; });
-  Desk desk(painted
-                .addPlain({"minmax-minimise-hot", "minmax-close-hot", "minmax-minimise-pressed",
-                           "minmax-close-pressed"},
-                          18, 20)
-                .art());
-  MinMax buttons(desk.kit);
-  std::string log;
-  buttons.MinClicked = [&] { log += "min;"; };
-  buttons.CloseClicked = [&] { log += "close;"; };
+  painted.add("minmax-background", 38, 20, [](int, int) { return Opaque | 9; });
+  Stage stage(painted.addPlain(
+      {"minmax-minimise-hot", "minmax-close-hot", "minmax-minimise-pressed", "minmax-close-pressed"}, 18,
+      20));
+  MinMax buttons(stage.desk.kit);
+  buttons.MinClicked = stage.logs("min");
+  buttons.CloseClicked = stage.logs("close");
   CHECK(buttons.timer().Interval == 1);
   CHECK(buttons.toolTip({3, 3}) == "Minimise to tray");
   CHECK(buttons.toolTip({22, 3}) == "Close");
-
-  const struct {
-    const char* what;
-    std::function<void()> act;
-    std::uint32_t minimise, close;
-    bool tracking;
-    const char* raised;
-  } steps[] = {
-      {"over the first",
-       [&] {
-         buttons.mouseMove({0, 0, 3, 3});
-       },
-       0, Rest, true, ""},
-      {"over the second",
-       [&] {
-         buttons.mouseMove({0, 0, 30, 3});
-       },
-       Rest, 1, true, ""},
-      {"down",
-       [&] {
-         buttons.mouseDown({LeftButton, 0, 30, 3});
-       },
-       Rest, 3, false, ""},
-      {"moved while held",
-       [&] {
-         buttons.mouseMove({LeftButton, 0, 3, 3});
-       },
-       Rest, 3, false, ""},
-      {"up",
-       [&] {
-         buttons.mouseUp({LeftButton, 0, 30, 3});
-       },
-       Rest, Rest, false, "close;"},
-      {"down on the first",
-       [&] {
-         buttons.mouseDown({LeftButton, 0, 3, 3});
-       },
-       2, Rest, false, ""},
-      {"up on the other is no click",
-       [&] {
-         buttons.mouseUp({LeftButton, 0, 30, 3});
-       },
-       Rest, Rest, false, ""},
-      {"over the first again",
-       [&] {
-         buttons.mouseMove({0, 0, 3, 3});
-       },
-       0, Rest, true, ""},
-      {"the pointer stays",
-       [&] {
-         desk.pointer.at = {38, 20};
-         buttons.timerTick();
-       },
-       0, Rest, true, ""},
-      {"the pointer has left",
-       [&] {
-         desk.pointer.at = {3, 21};
-         buttons.timerTick();
-       },
-       Rest, Rest, false, ""},
-  };
-  for (const auto& step : steps) {
-    CAPTURE(step.what);
-    log.clear();
-    step.act();
-    const Canvas canvas = Canvas::of(buttons);
-    CHECK(canvas.at(0, 0) == step.minimise);
-    CHECK(canvas.at(37, 0) == step.close);
-    CHECK(buttons.timer().Enabled == step.tracking);
-    CHECK(log == step.raised);
-  }
+  stage.play(buttons, {{0, 0}, {37, 0}},
+             {
+                 {"over the first", move(0, 3, 3), "", "09", true},
+                 {"over the second", move(0, 30, 3), "", "91", true},
+                 {"down", down(LeftButton, 30, 3), "", "93", false},
+                 {"moved while held", move(LeftButton, 3, 3), "", "93", false},
+                 {"up", up(LeftButton, 30, 3), "close", "99", false},
+                 {"down on the first", down(LeftButton, 3, 3), "", "29", false},
+                 {"up on the other is no click", up(LeftButton, 30, 3), "", "99", false},
+                 {"a click on the first", click(3, 3), "min", "99", false},
+                 {"over the first again", move(0, 3, 3), "", "09", true},
+                 {"the pointer stays", tick(38, 20), "", "09", true},
+                 {"the pointer has left", tick(3, 21), "", "99", false},
+             });
 }
 
 TEST_CASE("only a drag with the left button alone moves a window") {

@@ -1,128 +1,45 @@
 #include "kit/BitmapFont.h"
 
-#include <algorithm>
-#include <cstddef>
-
 namespace zub::controls {
 
 namespace {
 
-constexpr int Rows = 9, FirstRow = 3, UnderlineRow = 11;
+constexpr std::string_view Letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz.,:-?&0123456789";
+constexpr int FirstRow = 3, UnderlineRow = 11;
 constexpr int Gap = 1, BlankWidth = 3;
-
-// Letters side by side, a blank between two of them.
-struct Band {
-  std::string_view letters;
-  std::string_view rows[Rows];
-};
-
-// clang-format off
-constexpr Band Bands[] = {
-    {"ABCDEFGHIJKLM",
-     {
-     ".###. ####. .###. ####. #### #### .###. #...# # ...# #...# #... #...#",
-     "#...# #...# #...# #...# #... #... #...# #...# # ...# #..#. #... ##.##",
-     "#...# #...# #.... #...# #... #... #.... #...# # ...# #.#.. #... #.#.#",
-     "##### ####. #.... #...# ###. ###. #.### ##### # ...# ##... #... #.#.#",
-     "#...# #...# #.... #...# #... #... #...# #...# # ...# #.#.. #... #...#",
-     "#...# #...# #...# #...# #... #... #...# #...# # #..# #..#. #... #...#",
-     "#...# ####. .###. ####. #### #... .###. #...# # .##. #...# #### #...#",
-     "..... ..... ..... ..... .... .... ..... ..... . .... ..... .... .....",
-     "..... ..... ..... ..... .... .... ..... ..... . .... ..... .... .....",
-     }},
-    {"NOPQRSTUVWXYZ",
-     {
-     "#...# .###. ####. .###. ####. .### ##### #...# #...# #...# #...# #...# #####",
-     "##..# #...# #...# #...# #...# #... ..#.. #...# #...# #...# #...# #...# ....#",
-     "##..# #...# #...# #...# #...# #... ..#.. #...# #...# #...# .#.#. .#.#. ...#.",
-     "#.#.# #...# ####. #...# ####. .##. ..#.. #...# .#.#. #.#.# ..#.. ..#.. ..#..",
-     "#..## #...# #.... #.#.# #.#.. ...# ..#.. #...# .#.#. #.#.# .#.#. ..#.. .#...",
-     "#..## #...# #.... #..#. #..#. ...# ..#.. #...# .#.#. ##.## #...# ..#.. #....",
-     "#...# .###. #.... .##.# #...# ###. ..#.. .###. ..#.. #...# #...# ..#.. #####",
-     "..... ..... ..... ..... ..... .... ..... ..... ..... ..... ..... ..... .....",
-     "..... ..... ..... ..... ..... .... ..... ..... ..... ..... ..... ..... .....",
-     }},
-    {"abcdefghijklmnopqr",
-     {
-     ".... #... ... ...# .... .## .... #... # .# #... # ..... .... .... .... .... ...",
-     ".... #... ... ...# .... #.. .... #... . .. #... # ..... .... .... .... .... ...",
-     ".##. ###. .## .### .##. ##. .### ###. # .# #..# # ##.#. ###. .##. ###. .### #.#",
-     "...# #..# #.. #..# #..# #.. #..# #..# # .# #.#. # #.#.# #..# #..# #..# #..# ##.",
-     ".### #..# #.. #..# #### #.. #..# #..# # .# ##.. # #.#.# #..# #..# #..# #..# #..",
-     "#..# #..# #.. #..# #... #.. #..# #..# # .# #.#. # #.#.# #..# #..# #..# #..# #..",
-     ".### ###. .## .### .##. #.. .### #..# # .# #..# # #.#.# #..# .##. ###. .### #..",
-     ".... .... ... .... .... ... ...# .... . .# .... . ..... .... .... #... ...# ...",
-     ".... .... ... .... .... ... .##. .... . #. .... . ..... .... .... #... ...# ...",
-     }},
-    {"stuvwxyz.,:-?&",
-     {
-     "... .#. .... ... ..... ... .... .... . .. . ... .##. .#...",
-     "... .#. .... ... ..... ... .... .... . .. . ... #..# #.#..",
-     ".## ### #..# #.# #...# #.# #..# #### . .. . ... ...# #.#..",
-     "#.. .#. #..# #.# #.#.# #.# #..# ...# . .. # ### ..#. .#...",
-     ".#. .#. #..# #.# #.#.# .#. #..# .##. . .. . ... .#.. #.#.#",
-     "..# .#. #..# #.# #.#.# #.# #..# #... . .. . ... .... #..#.",
-     "##. ..# .### .#. .#.#. #.# .### #### # .# # ... .#.. .##.#",
-     "... ... .... ... ..... ... ...# .... . #. . ... .... .....",
-     "... ... .... ... ..... ... .##. .... . .. . ... .... .....",
-     }},
-    {"0123456789",
-     {
-     ".##. .#. .##. .##. ..#. #### .##. #### .##. .##.",
-     "#..# ##. #..# #..# .##. #... #... ...# #..# #..#",
-     "#..# .#. ...# ...# #.#. ###. #... ...# #..# #..#",
-     "#..# .#. ..#. .##. #.#. ...# ###. ..#. .##. .###",
-     "#..# .#. .#.. ...# #### ...# #..# ..#. #..# ...#",
-     "#..# .#. #... #..# ..#. #..# #..# .#.. #..# ...#",
-     ".##. ### #### .##. ..#. .##. .##. .#.. .##. .##.",
-     ".... ... .... .... .... .... .... .... .... ....",
-     ".... ... .... .... .... .... .... .... .... ....",
-     }},
-};
-// clang-format on
-
-struct Glyph {
-  const Band* band = nullptr;  // none: a blank, as is every letter that the font lacks
-  std::size_t left = 0;
-  int width = BlankWidth;
-};
-
-Glyph glyphOf(char letter) {
-  for (const Band& band : Bands) {
-    const std::size_t place = band.letters.find(letter);
-    if (place == std::string_view::npos) continue;
-    const std::string_view row = band.rows[0];
-    std::size_t left = 0;
-    for (std::size_t i = 0; i < place; ++i) left = row.find(' ', left) + 1;
-    return {&band, left, static_cast<int>(std::min(row.find(' ', left), row.size()) - left)};
-  }
-  return {};
-}
-
-int advance(const Glyph& glyph, const Font& font) {
-  return glyph.width + Gap + (font.Bold ? 1 : 0);
-}
 
 }  // namespace
 
-Size BitmapFont::measure(std::string_view text, const Font& font) {
+// Its place in the strip; a blank of no height for what the strip lacks.
+Box BitmapFont::glyphOf(char letter) const {
+  const auto isOver = [this](int x) { return x < strip_.width() && strip_.pixel(x, 0) != 0; };
+  int left = 0;
+  for (const char each : Letters) {
+    int right = left;
+    while (isOver(right)) ++right;
+    if (each == letter) return {left, 1, right - left, strip_.height() - 1};
+    left = right + 1;
+  }
+  return {0, 0, BlankWidth, 0};
+}
+
+Size BitmapFont::measure(std::string_view text, const Font&) {
   Size size = {0, LineHeight};
-  for (const char letter : text) size.width += advance(glyphOf(letter), font);
+  for (const char letter : text) size.width += glyphOf(letter).width + Gap;
   return size;
 }
 
-void BitmapFont::draw(Surface& surface, Point at, std::string_view text, int underlined, const Font& font,
+void BitmapFont::draw(Surface& surface, Point at, std::string_view text, int underlined, const Font&,
                       Color color) {
-  const int thickness = font.Bold ? 2 : 1;
   int x = at.x;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const Glyph glyph = glyphOf(text[i]);
-    for (int row = 0; glyph.band && row < Rows; ++row)
+    const Box glyph = glyphOf(text[i]);
+    for (int row = 0; row < glyph.height; ++row)
       for (int column = 0; column < glyph.width; ++column)
-        if (glyph.band->rows[row][glyph.left + static_cast<std::size_t>(column)] == '#')
-          surface.fill({x + column, at.y + FirstRow + row, thickness, 1}, color);
+        if (strip_.pixel(glyph.left + column, glyph.top + row) != 0)
+          surface.fill({x + column, at.y + FirstRow + row, 1, 1}, color);
     if (static_cast<int>(i) == underlined) surface.fill({x, at.y + UnderlineRow, glyph.width, 1}, color);
-    x += advance(glyph, font);
+    x += glyph.width + Gap;
   }
 }
 

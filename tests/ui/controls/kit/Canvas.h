@@ -1,6 +1,7 @@
 // A surface that owns its memory.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -30,29 +31,29 @@ class Canvas {
   int height() const { return height_; }
   Surface surface() { return Surface(pixels_.data(), width_, height_); }
   // 0x00RRGGBB
-  std::uint32_t at(int x, int y) const {
-    return pixels_[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
-                   static_cast<std::size_t>(x)];
+  std::uint32_t at(int x, int y) const { return pixels_[place(x, y)]; }
+  // A character for each of the colours 0 to 35, `?` for any other.
+  char sign(int x, int y) const {
+    return at(x, y) < 36 ? "0123456789abcdefghijklmnopqrstuvwxyz"[at(x, y)] : '?';
   }
-  // One character for each of the colours 0 to 35, `?` for any other; a line for each row.
+  // The signs, a line for each row.
   std::string drawing() const {
     std::string text;
     for (int y = 0; y < height_; ++y) {
-      for (int x = 0; x < width_; ++x)
-        text += at(x, y) < 36 ? "0123456789abcdefghijklmnopqrstuvwxyz"[at(x, y)] : '?';
+      for (int x = 0; x < width_; ++x) text += sign(x, y);
       text += '\n';
     }
     return text;
   }
+  // The other one must lie inside.
   void put(const Canvas& other, int left, int top) {
-    Surface mine = surface();
-    for (int y = 0; y < other.height(); ++y)
-      for (int x = 0; x < other.width(); ++x) mine.fill({left + x, top + y, 1, 1}, colorOf(other.at(x, y)));
+    for (int y = 0; y < other.height_; ++y)
+      std::copy_n(&other.pixels_[other.place(0, y)], other.width_, &pixels_[place(left, top + y)]);
   }
 
  private:
-  static Color colorOf(std::uint32_t pixel) {
-    return rgb(pixel >> 16U & 0xFF, pixel >> 8U & 0xFF, pixel & 0xFF);
+  std::size_t place(int x, int y) const {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x);
   }
 
   int width_, height_;

@@ -22,10 +22,7 @@ class Painter {
     checks();
     lists();
     clocks();
-    closeButtons();
-    tabs();
-    titleButtons();
-    messageBox();
+    titleControls();
     return std::move(exhibits_);
   }
 
@@ -33,26 +30,26 @@ class Painter {
   void add(const std::string& name, const Control& control) {
     exhibits_.push_back({name, Canvas::of(control)});
   }
+  void add(const std::string& name, Control& control, const Act& act) {
+    act(desk_, control);
+    add(name, control);
+  }
 
   void buttons() {
     XPCmdButton button(desk_.kit);
     button.Caption("&Start Cleaning");
     button.resize(100, 25);
     add("button-normal", button);
-    button.mouseMove({0, 0, 3, 3});
-    add("button-hot", button);
-    button.mouseDown({LeftButton, 0, 3, 3});
-    add("button-pressed", button);
-    button.mouseUp({LeftButton, 0, 3, 3});
+    add("button-hot", button, move(0, 3, 3));
+    add("button-pressed", button, down(LeftButton, 3, 3));
     button.State(1);
     add("button-marked", button);
     button.Enabled(false);
     add("button-disabled", button);
-    button.Enabled(true);
-    button.State(0);
-    button.Caption("");
-    button.resize(6, 6);
-    add("button-of-corners", button);
+    XPCmdButton corners(desk_.kit);
+    corners.Caption("");
+    corners.resize(6, 6);
+    add("button-of-corners", corners);
   }
 
   void groups() {
@@ -70,18 +67,17 @@ class Painter {
     XPCheck check(desk_.kit);
     check.Caption("Cookies");
     check.resize(80, 18);
-    for (const bool enabled : {true, false}) {
-      check.Enabled(enabled);
-      for (const float value : {0.0F, 1.0F}) {
-        check.Value(value);
-        add(std::string("check-") + (value == 0 ? "off" : "on") + (enabled ? "" : "-disabled"), check);
+    for (const char* enabled : {"", "-disabled"}) {
+      check.Enabled(*enabled == '\0');
+      for (const char* value : {"off", "on"}) {
+        check.Value(std::string_view(value) == "on" ? 1.0F : 0.0F);
+        add(std::string("check-") + value + enabled, check);
       }
     }
     SimpleCheck simple(desk_.kit);
     simple.resize(14, 16);
     add("simple-check-empty", simple);
-    simple.Value(SimpleCheck::Ticked);
-    add("simple-check-ticked", simple);
+    add("simple-check-ticked", simple, click(5, 5));
   }
 
   void lists() {
@@ -89,97 +85,50 @@ class Painter {
     list.Initialise();
     add("list", list);
     for (const int item : {1, 3, 4, 9}) list.Check(static_cast<std::int16_t>(item), 1);
-    for (int i = 0; i < 4; ++i) list.keyDown(39, 0);
-    add("list-item-4", list);
-    scrollDown(list, 150);
-    add("list-half-way", list);
-    scrollDown(list, 150);
-    for (int i = 0; i < 4; ++i) list.keyDown(39, 0);
-    add("list-end", list);
-  }
-
-  static void scrollDown(ListBox& list, int steps) {
-    for (int i = 0; i < steps; ++i) {
-      list.mouseDown({LeftButton, 0, 395, 65});
-      list.mouseUp({LeftButton, 0, 395, 65});
-    }
+    const auto times = [](int count, const Act& act) {
+      return [=](Desk& desk, Control& control) {
+        for (int i = 0; i < count; ++i) act(desk, control);
+      };
+    };
+    add("list-item-4", list, times(4, key(39)));
+    add("list-half-way", list, times(150, click(395, 65)));
+    times(150, click(395, 65))(desk_, list);
+    add("list-end", list, times(4, key(39)));
   }
 
   void clocks() {
     Clock clock(desk_.kit);
     add("clock-before-a-time", clock);
-    clock.SetText("9:05");
-    clock.Blink();
-    add("clock-905", clock);
     clock.SetText("12:34");
-    clock.Blink();
     add("clock-1234-no-colon", clock);
-    clock.SetText("07:68");
     clock.Blink();
-    add("clock-0768", clock);
+    for (const char* time : {"9:05", "07:68"}) {
+      clock.SetText(time);
+      add(std::string("clock-") + (time[1] == ':' ? "905" : "0768"), clock);
+    }
   }
 
-  void closeButtons() {
+  void titleControls() {
     ZUBCloseButton close(desk_.kit);
     add("close-rest", close);
-    close.mouseMove({0, 0, 5, 5});
-    add("close-hot", close);
-    close.mouseDown({LeftButton, 0, 5, 5});
-    add("close-pressed", close);
-  }
-
-  void tabs() {
+    add("close-hot", close, move(0, 5, 5));
+    add("close-pressed", close, down(LeftButton, 5, 5));
     XPTab top(desk_.kit);
-    for (std::int16_t tab = 0; tab < 4; ++tab) {
-      top.ShowTab(tab);
-      add("tab-top-" + std::to_string(tab), top);
-    }
+    add("tab-top-0", top);
+    for (std::int16_t tab = 1; tab < 4; ++tab)
+      add("tab-top-" + std::to_string(tab), top, call([&] { top.ShowTab(tab); }));
     TabPluginsEditor editor(desk_.kit);
-    for (std::int16_t tab = 0; tab < 3; ++tab) {
-      editor.ShowTab(tab);
-      add("tab-editor-" + std::to_string(tab), editor);
-    }
-  }
-
-  void titleButtons() {
+    add("tab-editor-0", editor);
+    for (std::int16_t tab = 1; tab < 3; ++tab)
+      add("tab-editor-" + std::to_string(tab), editor, call([&] { editor.ShowTab(tab); }));
     MinMax buttons(desk_.kit);
     add("minmax", buttons);
-    const struct {
-      const char* button;
-      float x;
-    } places[] = {{"minimise", 5}, {"close", 25}};
-    for (const auto& [button, x] : places) {
-      buttons.mouseMove({0, 0, x, 5});
-      add(std::string("minmax-") + button + "-hot", buttons);
-      buttons.mouseDown({LeftButton, 0, x, 5});
-      add(std::string("minmax-") + button + "-pressed", buttons);
-      buttons.mouseUp({LeftButton, 0, x, 5});
+    for (const float x : {5.0F, 25.0F}) {
+      const std::string name = x < 20 ? "minmax-minimise" : "minmax-close";
+      add(name + "-hot", buttons, move(0, x, 5));
+      add(name + "-pressed", buttons, down(LeftButton, x, 5));
+      up(LeftButton, x, 5)(desk_, buttons);
     }
-  }
-
-  // The controls as they come together in a window without a frame.
-  void messageBox() {
-    Canvas window(398, 154);
-    Surface surface = window.surface();
-    surface.draw(desk_.art["message-background"], {});
-    surface.draw(desk_.art["icon-question"], {pixels(630), pixels(870)});
-    CaptionLabel title;
-    title.text = "Zubrone";
-    title.paint(surface, desk_.font, {pixels(855), pixels(120)});
-    CaptionLabel message;
-    message.text = "Are you sure?";
-    message.paint(surface, desk_.font, {pixels(2490), pixels(960)});
-    ZUBCloseButton close(desk_.kit);
-    window.put(Canvas::of(close), pixels(5445), pixels(75));
-    XPCmdButton yes(desk_.kit), no(desk_.kit);
-    for (XPCmdButton* button : {&yes, &no}) button->BackColor(colors::Window);
-    yes.Caption("&Yes");
-    yes.resize(58, 25);
-    window.put(Canvas::of(yes), pixels(2040), pixels(1740));
-    no.Caption("&No");
-    no.resize(58, 25);
-    window.put(Canvas::of(no), pixels(3135), pixels(1740));
-    exhibits_.push_back({"message-box", window});
   }
 
   Desk desk_;

@@ -1,9 +1,7 @@
 #include "kit/Png.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
-#include <map>
 #include <string_view>
 
 namespace zub::controls {
@@ -39,107 +37,53 @@ std::string chunk(std::string_view type, std::string_view data) {
   return bigEndian(static_cast<std::uint32_t>(data.size())) + body + bigEndian(crc32(body));
 }
 
-// One deflate block with the fixed codes.
-class Deflater {
- public:
-  std::string pack(std::string_view data) {
-    bits(1, 1);                                    // the last block
-    bits(1, 2);                                    // fixed codes
-    std::map<std::string_view, std::size_t> seen;  // where three bytes were met last
-    for (std::size_t at = 0; at < data.size();) {
-      const std::string_view key = data.substr(at, 3);
-      const auto before = seen.find(key);
-      std::size_t length = 0, distance = 0;
-      if (key.size() == 3 && before != seen.end() && at - before->second <= 32768) {
-        distance = at - before->second;
-        while (length < 258 && at + length < data.size() && data[at + length] == data[at + length - distance])
-          ++length;
-      }
-      if (length >= 3) {
-        match(length, distance);
-      } else {
-        length = 1;
-        symbol(static_cast<unsigned char>(data[at]));
-      }
-      for (; length > 0; --length, ++at) seen.insert_or_assign(data.substr(at, 3), at);
-    }
-    symbol(256);
-    bits(0, 7);
-    return packed_;
-  }
-
- private:
-  void bits(std::size_t value, unsigned count) {
-    for (unsigned i = 0; i < count; ++i) {
-      pending_ |= (value >> i & 1U) << held_;
-      if (++held_ < 8) continue;
-      packed_ += static_cast<char>(pending_);
-      pending_ = held_ = 0;
-    }
-  }
-
-  // Codes run from their highest bit.
-  void code(std::size_t value, unsigned count) {
-    for (unsigned i = count; i-- > 0;) bits(value >> i & 1U, 1);
-  }
-
-  void symbol(std::size_t value) {
-    if (value < 144)
-      code(0x30 + value, 8);
-    else if (value < 256)
-      code(0x190 + value - 144, 9);
-    else if (value < 280)
-      code(value - 256, 7);
-    else
-      code(0xC0 + value - 280, 8);
-  }
-
-  // Lengths and distances are grouped: `groups` codes to each number of extra bits.
-  struct Group {
-    std::size_t code, base;
-    unsigned extra;
+// One deflate block with the fixed codes. It packs pixels that repeat the one before them, and no more: with the
+// lengths 3 to 10 and 258, whose codes need no further bits.
+std::string deflated(std::string_view data) {
+  constexpr std::size_t Pixel = 3;
+  std::string bits = "110";  // the last block; fixed codes
+  const auto code = [&](std::size_t value, unsigned count) {
+    while (count-- > 0) bits += (value >> count & 1U) != 0 ? '1' : '0';
   };
-  static Group groupOf(std::size_t value, std::size_t first, std::size_t groups) {
-    Group group = {0, first, 0};
-    std::size_t span = 1;
-    for (;; ++group.code) {
-      if (group.code >= 2 * groups && group.code % groups == 0) ++group.extra, span *= 2;
-      if (value < group.base + span) return group;
-      group.base += span;
-    }
-  }
-
-  void match(std::size_t length, std::size_t distance) {
-    if (length == 258) {
-      symbol(285);
+  for (std::size_t at = 0; at < data.size();) {
+    std::size_t run = 0;
+    while (at >= Pixel && run < 258 && at + run < data.size() && data[at + run] == data[at + run - Pixel])
+      ++run;
+    if (run >= 3) {
+      if (run < 258) run = std::min<std::size_t>(run, 10);
+      run == 258 ? code(0xC5, 8) : code(run - 2, 7);
+      code(2, 5);  // three bytes back
+      at += run;
     } else {
-      const Group group = groupOf(length, 3, 4);
-      symbol(257 + group.code);
-      bits(length - group.base, group.extra);
+      const std::size_t byte = static_cast<unsigned char>(data[at++]);
+      byte < 144 ? code(0x30 + byte, 8) : code(0x100 + byte, 9);
     }
-    const Group group = groupOf(distance, 1, 2);
-    code(group.code, 5);
-    bits(distance - group.base, group.extra);
   }
-
-  std::string packed_;
-  std::size_t pending_ = 0;
-  unsigned held_ = 0;
-};
+  code(0, 7);
+  bits.resize((bits.size() + 7) / 8 * 8, '0');
+  std::string packed;
+  for (std::size_t at = 0; at < bits.size(); at += 8) {
+    unsigned byte = 0;
+    for (std::size_t bit = 8; bit-- > 0;) byte = byte << 1U | (bits[at + bit] == '1' ? 1U : 0U);
+    packed += static_cast<char>(byte);
+  }
+  return packed;
+}
 
 }  // namespace
 
 std::string pngOf(const Canvas& canvas) {
   std::string rows;
   for (int y = 0; y < canvas.height(); ++y) {
-    rows += '\0';  // no filter
+    rows += '\x02';  // told as the difference from the row above
     for (int x = 0; x < canvas.width(); ++x)
-      for (const unsigned shift : {16U, 8U, 0U}) rows += static_cast<char>(canvas.at(x, y) >> shift & 0xFFU);
+      for (const unsigned shift : {16U, 8U, 0U})
+        rows += static_cast<char>((canvas.at(x, y) >> shift) - (y == 0 ? 0 : canvas.at(x, y - 1) >> shift));
   }
   const std::string header = bigEndian(static_cast<std::uint32_t>(canvas.width())) +
                              bigEndian(static_cast<std::uint32_t>(canvas.height())) +
                              std::string("\x08\x02\0\0\0", 5);
-  const std::string stream = "\x78\x01" + Deflater().pack(rows) + bigEndian(adler32(rows));
+  const std::string stream = "\x78\x01" + deflated(rows) + bigEndian(adler32(rows));
   return "\x89PNG\r\n\x1a\n" + chunk("IHDR", header) + chunk("IDAT", stream) + chunk("IEND", "");
 }
 

@@ -1,5 +1,5 @@
-// Writes pictures as PNG: 24 bits a pixel, packed by a small packer of our own, so that the same picture
-// always gives the same bytes.
+// Writes pictures as PNG, 24 bits a pixel. The packer is a small one of our own, so that the same picture always
+// gives the same bytes.
 #pragma once
 
 #include <string>

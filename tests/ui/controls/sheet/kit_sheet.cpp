@@ -16,15 +16,15 @@ constexpr Color Ink = rgb(110, 110, 100);
 // Fills rows from the left, each as high as its highest picture.
 class Sheet {
  public:
-  void add(const std::string& name, const Canvas& picture) {
-    const int width = std::max(picture.width(), font_.measure(name, {}).width);
+  void add(const Exhibit& exhibit) {
+    const int width = std::max(exhibit.picture.width(), font_.measure(exhibit.name, {}).width);
     if (x_ + width + Margin > SheetWidth) newRow();
-    places_.push_back({name, picture, x_, y_});
+    places_.push_back({exhibit, {x_, y_}});
     x_ += width + Margin;
-    rowHeight_ = std::max(rowHeight_, picture.height() + LabelHeight);
+    rowHeight_ = std::max(rowHeight_, exhibit.picture.height() + LabelHeight + Margin);
   }
   void newRow() {
-    y_ += rowHeight_ == 0 ? 0 : rowHeight_ + Margin;
+    y_ += rowHeight_;
     x_ = Margin;
     rowHeight_ = 0;
   }
@@ -32,29 +32,22 @@ class Sheet {
     newRow();
     Canvas canvas(SheetWidth, y_);
     Surface surface = canvas.surface();
-    for (const Place& place : places_) {
-      font_.draw(surface, {place.x, place.y}, place.name, -1, {}, Ink);
-      canvas.put(place.picture, place.x, place.y + LabelHeight);
+    for (const auto& [exhibit, at] : places_) {
+      font_.draw(surface, at, exhibit.name, -1, {}, Ink);
+      canvas.put(exhibit.picture, at.x, at.y + LabelHeight);
     }
     return canvas;
   }
 
  private:
-  struct Place {
-    std::string name;
-    Canvas picture;
-    int x, y;
-  };
-
   BitmapFont font_;
-  std::vector<Place> places_;
+  std::vector<std::pair<Exhibit, Point>> places_;
   int x_ = Margin, y_ = Margin, rowHeight_ = 0;
 };
 
 Canvas onGround(const Bitmap& picture) {
   Canvas canvas(picture.width(), picture.height());
-  Surface surface = canvas.surface();
-  surface.draw(picture, {});
+  canvas.surface().draw(picture, {});
   return canvas;
 }
 
@@ -69,21 +62,19 @@ int main(int count, char** arguments) {
   std::string family;
   for (const Exhibit& exhibit : gallery()) {
     const std::string its = exhibit.name.substr(0, exhibit.name.find('-'));
-    if (its != family) sheet.newRow();
-    family = its;
-    sheet.add(exhibit.name, exhibit.picture);
+    if (std::exchange(family, its) != its) sheet.newRow();
+    sheet.add(exhibit);
   }
   sheet.newRow();
   const Art art;
-  for (const char* beginning : {"item-", "animation-", "kind-", "mark-", "warning", "icon-"})
+  for (const char* beginning :
+       {"item-", "animation-", "kind-", "mark-", "warning", "icon-", "message-background"})
     for (const EmbeddedFile& file : artFiles())
       if (file.name.starts_with(beginning)) {
         const std::string name(file.name.substr(0, file.name.rfind('.')));
-        sheet.add(name, onGround(art[name]));
+        sheet.add({name, onGround(art[name])});
       }
-  if (!writeFile(arguments[1], pngOf(sheet.paint()))) {
-    std::fprintf(stderr, "cannot write %s\n", arguments[1]);
-    return 1;
-  }
-  return 0;
+  if (writeFile(arguments[1], pngOf(sheet.paint()))) return 0;
+  std::fprintf(stderr, "cannot write %s\n", arguments[1]);
+  return 1;
 }
