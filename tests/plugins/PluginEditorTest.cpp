@@ -157,16 +157,14 @@ TEST_CASE("the boxes become rows") {
   editor.addFile("C:\\", "");
   CHECK(rowsOf(editor.state.lstFileFolder) == ">C:\\;");
   editor.form.optFilePattern_Click();
-  editor.state.txtPathFF.Text = "C:\\Temp";
   editor.state.txtFilePattern.Text = "*.tmp ";
-  editor.form.cmdAddFF_Click();
+  editor.addFile("C:\\Temp", "unread");
   CHECK(rowsOf(editor.state.lstFileFolder) == ">C:\\Temp\\*.tmp;");
   editor.state.chkSubfolders.Value(1);
-  editor.form.cmdAddFF_Click();
-  CHECK(rowsOf(editor.state.lstFileFolder) == ">C:\\Temp\\*.tmp >plus subdirectories<;");
-  CHECK(editor.fileBoxes() == "C:\\Temp|P||*.tmp |sub");
-  editor.form.cmdAddFF_Click();
-  CHECK(rowsOf(editor.state.lstFileFolder) == ">C:\\Temp\\*.tmp >plus subdirectories<;");
+  for (int time = 0; time < 2; ++time) {
+    editor.form.cmdAddFF_Click();
+    CHECK(rowsOf(editor.state.lstFileFolder) == ">C:\\Temp\\*.tmp >plus subdirectories<;");
+  }
 }
 
 TEST_CASE("an empty box is told, always, and gets the focus") {
@@ -237,12 +235,8 @@ TEST_CASE("New replaces the mark for no entries, in any case") {
 }
 
 TEST_CASE("a click on a file row fills the boxes") {
-  struct Case {
-    std::string row;
-    std::string boxes;
-  };
-  const std::string untouched = "old|F|old||";
-  const Case cases[] = {
+  constexpr const char* untouched = "old|F|old||";
+  const std::pair<const char*, const char*> cases[] = {
       {"C:\\a.txt", "C:|F|a.txt||"},
       {"C:\\Temp\\*.tmp", "C:\\Temp|P||*.tmp|"},
       {"C:\\Temp\\?.tmp >Plus SUBdirectories< more", "C:\\Temp|P||?.tmp |sub"},
@@ -254,25 +248,21 @@ TEST_CASE("a click on a file row fills the boxes") {
       {" no ENTRIES. ", untouched},
       {"   ", "|F|||"},
   };
-  for (const Case& one : cases) {
-    CAPTURE(one.row);
+  for (const auto& [row, boxes] : cases) {
+    CAPTURE(row);
     Editor editor;
-    editor.save(one.row, "", "");
+    editor.save(row, "", "");
     editor.form.ShowPlugin("P");
     editor.state.txtPathFF.Text = editor.state.txtFileName.Text = "old";
     editor.state.lstFileFolder.ListIndex(0);
-    CHECK(editor.fileBoxes() == one.boxes);
+    CHECK(editor.fileBoxes() == boxes);
     CHECK(editor.state.txtFilePattern.Enabled == editor.state.optFilePattern.Value);
     CHECK(editor.state.txtFileName.Enabled == editor.state.optFileName.Value);
   }
 }
 
 TEST_CASE("a click on a registry row fills the boxes, forgiving in case") {
-  struct Case {
-    std::string row;
-    std::string boxes;
-  };
-  const Case cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       {"HKey_Users\\.DEFAULT\\X\\Y- Key*", "HKey_Users|.DEFAULT\\X|Key|Y"},
       {"HKEY_USERS\\Y- KEY*", "HKey_Users||Key|Y"},
       {"hkey_local_machine\\A\\e-merge\\Y- Key*", "HKey_Local_Machine|A|Key|e"},
@@ -286,16 +276,16 @@ TEST_CASE("a click on a registry row fills the boxes, forgiving in case") {
       {"  ", "HKey_Current_User|  |Key|"},
       {"No entries.", "HKey_Local_Machine|old|Value|old"},
   };
-  for (const Case& one : cases) {
-    CAPTURE(one.row);
+  for (const auto& [row, boxes] : cases) {
+    CAPTURE(row);
     Editor editor;
-    editor.save("", one.row, "");
+    editor.save("", row, "");
     editor.form.ShowPlugin("P");
     editor.state.cmbPathRegistry.ListIndex(1);
     editor.state.cmbRegistry.ListIndex(1);
     editor.state.txtPath.Text = editor.state.txtKeyValue.Text = "old";
     editor.state.lstRegistry.ListIndex(0);
-    CHECK(editor.registryBoxes() == one.boxes);
+    CHECK(editor.registryBoxes() == boxes);
   }
 }
 

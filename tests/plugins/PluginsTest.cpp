@@ -1,8 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "plugins/Catalogue.h"
 #include "plugins/Plugins.h"
-#include "plugins/StandardList.h"
 #include "support/WashFixture.h"
 
 using namespace zub;
@@ -67,15 +65,4 @@ TEST_CASE("removing takes the three files of the current row as a wash does, or 
     CHECK_FALSE(wash.pc.hasFile(name + "3"));
     CHECK(wash.engine.TotalBytes == (current == "a" ? 3 : 1));
   }
-}
-
-TEST_CASE("the standard list shows the catalogue sorted, and describes exact names only") {
-  const Catalogue catalogue = Catalogue::parse(
-      "[b row]\nabout It cleans b.\ntrace HKEY_USERS\\b- Key*\n"
-      "[A row]\nabout It cleans a.\ntrace HKEY_USERS\\a- Key*\n");
-  ListRows rows{ListRows::Order::Sorted};
-  FillStandardList(rows, catalogue);
-  CHECK(rowsOf(rows) == "A row;b row;");
-  CHECK(standardPluginDescription(catalogue, "b row") == "It cleans b.");
-  CHECK(standardPluginDescription(catalogue, "B row") == "");
 }
