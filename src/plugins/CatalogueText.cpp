@@ -36,9 +36,8 @@ std::string_view takeUpTo(char separator, std::string_view& text) {
 bool beginsWithHive(std::string_view trace) {
   const auto upper = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
   const auto hive = trace.substr(0, trace.find('\\'));
-  return hive.size() < trace.size() && std::ranges::any_of(Hives, [&](std::string_view known) {
-           return std::ranges::equal(hive, known, {}, upper);
-         });
+  return std::ranges::any_of(
+      Hives, [&](std::string_view known) { return std::ranges::equal(hive, known, {}, upper); });
 }
 
 // In capitals the word of the key form marks nothing in a wash, and yet some rows have it so.

@@ -11,7 +11,7 @@ using Then = EntryMeaning::Then;
 void PluginCheck::begin(PluginFile which) {
   which_ = which;
   number_ = 0;
-  if (which == PluginFile::Files || state_ == Then::EndsList) state_ = Then::GoesOn;
+  if (state_ == Then::EndsList) state_ = Then::GoesOn;
 }
 
 CheckedLine PluginCheck::next(std::string_view line) {

@@ -41,7 +41,7 @@ void rebuildRegistryRow(const CodePage& codePage, std::string_view line) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static TestPc pc;
-  static PluginCheck check(pc.platform());
+  PluginCheck check(pc.platform());
   const CodePage& codePage = pc.platform().codePage;
   for (const PluginFile which : {PluginFile::Files, PluginFile::Registry}) {
     check.begin(which);

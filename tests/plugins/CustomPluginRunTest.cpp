@@ -72,7 +72,7 @@ TEST_CASE("a line may end its list or the plugin, which then is not counted") {
   const Case cases[] = {
       {"", "NO ENTRIES.", true, false, true},  // a blank entry is a file without a name
       {"No entries.", Traces + "\\None- Key*", false, true, true},
-      {"*.tmp", "", false, false, false},
+      {"*.t?", "", false, false, false},
       {"*.tmp >plus subdirectories<", "", false, false, false},
       {good, "HKEY_NONE\\Software- Key*", true, true, true},
       {good, " NO ENTRIES. ", true, false, true},
