@@ -14,6 +14,10 @@ constexpr std::size_t LongestDescription = 300;
 constexpr int HighestNumber = 999;  // keeps a slip of the pen from growing into millions of traces
 constexpr std::string_view Blanks = " \t\r";
 constexpr std::string_view ValueMarker = "+ Value`=";
+// A trace may name the classes, too, though none of its spellings here matches that hive in a wash.
+constexpr std::string_view Hives[] = {"HKEY_CLASSES_ROOT",    "HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE",
+                                      "HKEY_USERS",           "HKEY_DYN_DATA",     "HKEY_CURRENT_CONFIG",
+                                      "HKEY_PERFORMANCE_DATA"};
 
 std::string_view strip(std::string_view text) {
   const auto first = text.find_first_not_of(Blanks);
@@ -27,6 +31,18 @@ std::string_view takeUpTo(char separator, std::string_view& text) {
   const auto part = text.substr(0, end);
   text = end == text.npos ? std::string_view{} : text.substr(end + 1);
   return part;
+}
+
+bool beginsWithHive(std::string_view trace) {
+  const auto upper = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
+  const auto hive = trace.substr(0, trace.find('\\'));
+  return std::ranges::any_of(
+      Hives, [&](std::string_view known) { return std::ranges::equal(hive, known, {}, upper); });
+}
+
+// In capitals the word of the key form marks nothing in a wash, and yet some rows have it so.
+bool hasMarker(std::string_view trace) {
+  return trace.ends_with("- Key*") || trace.ends_with("- KEY*") || contains(trace, ValueMarker);
 }
 
 std::optional<int> number(std::string_view text) {
@@ -129,7 +145,7 @@ class Reader {
       action.base = CatalogueAction::Base::Windows;
     } else if (where == "appdata") {
       action.base = CatalogueAction::Base::AppData;
-    } else if (contains(where, "\\") && contains(where, ValueMarker)) {
+    } else if (beginsWithHive(where) && contains(where, ValueMarker)) {
       action.base = CatalogueAction::Base::Registry;
       action.trace = where;
     } else {
@@ -140,7 +156,8 @@ class Reader {
   }
 
   void addTraces(std::string_view text) {
-    if (!contains(text, "\\")) fail("a trace needs a backslash behind its hive");
+    if (!beginsWithHive(text)) fail("a trace begins with the name of a hive and a backslash");
+    if (!hasMarker(text)) fail("a trace ends in \"- Key*\", or in \"+ Value`= \" and a name");
     const auto open = text.find('{');
     if (open == text.npos && !contains(text, "}")) return addTrace(std::string(text));
 

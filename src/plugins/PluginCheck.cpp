@@ -11,7 +11,7 @@ using Then = EntryMeaning::Then;
 void PluginCheck::begin(PluginFile which) {
   which_ = which;
   number_ = 0;
-  if (which == PluginFile::Files || state_ == Then::EndsList) state_ = Then::GoesOn;
+  if (state_ == Then::EndsList) state_ = Then::GoesOn;
 }
 
 CheckedLine PluginCheck::next(std::string_view line) {
@@ -20,7 +20,6 @@ CheckedLine PluginCheck::next(std::string_view line) {
 }
 
 EntryMeaning PluginCheck::meaningOf(std::string_view line) {
-  if (which_ == PluginFile::Comments) return {number_ == 0 ? "Information" : "Comment"};
   if (state_ == Then::EndsList) return {"Is not read: the list has ended above", false};
   if (state_ == Then::StopsPlugin) return {"Is not read: the plugin has stopped above", false};
   EntryMeaning meaning = which_ == PluginFile::Files

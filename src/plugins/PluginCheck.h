@@ -25,7 +25,7 @@ class PluginCheck {
  public:
   explicit PluginCheck(const Platform& pc) : files_(pc.files), codePage_(pc.codePage), probe_(pc) {}
 
-  void begin(PluginFile which);
+  void begin(PluginFile which);  // Files or Registry: the comments do nothing
   CheckedLine next(std::string_view line);
 
   // A whole file. Fails as Files::open does.

@@ -5,14 +5,6 @@
 
 namespace zub {
 
-std::optional<PluginFile> pluginFileOf(const CodePage& codePage, std::string_view path) {
-  const std::string upper = codePage.upper(path);
-  for (const PluginFile file : {PluginFile::Files, PluginFile::Registry, PluginFile::Comments}) {
-    if (upper.ends_with(codePage.upper(extensionOf(file)))) return file;
-  }
-  return std::nullopt;
-}
-
 bool cutSubfoldersMarker(std::string_view& upperEntry) {
   const auto place = upperEntry.find(SubfoldersMarkerUpper);
   if (place == std::string_view::npos) return false;

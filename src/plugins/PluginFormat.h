@@ -11,10 +11,7 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string_view>
-
-#include "platform/CodePage.h"
 
 namespace zub {
 
@@ -24,9 +21,6 @@ inline constexpr std::array<std::string_view, 3> pluginExtensions{".zb1", ".zb2"
 constexpr std::string_view extensionOf(PluginFile file) {
   return pluginExtensions[static_cast<std::size_t>(file)];
 }
-
-// By the end of the file's name, in any case; none where it is no plugin's file.
-std::optional<PluginFile> pluginFileOf(const CodePage& codePage, std::string_view path);
 
 // What an editor list without entries holds, and how a run knows it.
 inline constexpr std::string_view NoEntries = "No entries.";

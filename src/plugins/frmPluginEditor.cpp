@@ -48,7 +48,7 @@ void frmPluginEditor::NewPlugin() {
   show();
   state.lstRegistry.AddItem(NoEntries);
   state.lstFileFolder.AddItem(NoEntries);
-  setFocus(&State::txtName);
+  state.focus = &State::txtName;
 }
 
 void frmPluginEditor::ShowPlugin(std::string_view name) {
@@ -253,13 +253,8 @@ void frmPluginEditor::removeRow(ListRows& list) {
 bool frmPluginEditor::isBlank(TextBox State::*box, std::string_view message, std::string_view title) {
   if (!trim((state.*box).Text).empty()) return false;
   engine_.userFunctions.ShowMessage(message, 0, title, false);
-  setFocus(box);
-  return true;
-}
-
-void frmPluginEditor::setFocus(TextBox State::*box) {
   state.focus = box;
-  ++state.asked;
+  return true;
 }
 
 }  // namespace zub

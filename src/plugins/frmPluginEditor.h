@@ -57,9 +57,8 @@ class frmPluginEditor {
     TextBox txtInfoPlugin;
     TextBox txtComments;
 
-    // The box that has the focus, as far as the program gave it; `asked` is raised each time it does.
+    // The box that the program has given the focus, until the view has passed it on.
     TextBox State::*focus = nullptr;
-    unsigned asked = 0;
   };
   State state;
 
@@ -105,7 +104,6 @@ class frmPluginEditor {
   void readRows(ListRows& list, std::string_view base, PluginFile file);
   void writeFile(const std::string& base, PluginFile file, std::string_view text);
   bool isBlank(TextBox State::*box, std::string_view message, std::string_view title);
-  void setFocus(TextBox State::*box);
 
   Engine& engine_;
   FirstUse<Plugins>& plugins_;

@@ -1,10 +1,9 @@
-// Whatever the lines of a plugin's files are: the editor's boxes, the check and the split of a search entry stand
-// them, and rows that are edited again and again do not grow.
+// Whatever the lines of a plugin's files are: the editor's boxes and the check stand them, and rows that are edited
+// again and again do not grow.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
-#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "plugins/EditorRows.h"
 #include "plugins/PluginCheck.h"
@@ -38,25 +37,13 @@ void rebuildRegistryRow(const CodePage& codePage, std::string_view line) {
   require(row.starts_with(hive + "\\"));
 }
 
-void splitSearch(const CodePage& codePage, std::string_view line) {
-  const std::string upper = codePage.upper(trim(line));
-  std::string_view entry = upper;
-  cutSubfoldersMarker(entry);
-  try {
-    const SearchEntry search = splitSearchEntry(entry);
-    require(search.folder.size() + search.pattern.size() <= entry.size());
-  } catch (const RuntimeError& failure) {
-    require(failure.number() == ErrorNumber::InvalidCall && !contains(entry, "\\"));
-  }
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static TestPc pc;
-  static PluginCheck check(pc.platform());
+  PluginCheck check(pc.platform());
   const CodePage& codePage = pc.platform().codePage;
-  for (const PluginFile which : {PluginFile::Files, PluginFile::Registry, PluginFile::Comments}) {
+  for (const PluginFile which : {PluginFile::Files, PluginFile::Registry}) {
     check.begin(which);
     std::string_view text(reinterpret_cast<const char*>(data), size);
     while (!text.empty()) {
@@ -66,7 +53,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       require(check.next(line).text == line);
       rebuildFileRow(codePage, line);
       rebuildRegistryRow(codePage, line);
-      splitSearch(codePage, line);
     }
   }
   return 0;

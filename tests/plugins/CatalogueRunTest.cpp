@@ -14,21 +14,23 @@ using namespace zub;
 namespace {
 
 const std::string CurrentUser = "HKEY_CURRENT_USER\\";
-const std::string ClassesRoot = "HKEY_CLASSES_ROOT\\";
 const std::string Decoy = " Decoy";
-
-// The rows whose traces do not do what they seem to say have tests of their own.
-bool isOrdinary(const CatalogueRow& row) {
-  for (const char* name : {"GetRight 3.x", "Real Player 7.x, 8.x and GT2", "WinAce Archiver 1.x",
-                           "Windows Recent Network Drive List"}) {
-    if (row.name == name) return false;
-  }
-  return true;
-}
 
 const Catalogue& builtIn() {
   static const Catalogue catalogue = builtInCatalogue();
   return catalogue;
+}
+
+// The rows whose traces do what they seem to say.
+const std::vector<CatalogueRow>& ordinaryRows() {
+  static const std::vector<CatalogueRow> rows = [] {
+    std::vector<CatalogueRow> all = builtIn().rows();
+    const std::set<std::string> odd{"GetRight 3.x", "Real Player 7.x, 8.x and GT2", "WinAce Archiver 1.x",
+                                    "Windows Recent Network Drive List"};
+    std::erase_if(all, [&](const CatalogueRow& row) { return odd.contains(row.name); });
+    return all;
+  }();
+  return rows;
 }
 
 struct Trace {
@@ -45,18 +47,43 @@ Trace traceOf(const std::string& text) {
   return trace;
 }
 
+// The file that an action removes.
+std::string fileOf(const CatalogueAction& action) {
+  const std::string base = action.base == CatalogueAction::Base::AppData   ? "C:\\User\\"
+                           : action.base == CatalogueAction::Base::Windows ? "C:\\WINDOWS\\"
+                                                                           : "C:\\Installed\\";
+  std::string path = base + action.path;
+  if (action.kind == CatalogueAction::Kind::FilesOfFolder) path += '\\';
+  for (const char c : action.pattern) path += c == '*' ? "any" : std::string(1, c == '?' ? 'q' : c);
+  return path;
+}
+
+// Files that an action must leave: one below, and one of a longer name where not all files go.
+std::vector<std::string> decoysOf(const CatalogueAction& action) {
+  const std::string file = fileOf(action);
+  std::vector<std::string> decoys{std::string(withoutLastPathPart(file)) + "\\Sub\\" +
+                                  std::string(lastPathPart(file))};
+  if (action.pattern != "*.*") decoys.push_back(file + "x.none");
+  return decoys;
+}
+
 // Runs rows in one process on an NT PC, where a key with subkeys stays, and knows what must be left.
 class CatalogueWash : public WashFixture {
  public:
-  CatalogueWash() : WashFixture({"family = nt"}) { pc.shellFolder("AppData", "C:\\User\\Application Data"); }
+  CatalogueWash() : WashFixture({"family = nt"}) { pc.shellFolder("AppData", "C:\\User"); }
 
   void seed(const CatalogueRow& row) {
     for (const CatalogueAction& action : row.actions) {
-      if (action.kind == CatalogueAction::Kind::Trace) {
-        seedTrace(traceOf(action.trace));
-      } else {
-        seedFiles(action);
+      if (action.kind != CatalogueAction::Kind::Trace) {
+        pc.file(fileOf(action));
+        for (const std::string& decoy : decoysOf(action)) pc.file(decoy);
       }
+      if (action.trace.empty()) continue;
+      const Trace trace = traceOf(action.trace);
+      pc.value(trace.key, trace.keyForm ? "1" : trace.value, "C:\\Installed");
+      pc.value(trace.key, "Decoy", "x");
+      if (trace.keyForm) pc.value(trace.key + "\\Sub", "1", "trace");
+      pc.value(trace.key + Decoy, "1", "x");
     }
   }
 
@@ -72,12 +99,11 @@ class CatalogueWash : public WashFixture {
 
   void check(const CatalogueRow& row) {
     for (const CatalogueAction& action : row.actions) {
-      CAPTURE(action.trace);
-      CAPTURE(action.path);
       if (action.kind == CatalogueAction::Kind::Trace) {
         checkTrace(traceOf(action.trace));
       } else {
-        checkFiles(action);
+        CHECK_FALSE_MESSAGE(pc.hasFile(fileOf(action)), fileOf(action));
+        for (const std::string& decoy : decoysOf(action)) CHECK_MESSAGE(pc.hasFile(decoy), decoy);
       }
     }
   }
@@ -92,55 +118,14 @@ class CatalogueWash : public WashFixture {
     return next != wiped_.end() && next->starts_with(parent);
   }
 
-  void seedTrace(const Trace& trace) {
-    pc.value(trace.key, trace.keyForm ? "1" : trace.value, "trace");
-    pc.value(trace.key, "Decoy", "x");
-    if (trace.keyForm) pc.value(trace.key + "\\Sub", "1", "trace");
-    pc.value(trace.key + Decoy, "1", "x");
-  }
-
   void checkTrace(const Trace& trace) {
+    CAPTURE(trace.key);
     if (!trace.keyForm) CHECK_FALSE(pc.hasValue(trace.key, trace.value));
     // From the first key form on a value takes its whole key along.
     CHECK(pc.hasKey(trace.key) == (!isWiped(trace.key) || hasNamedBelow(trace.key)));
     CHECK(pc.hasValue(trace.key, "Decoy") == !isWiped(trace.key));
     // What stands beside a key goes only as a subkey of another one that is wiped.
     CHECK(pc.hasKey(trace.key + Decoy) == !isWiped(withoutLastPathPart(trace.key)));
-  }
-
-  std::string baseOf(const CatalogueAction& action) {
-    if (action.base == CatalogueAction::Base::AppData) return "C:\\User\\Application Data\\";
-    if (action.base == CatalogueAction::Base::Windows) return "C:\\WINDOWS\\";
-    const Trace trace = traceOf(action.trace);
-    pc.value(trace.key, trace.value, "C:\\Installed");
-    return "C:\\Installed\\";
-  }
-
-  // The files that must go, and those that must not.
-  std::pair<std::vector<std::string>, std::vector<std::string>> filesOf(const CatalogueAction& action) {
-    const std::string path = baseOf(action) + action.path;
-    if (action.kind == CatalogueAction::Kind::File) return {{path}, {path + "x"}};
-    std::string name;
-    for (const char c : action.pattern) {
-      if (c == '*') name += "any";
-      if (c == '?') name += 'q';
-      if (c != '*' && c != '?') name += c;
-    }
-    std::vector<std::string> kept{path + "\\Sub\\" + name, path + "x\\" + name};
-    if (action.pattern != "*.*") kept.push_back(path + "\\" + name + "x.none");
-    return {{path + "\\" + name}, kept};
-  }
-
-  void seedFiles(const CatalogueAction& action) {
-    const auto [gone, kept] = filesOf(action);
-    for (const std::string& name : gone) pc.file(name);
-    for (const std::string& name : kept) pc.file(name);
-  }
-
-  void checkFiles(const CatalogueAction& action) {
-    const auto [gone, kept] = filesOf(action);
-    for (const std::string& name : gone) CHECK_FALSE_MESSAGE(pc.hasFile(name), name);
-    for (const std::string& name : kept) CHECK_MESSAGE(pc.hasFile(name), name);
   }
 
   bool keyFormSeen_ = false;
@@ -150,8 +135,7 @@ class CatalogueWash : public WashFixture {
 }  // namespace
 
 TEST_CASE("each row in a fresh process removes its traces and leaves the decoys") {
-  for (const CatalogueRow& row : builtIn().rows()) {
-    if (!isOrdinary(row)) continue;
+  for (const CatalogueRow& row : ordinaryRows()) {
     CAPTURE(row.name);
     CatalogueWash wash;
     wash.seed(row);
@@ -163,110 +147,47 @@ TEST_CASE("each row in a fresh process removes its traces and leaves the decoys"
 
 TEST_CASE("all rows in one process: from the first key form on each value takes its whole key along") {
   CatalogueWash wash;
-  for (const CatalogueRow& row : builtIn().rows()) {
-    if (isOrdinary(row)) wash.seed(row);
-  }
-  for (const CatalogueRow& row : builtIn().rows()) {
-    if (isOrdinary(row)) wash.run(row);
-  }
-  for (const CatalogueRow& row : builtIn().rows()) {
-    CAPTURE(row.name);
-    if (isOrdinary(row)) wash.check(row);
-  }
+  for (const CatalogueRow& row : ordinaryRows()) wash.seed(row);
+  for (const CatalogueRow& row : ordinaryRows()) wash.run(row);
+  for (const CatalogueRow& row : ordinaryRows()) wash.check(row);
   CHECK(wash.progress().lblCompleted.Caption == "80");
 }
 
-namespace {
-
-// A row by itself in a fresh process.
-struct RowWash : WashFixture {
-  using WashFixture::WashFixture;
-  void run(const char* name) { RunStandardPlugin(engine, builtIn(), name); }
-};
-
-const std::string Clips = "Software\\RealNetworks\\RealPlayer\\7.0\\Preferences\\MostRecentClips1";
-
-}  // namespace
-
-TEST_CASE("the same row takes one value in a fresh process and the whole key after a key form") {
-  const std::string key = CurrentUser + "Software\\Nico Mak Computing\\WinZip\\filemenu";
-  for (const bool fresh : {true, false}) {
-    RowWash wash;
-    wash.pc.value(key, "filemenu1", "a");
-    wash.pc.value(key, "Options", "a");
-    if (!fresh) wash.run("Google Toolbar");
-    wash.run("WinZip 7.x and 8.x");
-    CHECK_FALSE(wash.pc.hasValue(key, "filemenu1"));
-    CHECK(wash.pc.hasValue(key, "Options") == fresh);
-  }
-}
-
-TEST_CASE("the correct spelling of the classes hive works on the hive before it") {
-  RowWash wash;
-  wash.pc.value(CurrentUser + Clips, "", "clip");
-  wash.pc.value(ClassesRoot + Clips, "", "clip");
-  wash.run("Real Player 7.x, 8.x and GT2");
-  CHECK_FALSE(wash.pc.hasKey(CurrentUser + Clips));
-  CHECK(wash.pc.hasKey(ClassesRoot + Clips));
-}
-
-TEST_CASE("a hyphen in a key's path ends it") {
-  RowWash wash;
-  for (const char* key :
-       {"software\\e-merge\\winace\\1.0\\favorites", "software\\e-merge\\winace\\1.0\\copy"}) {
-    wash.pc.value(CurrentUser + key, "1", "a");
-  }
-  const std::string before = wash.pc.snapshot();
-  wash.run("WinAce Archiver 1.x");
-  CHECK(wash.pc.diffSince(before) == "");
-  wash.pc.value(CurrentUser + "Software\\E", "1", "a");
-  wash.run("WinAce Archiver 1.x");
-  CHECK_FALSE(wash.pc.hasKey(CurrentUser + "Software\\E"));
-  CHECK(wash.pc.hasKey(CurrentUser + "software\\e-merge\\winace\\1.0\\copy"));
-}
-
-TEST_CASE("a marker in capitals opens the hive itself: harmless until a key form has run") {
-  const char* row = "Windows Recent Network Drive List";
-  RowWash wash({"family = nt"});
-  wash.pc.value(CurrentUser + "Network\\Recent", "1", "a");
-  wash.pc.value("HKEY_CURRENT_USER", "Name", "a");
-  wash.pc.key(CurrentUser + "Leaf");
-  const std::string before = wash.pc.snapshot();
-  wash.run(row);
-  CHECK(wash.pc.diffSince(before) == "");
-
-  wash.run("Google Toolbar");
-  wash.run(row);
-  CHECK_FALSE(wash.pc.hasValue("HKEY_CURRENT_USER", "Name"));
-  CHECK_FALSE(wash.pc.hasKey(CurrentUser + "Leaf"));
-  CHECK(wash.pc.hasValue(CurrentUser + "Network\\Recent", "1"));
-}
-
-TEST_CASE("GetRight's last trace tries the whole hive, and what has subkeys stays on NT") {
-  const std::string key = CurrentUser + "Software\\HeadLight\\GetRight\\";
-  RowWash wash({"family = nt"});
-  for (const char* list : {"FileQueue", "ResumeServers", "TypedURLS", "Other"}) {
-    wash.pc.value(key + list, "1", "a");
-  }
-  wash.run("GetRight 3.x");
-  CHECK_FALSE(wash.pc.hasKey(key + "FileQueue"));
-  CHECK_FALSE(wash.pc.hasKey(key + "ResumeServers"));
-  CHECK(wash.pc.hasValue(key + "TypedURLS", "1"));
-  CHECK(wash.pc.hasValue(key + "Other", "1"));
-}
-
-TEST_CASE("on the 9x family a key's subkeys go with it, however deep") {
-  const std::string key = CurrentUser + "Software\\Google\\NavClient\\1.1\\";
-  for (const bool nt : {false, true}) {
-    RowWash wash({nt ? "family = nt" : "family = 9x"});
-    wash.pc.value(key + "History\\a\\b\\c", "1", "a");
-    wash.pc.value(key + "History\\leaf", "1", "a");
-    wash.pc.value(key + "History", "1", "a");
-    wash.pc.value(key + "Options", "1", "a");
-    wash.run("Google Toolbar");
-    CHECK(wash.pc.hasKey(key + "History\\a\\b\\c") == nt);
-    CHECK_FALSE(wash.pc.hasValue(key + "History", "1"));
-    CHECK_FALSE(wash.pc.hasKey(key + "History\\leaf"));
-    CHECK(wash.pc.hasKey(key + "Options"));
+TEST_CASE("the rows whose traces do not do what they seem to say, on NT") {
+  struct Odd {
+    const char* row;
+    bool afterKeyForm;
+    std::vector<std::string> gone;  // keys of the current user unless they name their hive
+    std::vector<std::string> kept;
+  };
+  const std::string clips = "Software\\RealNetworks\\RealPlayer\\7.0\\Preferences\\MostRecentClips1";
+  const std::string getRight = "Software\\HeadLight\\GetRight\\";
+  const std::string winAce = "software\\e-merge\\winace\\1.0\\";
+  const Odd cases[] = {
+      // The correct spelling of the classes' hive: the hive before it.
+      {"Real Player 7.x, 8.x and GT2", false, {clips}, {"HKEY_CLASSES_ROOT\\" + clips}},
+      // A hyphen ends the key's path.
+      {"WinAce Archiver 1.x", false, {"Software\\E"}, {winAce + "favorites", winAce + "copy"}},
+      // A marker in capitals opens the hive itself: harmless until a key form has run. What has subkeys stays.
+      {"Windows Recent Network Drive List", false, {}, {"Network\\Recent", "Leaf"}},
+      {"Windows Recent Network Drive List", true, {"Leaf"}, {"Network\\Recent"}},
+      {"GetRight 3.x",
+       false,
+       {getRight + "FileQueue", getRight + "ResumeServers", "Leaf"},
+       {getRight + "TypedURLS", getRight + "Other"}},
+  };
+  for (const Odd& one : cases) {
+    CAPTURE(one.row);
+    WashFixture wash({"family = nt"});
+    const auto path = [](const std::string& key) {
+      return key.starts_with("HKEY") ? key : CurrentUser + key;
+    };
+    for (const auto* keys : {&one.gone, &one.kept}) {
+      for (const std::string& key : *keys) wash.pc.value(path(key), "", "trace");
+    }
+    if (one.afterKeyForm) RunStandardPlugin(wash.engine, builtIn(), "Google Toolbar");
+    RunStandardPlugin(wash.engine, builtIn(), one.row);
+    for (const std::string& key : one.gone) CHECK_FALSE_MESSAGE(wash.pc.hasKey(path(key)), key);
+    for (const std::string& key : one.kept) CHECK_MESSAGE(wash.pc.hasValue(path(key), ""), key);
   }
 }

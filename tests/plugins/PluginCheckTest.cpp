@@ -44,8 +44,8 @@ struct CheckPc : WashFixture {
 
 }  // namespace
 
-TEST_CASE("what the check says of a file entry is what a run does with it") {
-  const Checked lines[] = {
+TEST_CASE("what the check says of an entry is what a run does with it") {
+  const Checked files[] = {
       {"C:\\T\\a.tmp", true, "Removes the file C:\\T\\a.tmp"},
       {"  c:\\t\\A.TMP ", true, "Removes the file c:\\t\\A.TMP"},
       {"\\T\\a.tmp", true, "Removes the file \\T\\a.tmp"},
@@ -64,20 +64,7 @@ TEST_CASE("what the check says of a file entry is what a run does with it") {
       {"C:\\T\\a\tb", false, "no file name can hold"},
       {"C:\\T\\C:\\a.tmp", false, "no file name can hold"},
   };
-  for (const Checked& one : lines) {
-    CAPTURE(one.line);
-    CheckPc pc;
-    pc.check.begin(PluginFile::Files);
-    const CheckedLine checked = pc.check.next(one.line);
-    CHECK(checked.works == one.works);
-    CHECK_MESSAGE(contains(checked.meaning, one.meaning), checked.meaning);
-    CHECK(checked.text == one.line);
-    CHECK(pc.runRemoves(one.line, "") == one.works);
-  }
-}
-
-TEST_CASE("what the check says of a registry entry is what a run does with it") {
-  const Checked lines[] = {
+  const Checked traces[] = {
       {"HKey_Current_User\\K- Key*", true, "Removes the key HKey_Current_User\\K with"},
       {"HKEY_CURRENT_USER\\K+ Value`= n", true, "Removes the value n of the key HKEY_CURRENT_USER\\K"},
       {"HKEY_CURRENT_USER\\K+ Value`= ", true, "Removes the unnamed value of the key"},
@@ -98,19 +85,22 @@ TEST_CASE("what the check says of a registry entry is what a run does with it") 
       {"HKEY_CURRENT_USER\\+ Value`= n", false, "the hive itself"},
       {"HKEY_CURRENT_USER\\K + Value`= n", false, "a blank"},
       {"K- Key*", false, "needs a backslash"},
-      {"", false, "needs a backslash"},
       {"HKEY_CURRENT_USER\\K Key*", false, "needs its sign"},
       {"No entries.", false, "only capitals"},
   };
-  for (const Checked& one : lines) {
+  const auto check = [](PluginFile which, const Checked& one) {
     CAPTURE(one.line);
     CheckPc pc;
-    pc.check.begin(PluginFile::Registry);
+    pc.check.begin(which);
     const CheckedLine checked = pc.check.next(one.line);
     CHECK(checked.works == one.works);
     CHECK_MESSAGE(contains(checked.meaning, one.meaning), checked.meaning);
-    CHECK(pc.runRemoves("", one.line + "\r\n") == (one.works || contains(one.line, "n- Key*")));
-  }
+    const bool removes =
+        which == PluginFile::Files ? pc.runRemoves(one.line, "") : pc.runRemoves("", one.line);
+    CHECK(removes == (one.works || one.meaning == "both markers"));
+  };
+  for (const Checked& one : files) check(PluginFile::Files, one);
+  for (const Checked& one : traces) check(PluginFile::Registry, one);
 }
 
 TEST_CASE("a value behind a key takes its whole key, and the check says so") {
@@ -118,42 +108,31 @@ TEST_CASE("a value behind a key takes its whole key, and the check says so") {
   pc.check.begin(PluginFile::Registry);
   CHECK_FALSE(contains(pc.check.next("HKEY_USERS\\a+ Value`= n").meaning, "whole key"));
   CHECK(pc.check.next("HKEY_CURRENT_USER\\None- Key*").works);
-  CHECK(contains(pc.check.next("HKEY_CURRENT_USER\\K+ Value`= other").meaning, "and the whole key with it"));
+  for (const char* value : {"HKEY_CURRENT_USER\\K+ Value`= other", "HKEY_USERS\\a+ Value`= n"}) {
+    CHECK(contains(pc.check.next(value).meaning, "and the whole key with it"));
+  }
   pc.runRemoves("", "HKEY_CURRENT_USER\\None\\a- Key*\r\nHKEY_CURRENT_USER\\K+ Value`= other");
   CHECK_FALSE(pc.pc.hasKey("HKEY_CURRENT_USER\\K"));
 }
 
 TEST_CASE("a check goes through the files as a run does") {
   CheckPc pc;
-  pc.pc.file(Base + ".zb1", "C:\\T\\a.tmp\r\nno entries.\r\nC:\\T\\b.tmp");
-  pc.pc.file(Base + ".zb2", "HKEY_USERS\\a- Key*\r\nNO ENTRIES.\r\nHKEY_USERS\\b- Key*\r\n");
-  pc.pc.file(Base + ".zb3", "Info\r\nno backslash");
-  auto lines = pc.check.readFile(Base + ".zb1", PluginFile::Files);
-  REQUIRE(lines.size() == 3);
-  CHECK(lines[1].works);
-  CHECK_FALSE(lines[2].works);
-  CHECK(lines[2].number == 3);
-  CHECK(contains(lines[2].meaning, "the list has ended"));
-  lines = pc.check.readFile(Base + ".zb2", PluginFile::Registry);
-  REQUIRE(lines.size() == 3);
-  CHECK(lines[0].works);
-  CHECK_FALSE(lines[2].works);
-  lines = pc.check.readFile(Base + ".zb3", PluginFile::Comments);
-  CHECK((lines.size() == 2 && lines[1].works));
-  CHECK_THROWS_AS(pc.check.readFile(Base + "x.zb1", PluginFile::Files), RuntimeError);
-
-  pc.pc.file(Base + ".zb1", "*.tmp\r\nC:\\T\\a.tmp");
-  lines = pc.check.readFile(Base + ".zb1", PluginFile::Files);
-  CHECK(contains(lines[1].meaning, "the plugin has stopped"));
-  lines = pc.check.readFile(Base + ".zb2", PluginFile::Registry);
-  CHECK(contains(lines[0].meaning, "the plugin has stopped"));
-}
-
-TEST_CASE("a plugin's file is known by its ending") {
-  TestPc pc;
-  const CodePage& codePage = pc.platform().codePage;
-  CHECK(pluginFileOf(codePage, "C:\\a.ZB2") == PluginFile::Registry);
-  CHECK(pluginFileOf(codePage, "a.zb1") == PluginFile::Files);
-  CHECK_FALSE(pluginFileOf(codePage, "a.zb4"));
-  CHECK_FALSE(pluginFileOf(codePage, "zb1"));
+  const auto read = [&](std::string_view text, PluginFile which) {
+    pc.pc.file(Base + ".txt", text);
+    std::string meanings;
+    for (const CheckedLine& line : pc.check.readFile(Base + ".txt", which)) {
+      meanings +=
+          std::to_string(line.number) + (line.works ? " " : "! ") + line.text + ": " + line.meaning + ";";
+    }
+    return meanings;
+  };
+  CHECK(read("C:\\a\r\nno entries.\r\nC:\\b", PluginFile::Files) ==
+        "1 C:\\a: Removes the file C:\\a;2 no entries.: Ends the list;"
+        "3! C:\\b: Is not read: the list has ended above;");
+  CHECK(read(" NO ENTRIES. \r\nx\r\n", PluginFile::Registry) ==
+        "1  NO ENTRIES. : Ends the list;2! x: Is not read: the list has ended above;");
+  CHECK(read("*.tmp", PluginFile::Files).starts_with("1! *.tmp: Stops the plugin"));
+  CHECK(read("HKEY_USERS\\a- Key*", PluginFile::Registry) ==
+        "1! HKEY_USERS\\a- Key*: Is not read: the plugin has stopped above;");
+  CHECK_THROWS_AS(pc.check.readFile(Base + ".zb1", PluginFile::Files), RuntimeError);
 }

@@ -1,8 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "plugins/Catalogue.h"
 #include "plugins/Plugins.h"
-#include "plugins/StandardList.h"
 #include "support/WashFixture.h"
 
 using namespace zub;
@@ -26,13 +24,13 @@ TEST_CASE("an absent plugin folder is an empty list, until it is there") {
   Plugins plugins(wash.engine);
   plugins.RefreshPluginList();
   CHECK(plugins.CurPath() == Folder);
-  CHECK(wash.options.lstFiles.ListCount() == 0);
+  CHECK(rowsOf(wash.options.lstFiles) == "");
   wash.pc.file(Folder + "\\a.zb1");
   plugins.RefreshPluginList();
   CHECK(rowsOf(wash.options.lstFiles) == "a;");
   wash.pc.platform().files.deleteFolder(Folder);
   plugins.RefreshPluginList();
-  CHECK(wash.options.lstFiles.ListCount() == 0);
+  CHECK(rowsOf(wash.options.lstFiles) == "");
 }
 
 TEST_CASE("the list has a row for each .zb1, sorted, cut by four characters, unticked") {
@@ -43,49 +41,28 @@ TEST_CASE("the list has a row for each .zb1, sorted, cut by four characters, unt
   }
   Plugins plugins(wash.engine);
   plugins.RefreshPluginList();
+  wash.options.lstFiles.selectAll(true);
+  plugins.RefreshPluginList();
   CHECK(rowsOf(wash.options.lstFiles) == ";Alpha;beta;delta.one;");
-  wash.options.lstFiles.selectAll(true);
-  plugins.RefreshPluginList();
-  CHECK(wash.options.lstFiles.SelCount() == 0);
 }
 
-TEST_CASE("removing takes the three files of the current row as a wash does, and all ticks") {
-  WashFixture wash;
-  for (const char* name : {"\\a.zb1", "\\a.zb2", "\\a.zb3", "\\a.zb4", "\\b.zb1", "\\b.zb2"}) {
-    wash.pc.file(Folder + name);
+TEST_CASE("removing takes the three files of the current row as a wash does, or those without a name") {
+  for (const std::string current : {"a", ""}) {
+    WashFixture wash;
+    for (const char* name : {"\\a.zb1", "\\a.zb2", "\\a.zb3", "\\a.zb4", "\\b.zb1", "\\.zb3"}) {
+      wash.pc.file(Folder + name);
+    }
+    wash.pc.readOnly(Folder + "\\a.zb2");
+    Plugins plugins(wash.engine);
+    plugins.RefreshPluginList();
+    wash.options.lstFiles.selectAll(true);
+    if (current == "a") wash.options.lstFiles.ListIndex(0);
+    const std::string before = wash.pc.snapshot();
+    plugins.RemovePlugin();
+    CHECK(rowsOf(wash.options.lstFiles) == (current == "a" ? "b;" : "a;b;"));
+    const std::string name = Folder + "\\" + current + ".zb";
+    CHECK(beyond(wash.pc.diffSince(before), {name + "1", name + "2", name + "3"}) == "");
+    CHECK_FALSE(wash.pc.hasFile(name + "3"));
+    CHECK(wash.engine.TotalBytes == (current == "a" ? 3 : 1));
   }
-  wash.pc.readOnly(Folder + "\\a.zb2");
-  Plugins plugins(wash.engine);
-  plugins.RefreshPluginList();
-  wash.options.lstFiles.selectAll(true);
-  wash.options.lstFiles.ListIndex(0);
-  const std::string before = wash.pc.snapshot();
-  plugins.RemovePlugin();
-  CHECK(rowsOf(wash.options.lstFiles) == "b;");
-  CHECK(wash.takeReport() == "\tDeleting file a.zb1\r\n\tDeleting file a.zb2\r\n\tDeleting file a.zb3\r\n");
-  CHECK(wash.pc.hasFile(Folder + "\\a.zb4"));
-  CHECK(wash.pc.hasFile(Folder + "\\b.zb2"));
-  CHECK(wash.engine.TotalBytes == 3);
-}
-
-TEST_CASE("removing without a current row tries the files without a name") {
-  WashFixture wash;
-  wash.pc.file(Folder + "\\a.zb1");
-  wash.pc.file(Folder + "\\.zb3");
-  Plugins plugins(wash.engine);
-  plugins.RefreshPluginList();
-  plugins.RemovePlugin();
-  CHECK(rowsOf(wash.options.lstFiles) == "a;");
-  CHECK_FALSE(wash.pc.hasFile(Folder + "\\.zb3"));
-}
-
-TEST_CASE("the standard list shows the catalogue sorted, and describes exact names only") {
-  const Catalogue catalogue = Catalogue::parse(
-      "[b row]\nabout It cleans b.\ntrace HKEY_USERS\\b- Key*\n"
-      "[A row]\nabout It cleans a.\ntrace HKEY_USERS\\a- Key*\n");
-  ListRows rows{ListRows::Order::Sorted};
-  FillStandardList(rows, catalogue);
-  CHECK(rowsOf(rows) == "A row;b row;");
-  CHECK(standardPluginDescription(catalogue, "b row") == "It cleans b.");
-  CHECK(standardPluginDescription(catalogue, "B row") == "");
 }
