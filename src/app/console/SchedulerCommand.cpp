@@ -10,6 +10,7 @@
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
 #include "scheduler/AutomaticInterval.h"
+#include "scheduler/DatedEntries.h"
 #include "scheduler/DueTimes.h"
 
 namespace zub {
@@ -31,38 +32,40 @@ class Scheduler {
         root_(openHostDir(context.pc.folder())),
         due_(clock_.local()),
         automatic_(clock_, options_) {
-    automatic_.startWash = [this] {
-      wash("", washCommand);
-      automatic_.timer.Enabled = true;
-    };
-    readTasks();
-    readOptions();
+    automatic_.startWash = [this] { start("", washCommand); };
   }
 
   void step() {
     const SystemTime now = clock_.local();
     if (now.wMinute != minute_) {
       minute_ = now.wMinute;
-      guarded([this] { readOptions(); });
+      guarded(optionsFailure_, [this] { readOptions(); });
     }
-    guarded([this] { readTasks(); });
-    for (const std::size_t index : due_.look(times_, now)) wash(parameters_[index], startCommand);
+    guarded(tasksFailure_, [this] { readTasks(); });
+    for (const std::size_t index : due_.look(times_, now)) start(parameters_[index], startCommand);
     automatic_.Timer_Tick();
   }
 
  private:
   // A text that somebody is just changing, or has damaged, is told once; what was read before stays in force.
+  // `told` is the failure of the last time.
   template <class Work>
-  void guarded(Work work) {
+  static void guarded(std::string& told, Work work) {
     try {
       work();
-      told_.clear();
+      told.clear();
     } catch (const std::exception& error) {
-      if (told_ != error.what()) std::fprintf(stderr, "zub: %s\n", error.what());
-      told_ = error.what();
+      if (told != error.what()) std::fprintf(stderr, "zub: %s\n", error.what());
+      told = error.what();
     }
   }
 
+  // The PC as it is now. It can be washed while the tasks are damaged.
+  std::unique_ptr<ConsolePc> openPc(const std::string& commandLine) {
+    return openFolderPc(context_.pc.folder(), context_.loop, context_.loop, commandLine, DamagedTasks::Fail);
+  }
+
+  // The program's own task; others belong to other programs.
   void readTasks() {
     const std::string text = readHostText(*root_, FolderTasks::FileName).value_or("");
     if (text == tasksText_) return;
@@ -71,6 +74,7 @@ class Scheduler {
     times_.clear();
     parameters_.clear();
     for (const TaskRecord& task : tasks) {
+      if (task.name != DatedEntries::TaskName) continue;
       for (const TriggerRecord& trigger : task.triggers) {
         times_.push_back(trigger.begin);
         parameters_.push_back(task.parameters);
@@ -80,7 +84,7 @@ class Scheduler {
 
   // The interval's two options, as the store keeps them now.
   void readOptions() {
-    const auto pc = openFolderPc(context_.pc.folder(), context_.loop, context_.loop, "");
+    const auto pc = openPc("");
     const Store store(pc->platform());
     const int on = store.options.chkRunAuto.Value();
     const int row = store.options.ComboInterval.ListIndex();
@@ -90,10 +94,11 @@ class Scheduler {
     automatic_.chkRunAuto_Click();
   }
 
-  // Starts the program anew on the PC as it is now.
-  void wash(const std::string& commandLine, int (*command)(CommandContext&)) {
-    guarded([&] {
-      const auto pc = openFolderPc(context_.pc.folder(), context_.loop, context_.loop, commandLine);
+  // Starts the program anew. Each start that fails is told.
+  void start(const std::string& commandLine, int (*command)(CommandContext&)) {
+    std::string told;
+    guarded(told, [&] {
+      const auto pc = openPc(commandLine);
       CommandContext started{*pc, context_.loop, {}};
       command(started);
       std::fflush(stdout);
@@ -109,7 +114,8 @@ class Scheduler {
   std::vector<SystemTime> times_;
   std::vector<std::string> parameters_;  // beside times_
   std::string tasksText_;
-  std::string told_;
+  std::string tasksFailure_;
+  std::string optionsFailure_;
   int minute_ = -1;
 };
 
