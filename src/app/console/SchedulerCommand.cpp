@@ -1,6 +1,7 @@
 // The stand-alone scheduler: waits in the foreground and starts the program at each dated wash and interval.
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 
@@ -42,7 +43,7 @@ class Scheduler {
       guarded(optionsFailure_, [this] { readOptions(); });
     }
     guarded(tasksFailure_, [this] { readTasks(); });
-    for (const std::size_t index : due_.look(times_, now)) start(parameters_[index], startCommand);
+    for (int due = due_.look(times_, now); due > 0; --due) start(parameters_, startCommand);
     automatic_.Timer_Tick();
   }
 
@@ -72,14 +73,10 @@ class Scheduler {
     const std::vector<TaskRecord> tasks = readTasksText(text, FolderTasks::FileName);
     tasksText_ = text;
     times_.clear();
-    parameters_.clear();
-    for (const TaskRecord& task : tasks) {
-      if (task.name != DatedEntries::TaskName) continue;
-      for (const TriggerRecord& trigger : task.triggers) {
-        times_.push_back(trigger.begin);
-        parameters_.push_back(task.parameters);
-      }
-    }
+    const auto task = std::ranges::find(tasks, DatedEntries::TaskName, &TaskRecord::name);
+    if (task == tasks.end()) return;
+    parameters_ = task->parameters;
+    for (const TriggerRecord& trigger : task->triggers) times_.push_back(trigger.begin);
   }
 
   // The interval's two options, as the store keeps them now.
@@ -112,7 +109,7 @@ class Scheduler {
   Options options_;
   AutomaticInterval automatic_;
   std::vector<SystemTime> times_;
-  std::vector<std::string> parameters_;  // beside times_
+  std::string parameters_;  // of the task that the times belong to
   std::string tasksText_;
   std::string tasksFailure_;
   std::string optionsFailure_;
