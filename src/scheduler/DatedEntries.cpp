@@ -6,7 +6,6 @@
 namespace zub {
 namespace {
 
-constexpr std::string_view taskName = "ZUB";
 constexpr int SingleRun = 0;
 constexpr int SaveNow = 0;
 
@@ -34,12 +33,12 @@ ScheduleTask& DatedEntries::OpenScheduledTask() {
   const int count = pc_.tasks.count();
   for (position_ = 1; position_ <= count; ++position_) {
     ScheduleTask& task = pc_.tasks.at(position_);
-    if (task.name() != taskName) continue;
+    if (task.name() != TaskName) continue;
     task.application(path);
     task.parameters(" /SCHEDULER");
     return task;
   }
-  ScheduleTask& task = pc_.tasks.add(taskName);
+  ScheduleTask& task = pc_.tasks.add(TaskName);
   task.application(path);
   task.comment("Zubrane");
   task.save(SaveNow);

@@ -15,6 +15,8 @@ namespace zub {
 
 class DatedEntries {
  public:
+  static constexpr std::string_view TaskName = "ZUB";
+
   DatedEntries(const Platform& pc, UserFunctions& user) : pc_(pc), user_(user) {}
 
   ListRows lstSchedule;

@@ -1,5 +1,7 @@
 #include "scheduler/DueTimes.h"
 
+#include <algorithm>
+
 namespace zub {
 namespace {
 
@@ -7,17 +9,14 @@ constexpr std::int64_t LongestStep = 300;  // seconds
 
 }  // namespace
 
-std::vector<std::size_t> DueTimes::look(const std::vector<SystemTime>& times, const SystemTime& now) {
+int DueTimes::look(const std::vector<SystemTime>& times, const SystemTime& now) {
   const std::int64_t present = secondsOf(now);
   const std::int64_t before = last_;
   last_ = present;
-  std::vector<std::size_t> due;
-  if (present < before || present - before > LongestStep) return due;
-  for (std::size_t index = 0; index < times.size(); ++index) {
-    const std::int64_t time = secondsOf(times[index]);
-    if (time > before && time <= present) due.push_back(index);
-  }
-  return due;
+  if (present < before || present - before > LongestStep) return 0;
+  const auto due = std::ranges::count_if(
+      times, [&](const SystemTime& time) { return secondsOf(time) > before && secondsOf(time) <= present; });
+  return static_cast<int>(due);
 }
 
 }  // namespace zub

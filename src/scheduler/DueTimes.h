@@ -1,4 +1,4 @@
-// Which single-run times have come since the last look: what a scheduler of its own needs besides waiting.
+// How many single-run times have come since the last look: what a scheduler of its own needs besides waiting.
 #pragma once
 
 #include <cstdint>
@@ -12,9 +12,9 @@ class DueTimes {
  public:
   explicit DueTimes(const SystemTime& now) : last_(secondsOf(now)) {}
 
-  // The indexes of the times after the last look and up to now. A clock that was put back, or on by more than five
+  // The number of times after the last look and up to now. A clock that was put back, or on by more than five
   // minutes, starts anew from now: what lay between is lost, and what lies ahead again comes again.
-  std::vector<std::size_t> look(const std::vector<SystemTime>& times, const SystemTime& now);
+  int look(const std::vector<SystemTime>& times, const SystemTime& now);
 
  private:
   std::int64_t last_;  // seconds

@@ -64,21 +64,26 @@ stop TERM
 check "more than the two damages is told" [ "$(wc -l <"$work/told")" -eq 2 ]
 check "something was washed" [ ! -s "$work/said" ]
 
-# A dated wash that comes within seconds, by a local time of its own. It is added while the scheduler runs; another
-# one, a minute ago, is over.
-washed() { [ ! -e "$temp/old.tmp" ]; }
+# A dated wash that comes within seconds, by a local time of its own. It is added while the scheduler runs; another one, a
+# minute ago, is over, the same times of another program's task are not meant, and a damage that comes later stops nothing.
+reported() { grep -q '^Last removal' "$work/said"; }
 echo old >"$temp/old.tmp"
-secondsBefore 6
+secondsBefore 9
 begin
 for minutes in 0 1; do
   when=@$((present + minutes * 60))
   run 0 --pc "$pc" schedule add "$(date -d $when +%-m/%-d/%Y)" "$(date -d $when +%H:%M)"
 done
+{ echo "task = Other"; echo "parameters =  /SCHEDULER"; grep '^trigger' "$pc/tasks.txt"; } >"$work/other"
+cat "$work/other" >>"$pc/tasks.txt"
+until_true waited $(($(waits) + 3))
+echo "damaged" >>"$pc/tasks.txt"
+until_true told "tasks.txt: line"
 here "$temp/old.tmp"
-until_true washed
-reported() { grep -q '^Last removal' "$work/said"; }
 until_true reported
+gone "$temp/old.tmp"
 until_true waited $(($(waits) + 2))
 stop INT
-check "the progress of one wash is not told" [ "$(cat "$work/told")" = "Temporary Folder" ]
+check "the progress of one wash is not told" [ "$(sed 1d "$work/told")" = "Temporary Folder" ]
 check "one wash is not reported" [ "$(grep -c '^Zubrone' "$work/said")" -eq 1 ]
+check "the damaged tasks were written over" [ "$(tail -n 1 "$pc/tasks.txt")" = damaged ]

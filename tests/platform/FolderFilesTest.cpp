@@ -276,6 +276,23 @@ TEST_CASE("a folder replaced behind a kept handle is found anew") {
   CHECK(files.fileExists("C:\\a\\new"));
 }
 
+TEST_CASE("a profile is replaced in one step, and no file beside it is lost") {
+  const std::string ini = "C:\\WINDOWS\\wininit.ini";
+  for (const bool readOnly : {false, true}) {
+    TestPc pc;
+    pc.file(ini, "[a]\r\n");
+    pc.file(ini + ".new", "somebody's own");
+    if (readOnly) pc.readOnly(ini);
+    const std::string host = pc.hostFolder() + "/C/WINDOWS/";
+    REQUIRE(::link((host + "wininit.ini").c_str(), (host + "same").c_str()) == 0);
+    pc.platform().restart.writeProfile("a", "k", "1", "wininit.ini");
+    CHECK(pc.bytes(ini) == (readOnly ? "[a]\r\n" : "[a]\r\nk=1\r\n"));
+    CHECK(pc.bytes("C:\\WINDOWS\\same") == "[a]\r\n");
+    CHECK(pc.bytes(ini + ".new") == "somebody's own");
+    CHECK_FALSE(pc.hasFile(ini + ".new_"));
+  }
+}
+
 TEST_CASE("names of the host that no path leads to are not told") {
   Fenced fenced;
   std::unique_ptr<HostDir> folder;

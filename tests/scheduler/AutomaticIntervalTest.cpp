@@ -26,34 +26,16 @@ struct Watch {
     pc.now.wMinute = static_cast<std::uint16_t>(minute);
     pc.now.wSecond = static_cast<std::uint16_t>(second);
   }
-  std::pair<int, int> next() { return {automatic.NextRemoval.wHour, automatic.NextRemoval.wMinute}; }
-  // The seconds pass one by one. A wash that the timer starts lasts some seconds without ticks. The minutes of
-  // the day at which a wash began.
-  std::vector<int> run(int seconds, int washSeconds) {
-    std::vector<int> begun;
-    int busy = 0;
-    for (int second = 0; second < seconds; ++second) {
-      pc.now = timeFromSeconds(secondsOf(pc.now) + 1);
-      if (busy > 0 && --busy == 0) automatic.timer.Enabled = true;  // as the finished wash does
-      if (!automatic.timer.Enabled) continue;
-      const int before = washes;
-      automatic.Timer_Tick();
-      if (washes == before) continue;
-      begun.push_back(pc.now.wHour * 60 + pc.now.wMinute);
-      busy = washSeconds;
-      if (busy == 0) automatic.timer.Enabled = true;
-    }
-    return begun;
+  // Whether the tick at this time washes; the wash ends at once.
+  bool washesAt(int hour, int minute, int second = 0) {
+    const int before = washes;
+    at(hour, minute, second);
+    automatic.Timer_Tick();
+    automatic.timer.Enabled = true;
+    return washes > before;
   }
+  std::pair<int, int> next() { return {automatic.NextRemoval.wHour, automatic.NextRemoval.wMinute}; }
 };
-
-std::vector<int> every(int step, int first, int last) {
-  std::vector<int> minutes;
-  for (int minute = first; minute <= last; minute += step) minutes.push_back(minute);
-  return minutes;
-}
-
-constexpr int Day = 86400;
 
 }  // namespace
 
@@ -89,56 +71,46 @@ TEST_CASE("the next time of every row at every minute of a day") {
 
 TEST_CASE("whole days, second by second: washes until a time that never comes") {
   struct {
-    int hour, minute, row;
-    std::vector<int> washes;  // on the first day; the days after are silent
-  } const rows[] = {{10, 50, 2, every(15, 11 * 60 + 5, 23 * 60 + 50)},  {10, 45, 2, {}},
-                    {10, 10, 1, every(30, 10 * 60 + 40, 23 * 60 + 40)}, {10, 30, 1, {}},
-                    {10, 20, 0, every(60, 11 * 60 + 20, 23 * 60 + 20)}, {23, 59, 0, {}}};
+    int row, step;
+    int start, last;  // minutes of the day: of the choice, and of the last wash; the day after is silent
+  } const rows[] = {{2, 15, 10 * 60 + 50, 23 * 60 + 50}, {2, 15, 10 * 60 + 45, 0},
+                    {1, 30, 10 * 60 + 10, 23 * 60 + 40}, {1, 30, 10 * 60 + 30, 0},
+                    {0, 60, 10 * 60 + 20, 23 * 60 + 20}, {0, 60, 23 * 60 + 59, 0}};
   for (const auto& row : rows) {
-    for (const int washSeconds : {0, 3, 90}) {
-      CAPTURE(row.hour);
-      CAPTURE(row.minute);
-      CAPTURE(washSeconds);
-      Watch watch;
-      watch.options.ComboInterval.ListIndex(row.row);
-      watch.at(row.hour, row.minute);
-      watch.options.chkRunAuto.Value(1);
-      CHECK(watch.run(3 * Day, washSeconds) == row.washes);
-      // Touching the option wakes it again.
-      watch.at(9, 1);
-      watch.options.chkRunAuto.Value(1);
-      CHECK(watch.run(3660, washSeconds).size() >= 1);
-    }
-  }
-}
-
-TEST_CASE("a text that is no row is due at once, and at that minute of each day") {
-  for (const int washSeconds : {0, 20, 120}) {
+    CAPTURE(row.start);
     Watch watch;
-    watch.options.ComboInterval.type("now");
-    watch.at(10, 20, 9);
+    watch.options.ComboInterval.ListIndex(row.row);
+    watch.at(row.start / 60, row.start % 60);
     watch.options.chkRunAuto.Value(1);
-    const std::vector<int> washes = watch.run(2 * Day, washSeconds);
-    // From 10:20:10 on, as often as a wash ends within the minute; the next day from 10:20:00, and in the last
-    // ten seconds of the run from 10:20:00 once more.
-    const std::size_t expected = washSeconds == 0 ? 50 + 60 + 10 : washSeconds == 20 ? 3 + 3 + 1 : 3;
-    CHECK(washes == std::vector<int>(expected, 10 * 60 + 20));
+    std::vector<int> washed, expected;
+    for (int due = row.start + row.step; due <= row.last; due += row.step) expected.push_back(due);
+    for (int second = row.start * 60 + 1; second < 2 * 86400; ++second) {
+      const int minute = second / 60;
+      if (watch.washesAt(minute / 60 % 24, minute % 60, second % 60)) washed.push_back(minute);
+    }
+    CHECK(washed == expected);
+    // Touching the option wakes it again.
+    watch.at(9, 1);
+    watch.options.chkRunAuto.Value(1);
+    CHECK(watch.washesAt(watch.next().first, watch.next().second));
   }
 }
 
-TEST_CASE("a due minute without a tick is lost, and the same time fires on the next day") {
+TEST_CASE("a due minute is seen by its ticks alone, on each day") {
   Watch watch;
-  watch.options.ComboInterval.ListIndex(0);
   watch.at(10, 20);
   watch.options.chkRunAuto.Value(1);
-  watch.at(11, 19, 58);
-  CHECK(watch.run(1, 0).empty());
-  watch.at(11, 21);  // asleep through the whole minute
-  CHECK(watch.next() == std::pair{11, 20});
-  const std::vector<int> washes = watch.run(Day, 0);
-  REQUIRE_FALSE(washes.empty());
-  CHECK(washes.front() == 11 * 60 + 20);
-  CHECK(watch.pc.now.wDay == 15);
+  CHECK_FALSE(watch.washesAt(11, 19, 59));
+  CHECK_FALSE(watch.washesAt(11, 21));  // asleep through the whole minute, and not caught up
+  CHECK_FALSE(watch.washesAt(12, 20));
+  CHECK(watch.washesAt(11, 20, 59));
+
+  watch.at(10, 20, 9);
+  watch.options.ComboInterval.type("now");  // no row: due at once, and again within the minute
+  CHECK(watch.washesAt(10, 20, 10));
+  CHECK(watch.washesAt(10, 20, 59));
+  CHECK_FALSE(watch.washesAt(10, 21));
+  CHECK(watch.washesAt(10, 20));
 }
 
 TEST_CASE("the clock shows the time, or the next wash, and blinks at every tick") {
@@ -146,32 +118,29 @@ TEST_CASE("the clock shows the time, or the next wash, and blinks at every tick"
   CHECK(watch.automatic.timer.Enabled);
   CHECK(watch.automatic.timer.Interval == 1000);
   CHECK(watch.automatic.lblTimerRemove.Caption == "Next auto track removal at:");
-  watch.at(9, 5);
-  watch.automatic.Timer_Tick();
+  watch.washesAt(9, 5);
   CHECK(watch.automatic.display.text == "09:05");
   CHECK(watch.automatic.display.colon);
   watch.options.chkRunAuto.Value(0);
   CHECK(watch.automatic.lblTimerRemove.Caption == "Current time:");
   CHECK(watch.next() == std::pair{0, 0});
+  CHECK_FALSE(watch.washesAt(0, 0));
 
   watch.options.ComboInterval.ListIndex(2);
   watch.at(9, 45);
   watch.options.chkRunAuto.Value(1);
   CHECK(watch.automatic.lblTimerRemove.Caption == "Next auto track removal at:");
-  watch.automatic.Timer_Tick();
+  watch.washesAt(9, 45);
   CHECK(watch.automatic.display.text == "09:60");
-  CHECK_FALSE(watch.automatic.display.colon);
-  CHECK(watch.washes == 0);
-}
+  CHECK(watch.automatic.display.colon);
 
-TEST_CASE("the tick of a due minute shows it, then plans the next and stands still for its wash") {
-  Watch watch;
-  watch.at(9, 0);
-  watch.options.chkRunAuto.Value(1);
-  watch.at(10, 0, 59);
+  // The tick of a due minute shows it, then plans the next and stands still for its wash.
+  watch.at(10, 0);
+  watch.options.ComboInterval.ListIndex(2);
+  watch.at(10, 15, 59);
   watch.automatic.Timer_Tick();
   CHECK(watch.washes == 1);
-  CHECK(watch.automatic.display.text == "10:00");
-  CHECK(watch.next() == std::pair{11, 0});
+  CHECK(watch.automatic.display.text == "10:15");
+  CHECK(watch.next() == std::pair{10, 30});
   CHECK_FALSE(watch.automatic.timer.Enabled);
 }

@@ -1,55 +1,71 @@
 #include <doctest/doctest.h>
 
+#include "base/RuntimeError.h"
 #include "scheduler/DatedEntries.h"
-#include "scheduler/FakeTasks.h"
+#include "support/TempFolder.h"
 #include "support/TestPc.h"
 
 using namespace zub;
 
 namespace {
 
-using Texts = std::vector<std::string>;
+// What the tasks text holds for the program's task, up to its parameters.
+const std::string Task = "task = ZUB\napplication = C:\\Program Files\\Zubrane\\zub\nparameters = ";
+const std::string Comment = "\ncomment = Zubrane\n";
 
 struct Tab {
   TestPc pc;
-  FakeTasks scheduler;
-  Platform platform = with(pc.platform(), scheduler);
   Options options;
-  UserFunctions user{platform, options};
-  DatedEntries dated{platform, user};
+  UserFunctions user{pc.platform(), options};
+  DatedEntries dated{pc.platform(), user};
+  std::unique_ptr<HostDir> host = openHostDir(pc.hostFolder());
 
+  std::string tasks() { return readHostFile(*host, "tasks.txt"); }
+  void tasks(const std::string& text) { writeHostFile(*host, "tasks.txt", text); }
   void add(const char* date, const char* time) {
     dated.txtDate.Text = date;
     dated.txtTime.Text = time;
     dated.cmdAdd_Click();
   }
-  FakeTask& task() { return scheduler.tasks.back(); }
-  Texts rows() {
-    Texts all;
-    for (int row = 0; row < dated.lstSchedule.ListCount(); ++row) all.push_back(dated.lstSchedule.List(row));
+  void remove(int row) {
+    dated.lstSchedule.ListIndex(row);
+    dated.cmdRemoveScheduled_Click();
+  }
+  std::string rows() {
+    std::string all;
+    for (int row = 0; row < dated.lstSchedule.ListCount(); ++row) all += dated.lstSchedule.List(row) + "\n";
     return all;
   }
-  static Platform with(const Platform& p, ScheduleTasks& tasks) {
-    return {p.codePage, p.registry, p.files,  p.drives,   p.folders, p.restart, p.shell,
-            p.clock,    p.process,  p.events, p.messages, p.tray,    tasks};
-  }
+};
+
+// The program's task alone, with a dialog.
+struct ShownTask : ScheduleTasks, ScheduleTask {
+  int dialogs = 0;
+
+  void refresh() override {}
+  int count() override { return 1; }
+  ScheduleTask& at(int) override { return *this; }
+  ScheduleTask& add(std::string_view) override { return *this; }
+  std::string name() override { return "ZUB"; }
+  void application(std::string_view) override {}
+  void parameters(std::string_view) override {}
+  void comment(std::string_view) override {}
+  ScheduleTriggers& triggers() override { throw RuntimeError(ErrorNumber::Automation); }
+  void save(int) override {}
+  void showProperties() override { ++dialogs; }
 };
 
 }  // namespace
 
-TEST_CASE("the task is made once, with its comment, and gets its parameters when it is found again") {
+TEST_CASE("the task is made once, and gets its parameters when it is found again") {
   Tab tab;
-  tab.dated.cmdAdvancedScheduler_Click();
-  REQUIRE(tab.scheduler.tasks.size() == 1);
-  CHECK(tab.task().name() == "ZUB");
-  CHECK(tab.task().path == "C:\\Program Files\\Zubrane\\zub");
-  CHECK(tab.task().remark == "Zubrane");
-  CHECK(tab.task().arguments == "");
-  CHECK(tab.task().calls == Texts{"save 0", "properties"});
-  tab.dated.cmdAdvancedScheduler_Click();
-  CHECK(tab.scheduler.tasks.size() == 1);
-  CHECK(tab.task().arguments == " /SCHEDULER");
-  CHECK(tab.task().calls == Texts{"save 0", "properties", "properties"});
+  for (int time = 0; time < 2; ++time) {
+    tab.dated.InitSchedulerTab();
+    CHECK(tab.tasks() == Task + Comment);
+  }
+  tab.dated.txtDate.Text = "12/31/2001";
+  tab.dated.cmdAdd_Click();
+  CHECK(tab.tasks() == Task + " /SCHEDULER" + Comment + "trigger = 0 2001-12-31 10:20\n");
 }
 
 TEST_CASE("the tab starts with tomorrow at this time, and the entries that there are") {
@@ -64,41 +80,54 @@ TEST_CASE("the tab starts with tomorrow at this time, and the entries that there
   for (const auto& row : rows) {
     Tab tab;
     tab.pc.now = row.now;
-    tab.scheduler.tasks.emplace_back("ZUB").list.resize(2);
+    tab.tasks("task = ZUB\ntrigger = 0 2030-02-28 10:00\n");
     tab.dated.InitSchedulerTab();
     CHECK(tab.dated.txtDate.Text == row.date);
     CHECK(tab.dated.txtTime.Text == row.time);
-    CHECK(tab.rows().size() == 2);
+    CHECK(tab.rows() == "At 10:00 AM on 2/28/2030\n");
     tab.dated.cmdAdd_Click();  // the fields read back what they show
     CHECK(tab.pc.messages.empty());
-    CHECK(tab.task().list.size() == 3);
+    CHECK(tab.dated.lstSchedule.ListCount() == 2);
   }
 }
 
-TEST_CASE("an entry is added as a trigger that runs once, whatever its date") {
+TEST_CASE("entries are added behind the others, whatever their date, and removed by their row") {
+  Tab tab;
+  const std::string others =
+      "task = Defragment\napplication = \nparameters = \ncomment = \n\n"
+      "task = zub\napplication = \nparameters = \ncomment = \n\n";
+  // A program that has moved: the new place lasts from the next save on.
+  const std::string old = others + "task = ZUB\napplication = D:\\Old\\zub\ncomment = Zubrane\n";
+  tab.tasks(old);
+  tab.dated.InitSchedulerTab();
+  CHECK(tab.tasks() == old);
   struct {
     const char* date;
     const char* time;
+    const char* trigger;
     const char* row;
-  } const rows[] = {{"9/15/2001", "10:20:30 AM", "2001-9-15 10:20"},
-                    {"2/29/2004", "12:00 AM", "2004-2-29 0:0"},
-                    {"12/31/2001", "23:59", "2001-12-31 23:59"},
-                    {"1/1/1990", "1:05:00 PM", "1990-1-1 13:5"}};
-  Tab tab;
-  tab.scheduler.tasks.emplace_back("Defragment");
-  tab.scheduler.tasks.emplace_back("zub");
-  Texts expected;
+  } const rows[] = {
+      {"9/15/2001", "10:20:30 AM", "trigger = 0 2001-09-15 10:20\n", "At 10:20 AM on 9/15/2001\n"},
+      {"2/29/2004", "12:00 AM", "trigger = 0 2004-02-29 00:00\n", "At 12:00 AM on 2/29/2004\n"},
+      {"1/1/1990", "23:59", "trigger = 0 1990-01-01 23:59\n", "At 11:59 PM on 1/1/1990\n"}};
+  std::string expected = others + Task + " /SCHEDULER" + Comment;
+  std::string list;
   for (const auto& row : rows) {
     tab.add(row.date, row.time);
-    expected.emplace_back(row.row);
-    CHECK(tab.rows() == expected);
-    CHECK(tab.task().list.back().type == 0);
-    CHECK(tab.task().calls.back() == "save 0");
+    CHECK(tab.tasks() == (expected += row.trigger));
+    CHECK(tab.rows() == (list += row.row));
   }
-  CHECK(tab.scheduler.tasks.size() == 3);
-  CHECK(tab.task().name() == "ZUB");
-  CHECK(tab.scheduler.tasks[0].list.empty());
-  CHECK(tab.scheduler.tasks[1].arguments.empty());
+  tab.remove(1);
+  CHECK(tab.tasks() == others + Task + " /SCHEDULER" + Comment + rows[0].trigger + rows[2].trigger);
+  CHECK(tab.rows() == std::string(rows[0].row) + rows[2].row);
+  // Without a row the list is only filled anew.
+  tab.tasks(expected);
+  tab.dated.cmdRemoveScheduled_Click();
+  CHECK(tab.tasks() == expected);
+  CHECK(tab.rows() == list);
+  for (int left = 3; left > 0; --left) tab.remove(0);
+  CHECK(tab.tasks() == others + Task + " /SCHEDULER" + Comment);
+  CHECK(tab.rows().empty());
   CHECK(tab.pc.messages.empty());
 }
 
@@ -107,9 +136,8 @@ TEST_CASE("a date or time that cannot be read is told, gets the focus and change
     const char* date;
     const char* time;
     bool wrongDate;
-  } const rows[] = {{"", "10:00", true},           {"someday", "10:00", true},   {"2/29/2001", "10:00", true},
-                    {"13/13/2001", "10:00", true}, {"someday", "noon", true},    {"9/15/2001", "", false},
-                    {"9/15/2001", "25:00", false}, {"9/15/2001", "10:60", false}};
+  } const rows[] = {{"", "10:00", true},      {"2/29/2001", "10:00", true},  {"someday", "noon", true},
+                    {"9/15/2001", "", false}, {"9/15/2001", "25:00", false}, {"9/15/2001", "10:60", false}};
   for (const auto& row : rows) {
     CAPTURE(row.date);
     CAPTURE(row.time);
@@ -120,59 +148,33 @@ TEST_CASE("a date or time that cannot be read is told, gets the focus and change
     CHECK(tab.pc.messages[0].title == "ZUB Scheduler");
     CHECK(tab.pc.messages[0].style == 0);
     CHECK(tab.dated.focus == (row.wrongDate ? &tab.dated.txtDate : &tab.dated.txtTime));
-    CHECK(tab.scheduler.tasks.empty());
+    CHECK(tab.tasks().empty());
   }
 }
 
-TEST_CASE("the current row's trigger is removed; without one the list is only filled anew") {
+TEST_CASE("what the facility refuses ends the operation in silence") {
   Tab tab;
-  for (const char* time : {"1:00", "2:00", "3:00"}) tab.add("9/15/2001", time);
-  tab.task().calls.clear();
-  tab.dated.lstSchedule.ListIndex(1);
-  tab.dated.cmdRemoveScheduled_Click();
-  CHECK(tab.task().calls == Texts{"remove 2", "update", "save 0"});
-  CHECK(tab.rows() == Texts{"2001-9-15 1:0", "2001-9-15 3:0"});
-
-  tab.task().calls.clear();
-  tab.task().list.emplace_back();
-  tab.dated.cmdRemoveScheduled_Click();
-  CHECK(tab.task().calls.empty());
-  CHECK(tab.rows().size() == 3);
-
-  for (int left = 3; left > 0; --left) {
-    tab.dated.lstSchedule.ListIndex(0);
-    tab.dated.cmdRemoveScheduled_Click();
+  tab.add("9/15/2001", "1:00");
+  for (const char* text : {"task = ZUB\n", "damaged\n"}) {  // the entry has gone meanwhile, or all have
+    CAPTURE(text);
+    tab.tasks(text);
+    tab.dated.cmdAdvancedScheduler_Click();
+    tab.remove(tab.dated.lstSchedule.ListCount() - 1);
+    CHECK(tab.tasks() == text);
   }
-  CHECK(tab.rows().empty());
-  CHECK(tab.scheduler.tasks.size() == 1);
-}
-
-TEST_CASE("a row whose trigger has gone meanwhile ends the operation in silence") {
-  Tab tab;
+  tab.dated.InitSchedulerTab();
   tab.add("9/15/2001", "1:00");
-  tab.task().list.clear();
-  tab.task().calls.clear();
-  tab.dated.lstSchedule.ListIndex(0);
-  tab.dated.cmdRemoveScheduled_Click();
-  CHECK(tab.task().calls == Texts{"remove 1"});
+  CHECK(tab.tasks() == "damaged\n");
   CHECK(tab.pc.messages.empty());
 }
 
-TEST_CASE("a program that has moved tells the task its new place") {
+TEST_CASE("Advanced opens the dialog of the task") {
   Tab tab;
-  tab.scheduler.tasks.emplace_back("ZUB").path = "D:\\Old\\zub";
-  tab.dated.InitSchedulerTab();
-  CHECK(tab.task().path == "C:\\Program Files\\Zubrane\\zub");
-  CHECK(tab.task().calls.empty());  // lasting only with the next save
-}
-
-TEST_CASE("a facility that fails ends each operation without a word") {
-  Tab tab;
-  tab.scheduler.fails = true;
-  tab.dated.InitSchedulerTab();
-  tab.add("9/15/2001", "1:00");
-  tab.dated.cmdRemoveScheduled_Click();
-  tab.dated.cmdAdvancedScheduler_Click();
-  CHECK(tab.pc.messages.empty());
-  CHECK(tab.scheduler.tasks.empty());
+  const Platform& p = tab.pc.platform();
+  ShownTask task;
+  const Platform shown{p.codePage, p.registry, p.files,  p.drives,   p.folders, p.restart, p.shell,
+                       p.clock,    p.process,  p.events, p.messages, p.tray,    task};
+  DatedEntries dated(shown, tab.user);
+  dated.cmdAdvancedScheduler_Click();
+  CHECK(task.dialogs == 1);
 }

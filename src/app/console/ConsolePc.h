@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "platform/Platform.h"
+#include "platform/folder/FolderTasks.h"
 
 namespace zub {
 
@@ -23,7 +24,8 @@ class ConsolePc {
 
 // Opens the PC in a folder. PcError where it cannot be used.
 std::unique_ptr<ConsolePc> openFolderPc(const std::string& folder, EventLoop& events, Messages& messages,
-                                        const std::string& commandLine);
+                                        const std::string& commandLine,
+                                        DamagedTasks damaged = DamagedTasks::Refused);
 // The PC that this runs on; null where there is none that the program could wash.
 std::unique_ptr<ConsolePc> openThisPc(EventLoop& events, Messages& messages);
 

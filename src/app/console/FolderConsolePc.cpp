@@ -8,8 +8,8 @@ namespace {
 class FolderConsolePc : public ConsolePc {
  public:
   FolderConsolePc(const std::string& folder, EventLoop& events, Messages& messages,
-                  const std::string& commandLine)
-      : folder_(folder), pc_(folder, commandLine), platform_(pc_.platform(events, messages)) {}
+                  const std::string& commandLine, DamagedTasks damaged)
+      : folder_(folder), pc_(folder, commandLine, damaged), platform_(pc_.platform(events, messages)) {}
 
   Platform& platform() override { return platform_; }
   void save() override { pc_.save(); }
@@ -26,8 +26,8 @@ class FolderConsolePc : public ConsolePc {
 }  // namespace
 
 std::unique_ptr<ConsolePc> openFolderPc(const std::string& folder, EventLoop& events, Messages& messages,
-                                        const std::string& commandLine) {
-  return std::make_unique<FolderConsolePc>(folder, events, messages, commandLine);
+                                        const std::string& commandLine, DamagedTasks damaged) {
+  return std::make_unique<FolderConsolePc>(folder, events, messages, commandLine, damaged);
 }
 
 }  // namespace zub

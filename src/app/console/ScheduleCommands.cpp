@@ -1,4 +1,5 @@
 #include "app/console/Commands.h"
+#include "base/RuntimeError.h"
 #include "engine/UserFunctions.h"
 #include "scheduler/DatedEntries.h"
 #include "state/Options.h"
@@ -15,6 +16,12 @@ struct Entries {
   UserFunctions user;
   DatedEntries dated;
 };
+
+// The tab keeps silent where the task scheduler fails: its list then stays as it was.
+void needCount(int count, const DatedEntries& dated) {
+  if (dated.lstSchedule.ListCount() == count) return;
+  throw RuntimeError(ErrorNumber::Automation, "the task scheduler refuses the change");
+}
 
 }  // namespace
 
@@ -38,20 +45,22 @@ int scheduleAddCommand(CommandContext& context) {
     entries.dated.txtTime.Text += " " + context.arguments[word];
   }
   entries.dated.cmdAdd_Click();
-  context.pc.save();
-  return entries.dated.lstSchedule.ListCount() > before ? exitStatus::Done : exitStatus::Unusable;
+  if (entries.dated.focus != nullptr) return exitStatus::Unusable;  // a field cannot be read, which is told
+  needCount(before + 1, entries.dated);
+  return exitStatus::Done;
 }
 
 int scheduleRemoveCommand(CommandContext& context) {
   if (context.arguments.size() != 1) throw UsageError("schedule remove takes a number of the list");
   Entries entries(context.pc.platform());
   const int number = rowNumber(context.arguments[0]);
-  if (number < 1 || number > entries.dated.lstSchedule.ListCount()) {
+  const int before = entries.dated.lstSchedule.ListCount();
+  if (number < 1 || number > before) {
     throw UsageError("there is no dated wash " + context.arguments[0]);
   }
   entries.dated.lstSchedule.ListIndex(number - 1);
   entries.dated.cmdRemoveScheduled_Click();
-  context.pc.save();
+  needCount(before - 1, entries.dated);
   return exitStatus::Done;
 }
 

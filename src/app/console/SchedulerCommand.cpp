@@ -1,6 +1,7 @@
 // The stand-alone scheduler: waits in the foreground and starts the program at each dated wash and interval.
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 
@@ -10,6 +11,7 @@
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
 #include "scheduler/AutomaticInterval.h"
+#include "scheduler/DatedEntries.h"
 #include "scheduler/DueTimes.h"
 
 namespace zub {
@@ -31,56 +33,55 @@ class Scheduler {
         root_(openHostDir(context.pc.folder())),
         due_(clock_.local()),
         automatic_(clock_, options_) {
-    automatic_.startWash = [this] {
-      wash("", washCommand);
-      automatic_.timer.Enabled = true;
-    };
-    readTasks();
-    readOptions();
+    automatic_.startWash = [this] { start("", washCommand); };
   }
 
   void step() {
     const SystemTime now = clock_.local();
     if (now.wMinute != minute_) {
       minute_ = now.wMinute;
-      guarded([this] { readOptions(); });
+      guarded(optionsFailure_, [this] { readOptions(); });
     }
-    guarded([this] { readTasks(); });
-    for (const std::size_t index : due_.look(times_, now)) wash(parameters_[index], startCommand);
+    guarded(tasksFailure_, [this] { readTasks(); });
+    for (int due = due_.look(times_, now); due > 0; --due) start(parameters_, startCommand);
     automatic_.Timer_Tick();
   }
 
  private:
   // A text that somebody is just changing, or has damaged, is told once; what was read before stays in force.
+  // `told` is the failure of the last time.
   template <class Work>
-  void guarded(Work work) {
+  static void guarded(std::string& told, Work work) {
     try {
       work();
-      told_.clear();
+      told.clear();
     } catch (const std::exception& error) {
-      if (told_ != error.what()) std::fprintf(stderr, "zub: %s\n", error.what());
-      told_ = error.what();
+      if (told != error.what()) std::fprintf(stderr, "zub: %s\n", error.what());
+      told = error.what();
     }
   }
 
+  // The PC as it is now. It can be washed while the tasks are damaged.
+  std::unique_ptr<ConsolePc> openPc(const std::string& commandLine) {
+    return openFolderPc(context_.pc.folder(), context_.loop, context_.loop, commandLine, DamagedTasks::Fail);
+  }
+
+  // The program's own task; others belong to other programs.
   void readTasks() {
     const std::string text = readHostText(*root_, FolderTasks::FileName).value_or("");
     if (text == tasksText_) return;
     const std::vector<TaskRecord> tasks = readTasksText(text, FolderTasks::FileName);
     tasksText_ = text;
     times_.clear();
-    parameters_.clear();
-    for (const TaskRecord& task : tasks) {
-      for (const TriggerRecord& trigger : task.triggers) {
-        times_.push_back(trigger.begin);
-        parameters_.push_back(task.parameters);
-      }
-    }
+    const auto task = std::ranges::find(tasks, DatedEntries::TaskName, &TaskRecord::name);
+    if (task == tasks.end()) return;
+    parameters_ = task->parameters;
+    for (const TriggerRecord& trigger : task->triggers) times_.push_back(trigger.begin);
   }
 
   // The interval's two options, as the store keeps them now.
   void readOptions() {
-    const auto pc = openFolderPc(context_.pc.folder(), context_.loop, context_.loop, "");
+    const auto pc = openPc("");
     const Store store(pc->platform());
     const int on = store.options.chkRunAuto.Value();
     const int row = store.options.ComboInterval.ListIndex();
@@ -90,10 +91,11 @@ class Scheduler {
     automatic_.chkRunAuto_Click();
   }
 
-  // Starts the program anew on the PC as it is now.
-  void wash(const std::string& commandLine, int (*command)(CommandContext&)) {
-    guarded([&] {
-      const auto pc = openFolderPc(context_.pc.folder(), context_.loop, context_.loop, commandLine);
+  // Starts the program anew. Each start that fails is told.
+  void start(const std::string& commandLine, int (*command)(CommandContext&)) {
+    std::string told;
+    guarded(told, [&] {
+      const auto pc = openPc(commandLine);
       CommandContext started{*pc, context_.loop, {}};
       command(started);
       std::fflush(stdout);
@@ -107,9 +109,10 @@ class Scheduler {
   Options options_;
   AutomaticInterval automatic_;
   std::vector<SystemTime> times_;
-  std::vector<std::string> parameters_;  // beside times_
+  std::string parameters_;  // of the task that the times belong to
   std::string tasksText_;
-  std::string told_;
+  std::string tasksFailure_;
+  std::string optionsFailure_;
   int minute_ = -1;
 };
 

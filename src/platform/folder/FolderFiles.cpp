@@ -7,6 +7,7 @@
 #include "platform/folder/FolderChannel.h"
 #include "platform/folder/FolderSearch.h"
 #include "platform/folder/HostFailure.h"
+#include "platform/folder/HostText.h"
 #include "platform/folder/ShortName.h"
 
 namespace zub {
@@ -151,6 +152,18 @@ std::unique_ptr<FileChannel> FolderFiles::open(std::string_view path, OpenMode m
   std::unique_ptr<HostFile> file;
   check(place.parent->openFile(place.name, how, file));
   return std::make_unique<FolderChannel>(std::move(file), writes);
+}
+
+void FolderFiles::replace(std::string_view path, std::string_view bytes) {
+  seenPath_.clear();
+  const FolderPath parts = parse(path);
+  const Place place = disk_.place(parts);
+  checkWritable(parts, place);
+  if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
+  std::string beside = place.name + ".new";
+  HostStat taken;
+  while (place.parent->stat(beside, taken) == HostError::None) beside += '_';  // somebody's own file
+  replaceHostText(*place.parent, place.name, bytes, beside);
 }
 
 std::int64_t FolderFiles::openedLength(std::string_view path) {

@@ -54,7 +54,7 @@ std::unique_ptr<HostDir> openNew(std::string folder) {
 
 }  // namespace
 
-FolderPc::FolderPc(const std::string& folder, std::string commandLine)
+FolderPc::FolderPc(const std::string& folder, std::string commandLine, DamagedTasks damaged)
     : root_(openRoot(folder)),
       tree_(readRegistry(*root_, folder)),
       facts_(readHostText(*root_, PcFacts::FileName).value_or("")),
@@ -67,7 +67,7 @@ FolderPc::FolderPc(const std::string& folder, std::string commandLine)
       restart(files, facts_),
       shell(files, drives),
       process(*root_, std::move(commandLine)),
-      tasks(*root_) {}
+      tasks(*root_, damaged) {}
 
 Platform FolderPc::platform(EventLoop& events, Messages& messages) {
   return {codePage, registry, files,  drives,   folders, restart, shell,

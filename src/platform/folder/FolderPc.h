@@ -24,7 +24,8 @@ class FolderPc {
 
   // The folder at a path of the host, in UTF-8. PcError, with nothing touched, where it is no PC or one of its
   // texts is damaged. `commandLine` is what the program was started with on that PC.
-  explicit FolderPc(const std::string& folder, std::string commandLine = {});
+  explicit FolderPc(const std::string& folder, std::string commandLine = {},
+                    DamagedTasks damaged = DamagedTasks::Refused);
 
   // All services; the event loop and the message box are the caller's, and outlive the platform.
   Platform platform(EventLoop& events, Messages& messages);

@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "platform/FileReader.h"
 #include "platform/folder/CodePage1252.h"
+#include "platform/folder/PcError.h"
 #include "platform/folder/ProfileText.h"
 
 namespace zub {
@@ -64,11 +65,9 @@ void FolderRestart::writeProfile(std::string_view section, std::string_view key,
       for (int c = reader.get(); c != -1; c = reader.get()) text += static_cast<char>(c);
     }
     const std::string changed = withProfileKey(text, section, key, value);
-    if (changed == text) return;
-    const auto channel = files_.open(path, OpenMode::Output);
-    channel->write(changed);
-    channel->closeOnDisk();
+    if (changed != text) files_.replace(path, changed);
   } catch (const RuntimeError&) {
+  } catch (const PcError&) {
   }
 }
 

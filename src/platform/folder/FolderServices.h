@@ -1,9 +1,9 @@
 // The small services of a PC in a folder.
 #pragma once
 
-#include "platform/Files.h"
 #include "platform/Services.h"
 #include "platform/folder/FolderDisk.h"
+#include "platform/folder/FolderFiles.h"
 #include "platform/folder/PcFacts.h"
 
 namespace zub {
@@ -37,7 +37,7 @@ class FolderSystemFolders : public SystemFolders {
 
 class FolderRestart : public Restart {
  public:
-  FolderRestart(Files& files, PcFacts& facts) : files_(files), facts_(facts) {}
+  FolderRestart(FolderFiles& files, PcFacts& facts) : files_(files), facts_(facts) {}
 
   void deleteAtRestart(std::string_view file) override;  // as a fact of the PC
   void writeProfile(std::string_view section, std::string_view key, std::string_view value,
@@ -45,7 +45,7 @@ class FolderRestart : public Restart {
   std::uint32_t platformId(std::uint32_t recordSize) override;
 
  private:
-  Files& files_;
+  FolderFiles& files_;
   PcFacts& facts_;
 };
 

@@ -88,21 +88,28 @@ class FolderTasks::Task : public ScheduleTask {
   Triggers triggers_;
 };
 
-FolderTasks::FolderTasks(HostDir& root) : root_(root) {
-  saved_ = readTasksText(readHostText(root_, FileName).value_or(""), FileName);
-  for (const TaskRecord& task : saved_) tasks_.push_back(std::make_unique<Task>(*this, task));
+FolderTasks::FolderTasks(HostDir& root, DamagedTasks damaged) : root_(root) {
+  try {
+    load();
+  } catch (const PcError&) {
+    if (damaged == DamagedTasks::Refused) throw;
+  }
 }
 
 FolderTasks::~FolderTasks() = default;
 
+void FolderTasks::load() {
+  saved_ = readTasksText(readHostText(root_, FileName).value_or(""), FileName);
+  tasks_.clear();
+  for (const TaskRecord& task : saved_) tasks_.push_back(std::make_unique<Task>(*this, task));
+}
+
 void FolderTasks::refresh() {
   try {
-    saved_ = readTasksText(readHostText(root_, FileName).value_or(""), FileName);
+    load();
   } catch (const PcError&) {
     refuse();
   }
-  tasks_.clear();
-  for (const TaskRecord& task : saved_) tasks_.push_back(std::make_unique<Task>(*this, task));
 }
 
 int FolderTasks::count() {

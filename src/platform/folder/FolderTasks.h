@@ -32,12 +32,16 @@ std::string textOf(const TriggerRecord& trigger);
 std::vector<TaskRecord> readTasksText(std::string_view text, const std::string& file);
 std::string writeTasksText(const std::vector<TaskRecord>& tasks);
 
+// What a damaged text of tasks means to whoever opens the PC: that it is refused, or that its scheduler fails
+// until the text is mended.
+enum class DamagedTasks : std::uint8_t { Refused, Fail };
+
 class FolderTasks : public ScheduleTasks {
  public:
   static constexpr const char* FileName = "tasks.txt";
 
-  // Reads the tasks; PcError where their text is damaged. `root` outlives the tasks.
-  explicit FolderTasks(HostDir& root);
+  // Reads the tasks; PcError where their damaged text is refused. `root` outlives the tasks.
+  FolderTasks(HostDir& root, DamagedTasks damaged);
   ~FolderTasks() override;
 
   void refresh() override;
@@ -47,6 +51,7 @@ class FolderTasks : public ScheduleTasks {
 
  private:
   class Task;
+  void load();  // PcError
   void saveTask(const TaskRecord& task);
 
   HostDir& root_;

@@ -42,7 +42,11 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
 }
 
 void replaceHostText(HostDir& folder, const std::string& name, std::string_view text) {
-  const std::string beside = name + ".new";
+  replaceHostText(folder, name, text, name + ".new");
+}
+
+void replaceHostText(HostDir& folder, const std::string& name, std::string_view text,
+                     const std::string& beside) {
   HostError error = writeNew(folder, beside, text);
   if (error == HostError::None) error = folder.rename(beside, name);
   if (error != HostError::None) {

@@ -1,5 +1,6 @@
 // The text that keeps a PC's tasks.
 #include <array>
+#include <set>
 
 #include "base/Numbers.h"
 #include "platform/folder/CodePage1252.h"
@@ -59,15 +60,14 @@ std::string triggerText(const TriggerRecord& trigger) {
          twoDigits(begin.wDay) + " " + twoDigits(begin.wHour) + ":" + twoDigits(begin.wMinute);
 }
 
-void readEntry(std::vector<TaskRecord>& tasks, std::string_view name, std::string_view value, int line,
-               const std::string& file) {
+// `names` are those of the tasks so far.
+void readEntry(std::vector<TaskRecord>& tasks, std::set<std::string>& names, std::string_view name,
+               std::string_view value, int line, const std::string& file) {
   if (name == "task") {
-    for (const TaskRecord& task : tasks) {
-      if (task.name == ansiFromUtf8(value)) throw PcError(file, line, "the task was told before");
-    }
     if (value.empty()) throw PcError(file, line, "the task has no name");
     tasks.push_back({});
     tasks.back().name = ansiFromUtf8(value);
+    if (!names.insert(tasks.back().name).second) throw PcError(file, line, "the task was told before");
     return;
   }
   if (tasks.empty()) throw PcError(file, line, "stands before the first task");
@@ -97,6 +97,7 @@ std::string textOf(const TriggerRecord& trigger) {
 
 std::vector<TaskRecord> readTasksText(std::string_view text, const std::string& file) {
   std::vector<TaskRecord> tasks;
+  std::set<std::string> names;
   for (int number = 1; !text.empty(); ++number) {
     const auto end = text.find('\n');
     std::string_view line = text.substr(0, end);
@@ -108,7 +109,7 @@ std::vector<TaskRecord> readTasksText(std::string_view text, const std::string& 
     // One blank behind "=" is not the value's.
     std::string_view value = line.substr(equals + 2);
     if (value.starts_with(' ')) value.remove_prefix(1);
-    readEntry(tasks, line.substr(0, equals), value, number, file);
+    readEntry(tasks, names, line.substr(0, equals), value, number, file);
   }
   return tasks;
 }
