@@ -12,7 +12,8 @@ class LabelView : public NativeView {
     backColor_ = site.ground;
     foreColor_ = site.spec.color;
     const DWORD align = site.spec.text == layout::Text::Centred ? SS_CENTER : SS_LEFT;
-    create("STATIC", align | SS_NOPREFIX, std::string(site.spec.caption));
+    // With SS_NOTIFY a drag that begins on a label is the label's, and does not move the window.
+    create("STATIC", align | SS_NOPREFIX | SS_NOTIFY, std::string(site.spec.caption));
   }
 
   void show() override {
@@ -34,15 +35,14 @@ class LabelView : public NativeView {
   bool visible_ = true;
 };
 
-// One line, or several where the layout says so.
+// One line, or several where the layout says so, then to be written or only to be read.
 class EditView : public NativeView {
  public:
   explicit EditView(const ViewSite& site)
-      : NativeView(site), box_(site.bound<TextBox*>()), severalLines_(site.spec.kind == layout::Kind::Memo) {
-    create("EDIT",
-           WS_TABSTOP |
-               (severalLines_ ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL : ES_AUTOHSCROLL),
-           {}, Framed);
+      : NativeView(site), box_(site.bound<TextBox*>()), severalLines_(site.spec.kind != layout::Kind::Edit) {
+    constexpr DWORD Lines = ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL;
+    const DWORD use = site.spec.kind == layout::Kind::Content ? ES_READONLY : ES_WANTRETURN;
+    create("EDIT", WS_TABSTOP | (severalLines_ ? Lines | use : ES_AUTOHSCROLL), {}, Framed);
     send(EM_LIMITTEXT, 0);
   }
 
