@@ -73,11 +73,11 @@ void KitHost::paintCanvas() {
   controls::Surface surface = canvas_->surface();
   parts_.control->paint(surface);
   if (!focused_ || !parts_.press) return;
-  constexpr int Inset = 3;
-  RECT inside{Inset, Inset, canvas_->width() - Inset, canvas_->height() - Inset};
+  const controls::Box place = parts_.control->focusPlace();
+  const RECT frame{place.left, place.top, place.right(), place.bottom()};
   SetTextColor(canvas_->dc(), colors::Black);
   SetBkColor(canvas_->dc(), colors::White);
-  DrawFocusRect(canvas_->dc(), &inside);
+  DrawFocusRect(canvas_->dc(), &frame);
 }
 
 void KitHost::paint() {
@@ -100,11 +100,7 @@ void KitHost::serveTimer() {
 }
 
 controls::Mouse KitHost::mouseAt(std::int16_t button, WPARAM keys, LPARAM place) const {
-  if (button == 0) {
-    button = static_cast<std::int16_t>(((keys & MK_LBUTTON) != 0 ? controls::LeftButton : 0) |
-                                       ((keys & MK_RBUTTON) != 0 ? controls::RightButton : 0) |
-                                       ((keys & MK_MBUTTON) != 0 ? controls::MiddleButton : 0));
-  }
+  if (button == 0) button = buttonsDown(keys);
   const float scale =
       parts_.stretched ? static_cast<float>(DesignDpi) / static_cast<float>(ui_.fonts.dpi()) : 1.0F;
   return {button, shiftState(), static_cast<float>(static_cast<short>(LOWORD(place))) * scale,
