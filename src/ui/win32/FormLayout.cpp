@@ -32,6 +32,8 @@ FormWindow::FormWindow(Ui& ui, layout::WindowBinding binding, HWND owner)
   AdjustWindowRectEx(&size, style, FALSE, extendedStyle);
   OffsetRect(&size, -size.left, -size.top);
   create({FormClass, std::string(window.title).c_str(), style, extendedStyle, size, owner});
+  // A dialog does not show the icon of its class.
+  SendMessageA(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(ui.icon()));
   makeControls();
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/win32/CommonControls.h"
 #include "ui/win32/NativeView.h"
+#include "ui/win32/ShutdownReason.h"
 
 namespace zub {
 
@@ -110,6 +111,12 @@ void FormWindow::stateChanged(WPARAM how) {
   raise(binding_.resize);
 }
 
+void FormWindow::queryEnd() {
+  if (!binding_.queryEnd) return;
+  const ShutdownReason reason(hwnd(), L"The wash at the end of the session is running.");
+  binding_.queryEnd();
+}
+
 // As if the title bar had been grabbed.
 void FormWindow::drag() {
   ReleaseCapture();
@@ -125,7 +132,7 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (visible_) stateChanged(wParam);
       break;
     case WM_MOUSEMOVE:
-      if ((wParam & (MK_LBUTTON | MK_RBUTTON | MK_MBUTTON)) == MK_LBUTTON) drag();
+      if (controls::dragsWindow(buttonsDown(wParam))) drag();
       return 0;
     case WM_SETCURSOR: {
       const Form* form = binding_.form();
@@ -143,7 +150,7 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       SetFocus(GetNextDlgTabItem(hwnd(), nullptr, FALSE));
       return 0;
     case WM_QUERYENDSESSION:
-      raise(binding_.queryEnd);
+      queryEnd();
       return TRUE;
     case WM_ENDSESSION:
       if (wParam != 0) raise(binding_.end);

@@ -51,6 +51,7 @@ class FormWindow : public OwnWindow {
   bool turnPage(int direction);
 
   void stateChanged(WPARAM how);
+  void queryEnd();
   void drag();
 
   layout::WindowBinding binding_;
