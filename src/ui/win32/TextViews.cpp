@@ -12,8 +12,7 @@ class LabelView : public NativeView {
     backColor_ = site.ground;
     foreColor_ = site.spec.color;
     const DWORD align = site.spec.text == layout::Text::Centred ? SS_CENTER : SS_LEFT;
-    // With SS_NOTIFY a drag that begins on a label is the label's, and does not move the window.
-    create("STATIC", align | SS_NOPREFIX | SS_NOTIFY, std::string(site.spec.caption));
+    create("STATIC", align | SS_NOPREFIX, std::string(site.spec.caption));
   }
 
   void show() override {
