@@ -34,6 +34,7 @@ class FormWindow : public OwnWindow {
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+  void showIcon();
   void makeControls();
   void makePage(const layout::ControlSpec& spec);
   void makeView(const layout::ControlSpec& spec);
