@@ -41,6 +41,7 @@ bool fits(Kind kind, const Bound& state) {
       return holdsOne<CheckOption*>(state);
     case Kind::Edit:
     case Kind::Memo:
+    case Kind::Content:
       return holdsOne<TextBox*>(state);
     case Kind::Report:
       return holdsOne<const std::string*>(state);

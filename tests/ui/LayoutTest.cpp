@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <set>
 #include <string>
 
 #include "app/Program.h"
@@ -26,12 +25,6 @@ bool overlap(const Place& a, const Place& b) {
 // take turns on its background.
 bool mayOverlap(const WindowSpec& window, const ControlSpec& a, const ControlSpec& b) {
   return a.kind == Kind::Page || (a.name == "grpIE" && b.name == "grpNS") || &window == &messageWindow;
-}
-
-Place roomIn(const WindowSpec& window, const ControlSpec& control) {
-  const ControlSpec* parent = find(window, control.parent);
-  return parent != nullptr ? Place{0, 0, parent->place.width, parent->place.height}
-                           : Place{0, 0, window.width, window.height};
 }
 
 // The room that a control gives its caption, twips; 0 for one that shows none.
@@ -62,48 +55,58 @@ std::string_view pageOf(const WindowSpec& window, const ControlSpec& control) {
   return at != nullptr ? at->name : "";
 }
 
+template <class Check>
+void forEachControl(Check check) {
+  for (const WindowSpec* window : windows) {
+    for (const ControlSpec& control : window->controls) {
+      CAPTURE(window->title);
+      CAPTURE(control.name);
+      check(*window, control);
+    }
+  }
+}
+
+// All pairs of controls, in the order of the window.
+template <class Check>
+void forEachPair(Check check) {
+  forEachControl([&check](const WindowSpec& window, const ControlSpec& control) {
+    for (const ControlSpec* other = &control + 1; other != window.controls.data() + window.controls.size();
+         ++other) {
+      CAPTURE(other->name);
+      check(window, control, *other);
+    }
+  });
+}
+
 }  // namespace
 
 TEST_CASE("controls lie inside what holds them, and beside each other") {
-  for (const WindowSpec* window : windows) {
-    std::set<std::string_view> told;
-    for (const ControlSpec& control : window->controls) {
-      CAPTURE(window->title);
-      CAPTURE(control.name);
-      CHECK(told.insert(control.name).second);
-      CHECK((control.parent.empty() || told.contains(control.parent)));
-      const Place room = roomIn(*window, control);
-      const Place& place = control.place;
-      CHECK(place.width > 0);
-      CHECK(place.height > 0);
-      CHECK(place.left >= 0);
-      CHECK(place.top >= 0);
-      CHECK(place.right() <= room.width);
-      CHECK(place.bottom() <= room.height);
-      for (const ControlSpec& other : window->controls) {
-        if (&other <= &control || other.parent != control.parent) continue;
-        if (mayOverlap(*window, control, other)) continue;
-        CAPTURE(other.name);
-        CHECK_FALSE(overlap(place, other.place));
-      }
-    }
-  }
-  CHECK(find(mainWindow, "grpIE")->place == find(mainWindow, "grpNS")->place);
+  forEachControl([](const WindowSpec& window, const ControlSpec& control) {
+    const ControlSpec* parent = find(window, control.parent);
+    CHECK((parent != nullptr) == !control.parent.empty());
+    CHECK((parent == nullptr || parent < &control));  // a window is made in this order
+    const Place room = parent != nullptr ? Place{0, 0, parent->place.width, parent->place.height}
+                                         : Place{0, 0, window.width, window.height};
+    const Place& place = control.place;
+    CHECK(std::min(place.width, place.height) > 0);
+    CHECK(std::min(place.left, place.top) >= 0);
+    CHECK(place.right() <= room.width);
+    CHECK(place.bottom() <= room.height);
+  });
+  forEachPair([](const WindowSpec& window, const ControlSpec& a, const ControlSpec& b) {
+    CHECK(a.name != b.name);
+    if (a.parent == b.parent && !mayOverlap(window, a, b)) CHECK_FALSE(overlap(a.place, b.place));
+  });
 }
 
 TEST_CASE("no caption is cut off") {
-  for (const WindowSpec* window : windows) {
-    for (const ControlSpec& control : window->controls) {
-      CAPTURE(window->title);
-      CAPTURE(control.name);
-      const TextFont font = fontOf(control.text);
-      if (const int room = roomForCaption(control); room != 0)
-        CHECK(textWidth(control.caption, font) <= room);
-      if (control.kind != Kind::Label || control.caption.empty()) continue;
-      CHECK(linesOf(control.caption, control.place.width, font) * lineHeight(font) <=
-            control.place.height + TwipsPerPixel);
-    }
-  }
+  forEachControl([](const WindowSpec&, const ControlSpec& control) {
+    const TextFont font = fontOf(control.text);
+    if (const int room = roomForCaption(control); room != 0) CHECK(textWidth(control.caption, font) <= room);
+    if (control.kind != Kind::Label || control.caption.empty()) return;
+    CHECK(linesOf(control.caption, control.place.width, font) * lineHeight(font) <=
+          control.place.height + TwipsPerPixel);
+  });
 }
 
 TEST_CASE("each help label holds the longest text that it may show") {
@@ -131,71 +134,25 @@ TEST_CASE("each help label holds the longest text that it may show") {
 }
 
 TEST_CASE("an access key stands once among the controls that are seen together") {
-  for (const WindowSpec* window : windows) {
-    for (const ControlSpec& control : window->controls) {
-      const char key = accessKeyOf(control.caption);
-      if (key == '\0' || control.kind == Kind::Page) continue;
-      for (const ControlSpec& other : window->controls) {
-        const std::string_view here = pageOf(*window, control), there = pageOf(*window, other);
-        const bool together = here.empty() || there.empty() || here == there;
-        if (&other <= &control || !together || other.kind == Kind::Page) continue;
-        CAPTURE(window->title);
-        CAPTURE(control.name);
-        CAPTURE(other.name);
-        CHECK(std::tolower(key) != std::tolower(accessKeyOf(other.caption)));
-      }
-    }
-  }
+  forEachPair([](const WindowSpec& window, const ControlSpec& a, const ControlSpec& b) {
+    const char key = accessKeyOf(a.caption);
+    const std::string_view here = pageOf(window, a), there = pageOf(window, b);
+    const bool together = here.empty() || there.empty() || here == there;
+    if (key == '\0' || !together || a.kind == Kind::Page || b.kind == Kind::Page) return;
+    CHECK(std::tolower(key) != std::tolower(accessKeyOf(b.caption)));
+  });
 }
 
 TEST_CASE("the Tab key goes through a group's controls from the top down, and from the left") {
-  for (const WindowSpec* window : windows) {
-    for (const ControlSpec& control : window->controls) {
-      for (const ControlSpec& next : window->controls) {
-        if (&next <= &control || next.parent != control.parent || control.kind != next.kind) continue;
-        if (control.kind != Kind::Check && control.kind != Kind::Button) continue;
-        CAPTURE(control.name);
-        CAPTURE(next.name);
-        const bool below = next.place.top >= control.place.top;
-        const bool sameRow = next.place.top < control.place.bottom();
-        CHECK(below);
-        CHECK((!sameRow || next.place.left > control.place.left));
-      }
-    }
-  }
+  forEachPair([](const WindowSpec&, const ControlSpec& a, const ControlSpec& b) {
+    if (a.parent != b.parent || a.kind != b.kind) return;
+    if (a.kind != Kind::Check && a.kind != Kind::Button) return;
+    CHECK(b.place.top >= a.place.top);
+    CHECK((b.place.top >= a.place.bottom() || b.place.left > a.place.left));
+  });
 }
 
-TEST_CASE("the main window's tabs and its controls are named as they are told") {
-  const struct {
-    std::string_view name, page, caption, toolTip;
-  } controls[] = {
-      {"cmdRemove", "", "&Start Cleaning", "Start the cleaning process"},
-      {"cmdViewLog", "", "&View Log", "View log"},
-      {"cmdHelp", "", "Help", "Online Help"},
-      {"cmdAbout", "", "About", "About ZUB"},
-      {"LstIcons", "pageMain", "", ""},
-      {"chkIEIndex", "pageMain", "Index.dat", "Clean IE index.dat temporary files"},
-      {"cmdNSKeep", "pageMain", "Manage", "Manage which netscape cookies to keep"},
-      {"cmdDownload", "pagePlugins", "Download Plugins", "Download new plugins"},
-      {"chkSelectAll", "pagePlugins", "Select All", "Select / De-select all plugins"},
-      {"chkSkipMessages", "pageOptions", "Show pop-up error messages",
-       "Allow error popup messages to appear"},
-      {"chkRunStarted", "pageOptions", "Starts", "Run ZUB with windows startup and run cleaning process"},
-      {"chkRunShutDown", "pageOptions", "ShutDown", ""},
-      {"cmbShredder", "pageOptions", "", "Number of times to shred the file/folder"},
-      {"chkRunAuto", "pageScheduler", "Automatic Run", "Automatically run ZUB every?"},
-      {"cmdAdd", "pageScheduler", "&Add", ""},
-      {"cmdRemoveScheduled", "pageScheduler", "&Remove", ""},
-      {"StandardPluginsSelectAll", "pageStandard", "Select All", ""},
-  };
-  for (const auto& told : controls) {
-    CAPTURE(told.name);
-    const ControlSpec* control = find(mainWindow, told.name);
-    REQUIRE(control != nullptr);
-    CHECK(pageOf(mainWindow, *control) == told.page);
-    CHECK(control->caption == told.caption);
-    CHECK(control->toolTip == told.toolTip);
-  }
+TEST_CASE("the main window's tabs stand in their order") {
   std::string tabs;
   for (const ControlSpec& control : mainWindow.controls) {
     if (control.kind == Kind::Page) (tabs += control.caption) += '|';

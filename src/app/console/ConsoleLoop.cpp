@@ -43,7 +43,7 @@ void ConsoleLoop::attach(Program& program) {
 void ConsoleLoop::detach() {
   clearLine();
   program_ = nullptr;
-  task_ = 0;
+  task_ = tasks_ = 0;
 }
 
 void ConsoleLoop::DoEvents() {
@@ -52,24 +52,32 @@ void ConsoleLoop::DoEvents() {
   if (now < nextTurn_) return;
   nextTurn_ = now + TurnLength;
   serveTimers_();
-  if (terminal_) draw();
+  const AutoLoad<frmAnimated>& animated = program_->engine.animated;
+  if (terminal_ && animated.loaded() && task_ > 0) draw(animated.peek().state.lblCurrent.Caption);
 }
 
 void ConsoleLoop::tellTask(std::string_view name) {
+  if (task_ == tasks_) beginWash();
   ++task_;
+  taskName_ = name;
   if (terminal_) {
-    draw();
+    draw("");
   } else {
     std::fprintf(stderr, "%s\n", toTerminal_(name).c_str());
   }
 }
 
-void ConsoleLoop::draw() {
-  const AutoLoad<frmAnimated>& animated = program_->engine.animated;
-  if (!animated.loaded()) return;
-  const frmAnimated::State& state = animated.peek().state;
-  std::string line = std::to_string(task_) + ": " + state.lblApplication.Caption;
-  if (!state.lblCurrent.Caption.empty()) line += " - " + state.lblCurrent.Caption;
+// The wash's own count leaves the standard plugins out.
+void ConsoleLoop::beginWash() {
+  const Options& options = program_->options;
+  task_ = 0;
+  tasks_ = program_->engine.clean.CalculateItems();
+  if (options.chkSkipPlugins.Value() == 0) tasks_ += options.standardlist.SelCount();
+}
+
+void ConsoleLoop::draw(const std::string& item) {
+  std::string line = std::to_string(task_) + " of " + std::to_string(tasks_) + ": " + taskName_;
+  if (!item.empty()) line += " - " + item;
   line.resize(std::min(line.size(), LineWidth));
   const std::size_t length = line.size();
   if (length < drawn_) line.append(drawn_ - length, ' ');

@@ -26,14 +26,17 @@ class ConsoleLoop : public EventLoop, public Messages {
 
  private:
   void tellTask(std::string_view name);
-  void draw();
+  void beginWash();
+  void draw(const std::string& item);
 
   std::function<std::string(std::string_view)> toTerminal_;
   bool terminal_;
   Program* program_ = nullptr;
   std::function<void()> serveTimers_;
   std::uint64_t nextTurn_ = 0;
-  int task_ = 0;
+  int task_ = 0;   // that runs, counted from 1
+  int tasks_ = 0;  // of this wash
+  std::string taskName_;
   std::size_t drawn_ = 0;  // characters of the moving line
 };
 

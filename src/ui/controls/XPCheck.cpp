@@ -52,6 +52,12 @@ void XPCheck::paint(Surface& surface) const {
   label_.paint(surface, kit_.text, {label.left, label.top});
 }
 
+Box XPCheck::focusPlace() const {
+  const Box label = labelPlace();
+  constexpr int Air = 2;
+  return {label.left - Air, label.top, label.width + 2 * Air, label.height};
+}
+
 int XPCheck::partAt(float x, float y) const {
   return boxPlace().contains(x, y) || labelPlace().contains(x, y) ? 0 : Nothing;
 }

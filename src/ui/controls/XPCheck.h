@@ -25,6 +25,7 @@ class XPCheck : public Control {
   void Draw_Control();
 
   void paint(Surface& surface) const override;
+  Box focusPlace() const override;  // around the caption
 
   // Loading raises no Click.
   void InitProperties(const Ambient& ambient) override;

@@ -7,7 +7,7 @@ constexpr ControlSpec ieControls[] = {
     {"", Kind::Label, "lblKeep", px(12, 12, 396, 14), "Cookies that are selected will not be deleted.", ""},
     {"", Kind::CheckList, "lstDelete", px(12, 32, 396, 208), "", ""},
     {"", Kind::Check, "chkSelectAll", px(6, 246, 200, 20), "Select All", ""},
-    {"", Kind::Memo, "txtKeep", px(12, 272, 396, 92), "", ""},
+    {"", Kind::Content, "txtKeep", px(12, 272, 396, 92), "", ""},
     {"", Kind::Button, "cmdRefresh", px(216, 374, 92, 28), "&Refresh", ""},
     {"", Kind::Button, "cmdOK", px(316, 374, 92, 28), "&Ok", ""},
 };
@@ -19,7 +19,7 @@ constexpr ControlSpec netscapeControls[] = {
      ""},
     {"", Kind::CheckList, "lstDelete", px(12, 82, 396, 182), "", ""},
     {"", Kind::Check, "chkSelectAll", px(6, 270, 200, 20), "Select All", ""},
-    {"", Kind::Memo, "txtKeep", px(12, 296, 396, 68), "", ""},
+    {"", Kind::Content, "txtKeep", px(12, 296, 396, 68), "", ""},
     {"", Kind::Button, "cmdRefresh", px(216, 374, 92, 28), "&Refresh", ""},
     {"", Kind::Button, "cmdOK", px(316, 374, 92, 28), "&Ok", ""},
 };

@@ -40,8 +40,9 @@ enum class Kind : std::uint8_t {
   // Plain controls.
   Label,
   Edit,
-  Memo,    // several lines
-  Report,  // several lines, read only, in the report's colours
+  Memo,     // several lines
+  Content,  // several lines, read only
+  Report,   // a text that grows, read only, in the report's colours
   List,
   CheckList,
   DropDown,

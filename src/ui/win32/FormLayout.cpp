@@ -32,10 +32,18 @@ FormWindow::FormWindow(Ui& ui, layout::WindowBinding binding, HWND owner)
   AdjustWindowRectEx(&size, style, FALSE, extendedStyle);
   OffsetRect(&size, -size.left, -size.top);
   create({FormClass, std::string(window.title).c_str(), style, extendedStyle, size, owner});
+  if (window.border == layout::Border::Dialog) showIcon();
   makeControls();
 }
 
 FormWindow::~FormWindow() = default;
+
+// A dialog shows an icon of its own only, not that of its class.
+void FormWindow::showIcon() {
+  const HANDLE icon = LoadImageA(ui_.instance, MAKEINTRESOURCEA(ProgramIconId), IMAGE_ICON,
+                                 GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED);
+  SendMessageA(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+}
 
 FormWindow* FormWindow::of(HWND window) {
   char className[32] = "";

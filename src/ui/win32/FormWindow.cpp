@@ -1,8 +1,8 @@
 #include "ui/win32/FormWindow.h"
 
 #include "ui/win32/CommonControls.h"
-#include "ui/win32/KitHost.h"
 #include "ui/win32/NativeView.h"
+#include "ui/win32/ShutdownReason.h"
 
 namespace zub {
 
@@ -100,6 +100,12 @@ void FormWindow::stateChanged(WPARAM how) {
   raise(binding_.resize);
 }
 
+void FormWindow::queryEnd() {
+  if (!binding_.queryEnd) return;
+  const ShutdownReason reason(hwnd(), L"The wash at the end of the session is running.");
+  binding_.queryEnd();
+}
+
 // As if the title bar had been grabbed.
 void FormWindow::drag() {
   ReleaseCapture();
@@ -133,7 +139,7 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       SetFocus(GetNextDlgTabItem(hwnd(), nullptr, FALSE));
       return 0;
     case WM_QUERYENDSESSION:
-      raise(binding_.queryEnd);
+      queryEnd();
       return TRUE;
     case WM_ENDSESSION:
       if (wParam != 0) raise(binding_.end);

@@ -34,6 +34,7 @@ class FormWindow : public OwnWindow {
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+  void showIcon();
   void makeControls();
   void makePage(const layout::ControlSpec& spec);
   void makeView(const layout::ControlSpec& spec);
@@ -50,6 +51,7 @@ class FormWindow : public OwnWindow {
   bool turnPage(int direction);
 
   void stateChanged(WPARAM how);
+  void queryEnd();
   void drag();
 
   layout::WindowBinding binding_;

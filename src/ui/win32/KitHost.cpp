@@ -24,12 +24,6 @@ constexpr ButtonMessages MouseButtons[] = {
 
 }  // namespace
 
-std::int16_t buttonsDown(WPARAM keys) {
-  return static_cast<std::int16_t>(((keys & MK_LBUTTON) != 0 ? controls::LeftButton : 0) |
-                                   ((keys & MK_RBUTTON) != 0 ? controls::RightButton : 0) |
-                                   ((keys & MK_MBUTTON) != 0 ? controls::MiddleButton : 0));
-}
-
 KitHost::KitHost(const ViewSite& site, Parts parts)
     : OwnWindow(site.ui, site.ground), parts_(std::move(parts)) {
   const DWORD style = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS;
@@ -79,11 +73,11 @@ void KitHost::paintCanvas() {
   controls::Surface surface = canvas_->surface();
   parts_.control->paint(surface);
   if (!focused_ || !parts_.takesSpace) return;
-  constexpr int Inset = 3;
-  RECT inside{Inset, Inset, canvas_->width() - Inset, canvas_->height() - Inset};
+  const controls::Box place = parts_.control->focusPlace();
+  const RECT frame{place.left, place.top, place.right(), place.bottom()};
   SetTextColor(canvas_->dc(), colors::Black);
   SetBkColor(canvas_->dc(), colors::White);
-  DrawFocusRect(canvas_->dc(), &inside);
+  DrawFocusRect(canvas_->dc(), &frame);
 }
 
 void KitHost::paint() {

@@ -11,9 +11,6 @@
 
 namespace zub {
 
-// The mouse buttons that are down, told by the keys of a mouse message.
-std::int16_t buttonsDown(WPARAM keys);
-
 class KitHost : public OwnWindow, public View {
  public:
   struct Parts {

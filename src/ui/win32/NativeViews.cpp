@@ -9,6 +9,7 @@ std::unique_ptr<View> makeNativeView(const ViewSite& site) {
       return makeLabel(site);
     case Kind::Edit:
     case Kind::Memo:
+    case Kind::Content:
       return makeEdit(site);
     case Kind::Report:
       return makeReport(site);

@@ -22,6 +22,12 @@ void OwnWindow::create(const Creation& creation) {
                   ui_.instance, this);
 }
 
+std::int16_t OwnWindow::buttonsDown(WPARAM keys) {
+  return static_cast<std::int16_t>(((keys & MK_LBUTTON) != 0 ? controls::LeftButton : 0) |
+                                   ((keys & MK_RBUTTON) != 0 ? controls::RightButton : 0) |
+                                   ((keys & MK_MBUTTON) != 0 ? controls::MiddleButton : 0));
+}
+
 LRESULT CALLBACK OwnWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_NCCREATE) {
     const auto* creation = reinterpret_cast<const CREATESTRUCTA*>(lParam);

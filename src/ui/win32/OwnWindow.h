@@ -31,6 +31,8 @@ class OwnWindow {
     return DefWindowProcA(hwnd_, message, wParam, lParam);
   }
   COLORREF background() const { return background_; }
+  // The buttons that the keys of a mouse message tell, as the kit counts them.
+  static std::int16_t buttonsDown(WPARAM keys);
 
   Ui& ui_;
 

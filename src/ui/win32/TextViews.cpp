@@ -34,15 +34,14 @@ class LabelView : public NativeView {
   bool visible_ = true;
 };
 
-// One line, or several where the layout says so.
+// One line, or several where the layout says so, then to be written or only to be read.
 class EditView : public NativeView {
  public:
   explicit EditView(const ViewSite& site)
-      : NativeView(site), box_(site.bound<TextBox*>()), severalLines_(site.spec.kind == layout::Kind::Memo) {
-    create("EDIT",
-           WS_TABSTOP |
-               (severalLines_ ? ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL : ES_AUTOHSCROLL),
-           {}, Framed);
+      : NativeView(site), box_(site.bound<TextBox*>()), severalLines_(site.spec.kind != layout::Kind::Edit) {
+    constexpr DWORD Lines = ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL;
+    const DWORD use = site.spec.kind == layout::Kind::Content ? ES_READONLY : ES_WANTRETURN;
+    create("EDIT", WS_TABSTOP | (severalLines_ ? Lines | use : ES_AUTOHSCROLL), {}, Framed);
     send(EM_LIMITTEXT, 0);
   }
 

@@ -74,17 +74,22 @@ void WindowSystem::run() {
   }
 }
 
-void WindowSystem::runModal(HWND disabled, const std::function<bool()>& lasts) {
-  EnableWindow(disabled, FALSE);
+void WindowSystem::runModal(HWND owner, const std::function<bool()>& lasts) {
+  std::vector<HWND> disabled;
+  for (const auto& window : windows_) {
+    if (IsWindowVisible(window->hwnd()) == 0 || IsWindowEnabled(window->hwnd()) == 0) continue;
+    disabled.push_back(window->hwnd());
+    EnableWindow(window->hwnd(), FALSE);
+  }
   while (lasts()) {
     pump();
     serve();
     ui_.guard.throwIfEnded();
     if (lasts()) wait();
   }
-  EnableWindow(disabled, TRUE);
+  for (const HWND window : disabled) EnableWindow(window, TRUE);
   showAll();
-  SetActiveWindow(disabled);
+  SetActiveWindow(owner);
 }
 
 void WindowSystem::pump() {

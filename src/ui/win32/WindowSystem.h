@@ -31,8 +31,9 @@ class WindowSystem : public EventLoop {
   void DoEvents() override;
   // The main loop. Throws EndOfProcess.
   [[noreturn]] void run();
-  // Runs the loop while the condition holds, with the window disabled.
-  void runModal(HWND disabled, const std::function<bool()>& lasts);
+  // Runs the loop while the condition holds, with all windows disabled that are there now. The owner is in
+  // front afterwards.
+  void runModal(HWND owner, const std::function<bool()>& lasts);
 
   // The program's window in front, for a dialog to lie over; null where none is visible. What the forms have
   // come to is shown first: a window that came up later would cover the dialog.
