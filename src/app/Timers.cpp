@@ -13,7 +13,7 @@ Timers::Timers(Program& program) {
   };
   slots_[0] = {[&program] { return &program.main.automatic.timer; },
                [&program] { program.main.automatic.Timer_Tick(); }};
-  slots_[1] = {ofProgress(&frmAnimated::State::timer), [&animated] { animated->Timer_Tick(); }};
+  slots_[1] = {ofProgress(&frmAnimated::State::Timer), [&animated] { animated->Timer_Tick(); }};
   slots_[2] = {ofProgress(&frmAnimated::State::CloseWindowTimer),
                [&animated] { animated->CloseWindowTimer_Tick(); }};
 }

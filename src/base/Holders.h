@@ -24,9 +24,9 @@ class FirstUse {
   std::unique_ptr<T> object_;
 };
 
-// A form: loaded when touched, and loaded anew when touched after its unload. T has a state `T::State`, the
-// member `state` of that type and the handler `Form_Load()`. The object itself stays where it is, so that a
-// handler that unloads its own form may go on.
+// A form: loaded when touched, and loaded anew when touched after its unload. T has a state `T::State` and the
+// member `state` of that type. The object itself stays where it is, so that a handler that unloads its own
+// form may go on.
 template <class T>
 class AutoLoad {
  public:
@@ -38,7 +38,6 @@ class AutoLoad {
     if (!loaded_) {
       loaded_ = true;
       form_.state = typename T::State{};
-      form_.Form_Load();
     }
     return form_;
   }

@@ -16,18 +16,12 @@ std::string_view descriptionOf(ErrorNumber number) {
       return "Bad file name or number";
     case ErrorNumber::FileNotFound:
       return "File not found";
-    case ErrorNumber::FileAlreadyOpen:
-      return "File already open";
     case ErrorNumber::DeviceIo:
       return "Device I/O error";
     case ErrorNumber::DiskFull:
       return "Disk full";
-    case ErrorNumber::InputPastEnd:
-      return "Input past end of file";
     case ErrorNumber::TooManyFiles:
       return "Too many files";
-    case ErrorNumber::DeviceUnavailable:
-      return "Device unavailable";
     case ErrorNumber::PermissionDenied:
       return "Permission denied";
     case ErrorNumber::DiskNotReady:

@@ -139,7 +139,7 @@ bool Delete::DeleteFile(std::string_view strFileName, int nSpecial) {
 
 void Delete::reportFailure(std::string_view strFileName, int nSpecial, const RuntimeError& failure) {
   const ErrorNumber error = failure.number();
-  engine_.animated->state.timer.Enabled = false;
+  engine_.animated->state.Timer.Enabled = false;
   if (error == ErrorNumber::FileNotFound) return;  // leaves the animation standing
 
   if (error != ErrorNumber::Overflow) ++engine_.leftBehind;  // the sum overflowed: the file itself is gone
@@ -159,7 +159,7 @@ void Delete::reportFailure(std::string_view strFileName, int nSpecial, const Run
       denied || accessError ? " is locked or is on a read only drive/network" : " cannot be deleted";
   user.ShowMessage(joined({"The file ", strFileName, CrLf, outcome}), 0, failure.description(), true);
   engine_.clean.AddItem(joined({"\t", failure.description(), " The file ", strFileName, outcome, CrLf}));
-  engine_.animated->state.timer.Enabled = true;
+  engine_.animated->state.Timer.Enabled = true;
 }
 
 void Delete::removeAtRestart(std::string_view strFileName) {

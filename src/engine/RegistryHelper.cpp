@@ -118,8 +118,9 @@ std::string RegistryHelper::TraceValue(const std::string& Spec) {
   std::uint32_t type = 0;
   auto length = static_cast<std::uint32_t>(data_.size());
   if (registry.query(key.get(), target.valueName, type, data_.data(), length) != status::Success) return {};
-  const std::string_view text(reinterpret_cast<const char*>(data_.data()), length);
-  return std::string(trim(text).substr(0, length > 0 ? length - 1 : 0));
+  // The buffer is trimmed before it is cut, so that what stands behind a text with leading blanks moves up.
+  const std::string_view buffer(reinterpret_cast<const char*>(data_.data()), data_.size());
+  return std::string(trim(buffer).substr(0, length > 0 ? length - 1 : 0));
 }
 
 }  // namespace zub

@@ -28,13 +28,13 @@ void frmAnimated::StartClean() {
 }
 
 void frmAnimated::StartAnimation() {
-  state.timer.Enabled = true;
+  state.Timer.Enabled = true;
   state.cmdLog.Visible = false;
   state.cmdFinish.Caption = "&Cancel";
 }
 
 void frmAnimated::StopAnimation() {
-  state.timer.Enabled = false;
+  state.Timer.Enabled = false;
   state.ImgAnimate.picture = frames[0];
   state.ImgEntries.picture = Picture::None;
   state.cmdLog.Visible = true;

@@ -64,8 +64,8 @@ class frmAnimated {
     std::array<std::string, 2> StatusBar1{"Finished", "Number of tasks competed: 0"};
     Button cmdFinish{"&Cancel"};
     Button cmdLog{"&View Log", false};
-    Timer timer{100, false};
-    Timer CloseWindowTimer{6000, false};
+    zub::Timer Timer{100, false};
+    zub::Timer CloseWindowTimer{6000, false};
     int AnimationFrame = 0;
     int RemoveEntries = removing::Nothing;
   };
@@ -73,7 +73,6 @@ class frmAnimated {
 
   explicit frmAnimated(Engine& engine) : engine_(engine) {}
 
-  void Form_Load() {}
   // Shows the window and runs the whole wash; returns when all its work is done.
   void StartClean();
   void StartAnimation();

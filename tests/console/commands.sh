@@ -63,6 +63,7 @@ nowhere/: is no folder that can be opened|new "$work/nowhere/pc"
 new takes a folder|new
 new takes a folder|new "$work/one" "$work/two"
 wash takes no arguments|--pc "$pc" wash now
+start takes /STARTUP and /SCHEDULER, not "/startup"|--pc "$pc" start /SCHEDULER /startup
 options takes no arguments|--pc "$pc" options chkBleach
 plugins takes no arguments|--pc "$pc" plugins all
 set takes NAME=VALUE|--pc "$pc" set

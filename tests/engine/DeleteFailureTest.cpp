@@ -11,6 +11,7 @@ using Call = TestPc::Call;
 
 struct Failing : WashFixture {
   explicit Failing(std::vector<std::string> facts = {}) : WashFixture(std::move(facts)) {
+    options.chkSkipMessages.Value(1);
     pc.file(path, "eight by");
     engine.animated->StartAnimation();
   }
@@ -32,15 +33,12 @@ TEST_CASE("every failure is told in its own words, and the animation goes on") {
     ErrorNumber error;
     int nSpecial;
     Route route;
-    const char* description;
+    std::string description;
   } const rows[] = {
       {Call::Remove, ErrorNumber::PermissionDenied, 0, Locked, "Permission denied"},
-      {Call::Remove, ErrorNumber::PermissionDenied, 1, LockedAndScheduled, "Permission denied"},
-      {Call::OpenedLength, ErrorNumber::PermissionDenied, 0, Locked, "Permission denied"},
       {Call::OpenedLength, ErrorNumber::PermissionDenied, 1, LockedAndScheduled, "Permission denied"},
       {Call::Remove, ErrorNumber::PathFileAccess, 0, LockedAndScheduled, "Path/File access error"},
-      {Call::Remove, ErrorNumber::PathFileAccess, 1, LockedAndScheduled, "Path/File access error"},
-      {Call::ResetAttributes, ErrorNumber::PathFileAccess, 0, LockedAndScheduled, "Path/File access error"},
+      {Call::ResetAttributes, ErrorNumber::PathFileAccess, 1, LockedAndScheduled, "Path/File access error"},
       {Call::Remove, ErrorNumber::DeviceIo, 1, Refused, "Device I/O error"},
       {Call::OpenedLength, ErrorNumber::TooManyFiles, 0, Refused, "Too many files"},
       {Call::ResetAttributes, ErrorNumber::DiskNotReady, 1, Refused, "Disk not ready"},
@@ -49,8 +47,7 @@ TEST_CASE("every failure is told in its own words, and the animation goes on") {
   };
   for (const auto& row : rows) {
     for (const int popUps : {0, 1}) {
-      const int error = static_cast<int>(row.error);
-      CAPTURE(error);
+      CAPTURE(row.description);
       CAPTURE(row.nSpecial);
       CAPTURE(popUps);
       Failing pc;
@@ -61,13 +58,14 @@ TEST_CASE("every failure is told in its own words, and the animation goes on") {
       const std::string outcome =
           row.route == Refused ? " cannot be deleted" : " is locked or is on a read only drive/network";
       const std::string attempt = row.call == Call::Remove ? "\tDeleting file f.txt\r\n" : "";
-      CHECK(pc.takeReport() == attempt + (row.route == LockedAndScheduled ? lockedLine : "") + "\t" +
-                                   row.description + " The file C:\\T\\f.txt" + outcome + "\r\n\r\n");
-      std::string popUp = std::string(row.description) + ": The file C:\\T\\f.txt\r\n" + outcome + ";";
-      if (row.route == LockedAndScheduled) popUp.insert(0, "Delete locked file: " + lockedPrompt + ";");
+      const bool scheduled = row.route == LockedAndScheduled;
+      CHECK(pc.takeReport() == attempt + (scheduled ? lockedLine : "") + "\t" + row.description +
+                                   " The file C:\\T\\f.txt" + outcome + "\r\n\r\n");
+      const std::string popUp = (scheduled ? "Delete locked file: " + lockedPrompt + ";" : "") +
+                                row.description + ": The file C:\\T\\f.txt\r\n" + outcome + ";";
       CHECK(pc.told() == (popUps == 1 ? popUp : ""));
-      CHECK(pc.pc.hasFile("C:\\WINDOWS\\wininit.ini") == (row.route == LockedAndScheduled));
-      CHECK(pc.progress().timer.Enabled);
+      CHECK(pc.pc.hasFile("C:\\WINDOWS\\wininit.ini") == scheduled);
+      CHECK(pc.progress().Timer.Enabled);
       CHECK(pc.engine.TotalBytes == 0);
       CHECK(pc.engine.leftBehind == 1);
       CHECK(pc.pc.bytes(path) == "eight by");
@@ -75,45 +73,52 @@ TEST_CASE("every failure is told in its own words, and the animation goes on") {
   }
 }
 
+TEST_CASE("a missing file fails in silence, is not made, and leaves the animation standing") {
+  Failing pc;
+  const std::string before = pc.pc.snapshot();
+  for (const char* missing : {"C:\\none.txt", "C:\\none\\none.txt"}) {
+    CAPTURE(missing);
+    pc.engine.animated->StartAnimation();
+    CHECK(pc.engine.deleter->DeleteFile(missing, 1));
+    CHECK_FALSE(pc.progress().Timer.Enabled);
+    CHECK(pc.engine.animated->RemoveEntries() == removing::Files);
+  }
+  CHECK(pc.takeReport().empty());
+  CHECK(pc.told().empty());
+  CHECK(pc.pc.diffSince(before).empty());
+  CHECK(pc.engine.leftBehind == 0);
+}
+
 TEST_CASE("the file scheduled last stands alone in the profile, on both families") {
   for (const char* family : {"family = 9x", "family = nt"}) {
     CAPTURE(family);
     Failing pc({family});
-    pc.pc.file("C:\\T\\A long file name.dat");
-    pc.pc.lock(path);
-    pc.pc.lock("C:\\T\\A long file name.dat");
-    CHECK(pc.engine.deleter->DeleteFile("C:\\T\\A long file name.dat", 1));
-    CHECK(pc.engine.deleter->DeleteFile(path, 1));
-    const std::string profile = pc.pc.bytes("C:\\WINDOWS\\wininit.ini");
-    CHECK(profile == "[rename]\r\nnul=" + pc.pc.platform().files.shortPath(path) + "\r\n");
-    CHECK(pc.pc.restartDeletes.empty());
-    pc.pc.unlock(path);
-    CHECK_FALSE(pc.engine.deleter->DeleteFile(path, 1));
+    const std::string first = "C:\\T\\A long file name.dat";
+    pc.pc.file(first);
+    for (const std::string& held : {first, std::string(path)}) {
+      pc.pc.lock(held);
+      CHECK(pc.engine.deleter->DeleteFile(held, 1));
+      CHECK(pc.pc.bytes("C:\\WINDOWS\\wininit.ini") ==
+            "[rename]\r\nnul=" + pc.pc.platform().files.shortPath(held) + "\r\n");
+    }
   }
 }
 
-TEST_CASE("one file that stays does not keep the others") {
+TEST_CASE("files and folders that stay do not keep the others") {
   WashFixture pc;
-  for (const char* name : {"1", "2", "3", "a\\4", "b\\5"}) pc.pc.file(std::string("C:\\T\\") + name, "four");
-  pc.pc.lock("C:\\T\\a\\4");
-  pc.pc.failNth(Call::Remove, 2, ErrorNumber::DeviceIo);
-  pc.engine.deleter->DeleteFolder("C:\\T", "*.*");
-  CHECK(pc.pc.hasFile("C:\\T\\a\\4"));
-  CHECK_FALSE(pc.pc.hasFolder("C:\\T\\b"));
-  CHECK(pc.pc.hasFile("C:\\T\\1") + pc.pc.hasFile("C:\\T\\2") + pc.pc.hasFile("C:\\T\\3") == 1);
-  CHECK(pc.engine.TotalBytes == 12);
-}
-
-TEST_CASE("a folder that cannot be removed is passed over") {
-  WashFixture pc;
-  pc.pc.folder("C:\\T\\a");
-  pc.pc.folder("C:\\T\\b");
-  pc.pc.failFile(Call::DeleteFolder, "C:\\T\\b", ErrorNumber::PermissionDenied);
+  for (const char* name : {"1", "2", "a\\3", "b\\4"}) pc.pc.file(std::string("C:\\T\\") + name, "four");
+  pc.pc.folder("C:\\T\\c");
+  pc.pc.lock("C:\\T\\a\\3");
+  pc.pc.failFile(Call::Remove, "C:\\T\\1", ErrorNumber::DeviceIo);
+  pc.pc.failFile(Call::DeleteFolder, "C:\\T\\c", ErrorNumber::PermissionDenied);
   CHECK_FALSE(pc.engine.deleter->DeleteFolder("C:\\T", "*.*"));
-  CHECK_FALSE(pc.pc.hasFolder("C:\\T\\a"));
-  CHECK(pc.pc.hasFolder("C:\\T\\b"));
-  CHECK(pc.pc.messages.empty());
-  CHECK(pc.engine.leftBehind == 1);
+  CHECK(pc.pc.hasFile("C:\\T\\1"));
+  CHECK_FALSE(pc.pc.hasFile("C:\\T\\2"));
+  CHECK(pc.pc.hasFile("C:\\T\\a\\3"));
+  CHECK_FALSE(pc.pc.hasFolder("C:\\T\\b"));
+  CHECK(pc.pc.hasFolder("C:\\T\\c"));
+  CHECK(pc.engine.TotalBytes == 8);
+  CHECK(pc.engine.leftBehind == 4);  // the folder that holds the locked file counts too
 }
 
 TEST_CASE("a sum of bytes beyond 32 bits is that file's failure, which by then is gone") {
@@ -135,13 +140,12 @@ TEST_CASE("a shredder that fails leaves the outcome to the removal") {
   for (const Call call : {Call::Open, Call::Write}) {
     Failing pc;
     pc.options.chkBleach.Value(1);
-    pc.options.chkSkipMessages.Value(1);
     pc.pc.file(path, std::string(4096, 'A'));
     pc.pc.failFile(call, path, ErrorNumber::DiskFull);
     CHECK_FALSE(pc.engine.deleter->DeleteFile(path, 0));
     CHECK_FALSE(pc.pc.hasFile(path));
     CHECK(pc.engine.TotalBytes == 4096);
     CHECK(pc.takeReport() == (call == Call::Open ? "" : "\tShredding file f.txt\r\n"));
-    CHECK(pc.pc.messages.empty());
+    CHECK(pc.told().empty());
   }
 }

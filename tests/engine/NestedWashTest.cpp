@@ -4,23 +4,16 @@
 
 using namespace zub;
 
-namespace {
-
-std::string traceName(int number) {
-  return "C:\\Traces\\Folder" + std::to_string(number % 3) + "\\Trace" + std::to_string(number);
-}
-
-}  // namespace
-
 // The interval may come due in any turn of a wash that the user started, and then starts a further wash inside.
 TEST_CASE("a wash inside another wash's turn: both finish, at whichever turn it comes") {
   bool inTime = true;
   for (int due = 1; inTime; ++due) {
     CAPTURE(due);
     WashFixture pc;
-    for (int number = 0; number < 6; ++number) pc.pc.file(traceName(number));
-    pc.pc.file("C:\\Bin\\The first letter.txt");
-    pc.pc.file("C:\\Bin\\The second letter.txt");
+    for (const char* trace : {"a\\1", "a\\2", "b\\3", "b\\4", "c\\5", "c\\6"}) {
+      pc.pc.file(std::string("C:\\Traces\\Folder ") + trace);
+    }
+    for (const char* letter : {"first", "second"}) pc.pc.file(std::string("C:\\Bin\\The letter ") + letter);
     pc.pc.file("C:\\Office\\list");  // the wash inside ends with shorter lists than the outer one's
     pc.pc.file("C:\\Keep\\kept");
     int finished = 0;
@@ -36,10 +29,11 @@ TEST_CASE("a wash inside another wash's turn: both finish, at whichever turn it 
     pc.engine.animated->StartClean();
     inTime = pc.pc.turns >= due;
     CHECK(finished == (inTime ? 2 : 1));
-    for (int number = 0; number < 6; ++number) CHECK_FALSE(pc.pc.hasFile(traceName(number)));
-    CHECK_FALSE(pc.pc.hasFile("C:\\Bin\\The second letter.txt"));
+    pc.engine.deleter->ListFilesFolder("C:\\Traces", "*");
+    CHECK(pc.engine.deleter->DelDirList.empty());
+    CHECK(pc.engine.deleter->DelFileList.empty());
+    CHECK_FALSE(pc.pc.hasFile("C:\\Bin\\The letter second"));
     CHECK(pc.pc.hasFolder("C:\\Traces"));
-    CHECK_FALSE(pc.pc.hasFolder("C:\\Traces\\Folder0"));
     CHECK(pc.pc.hasFile("C:\\Keep\\kept"));
     REQUIRE(due < 200);
   }

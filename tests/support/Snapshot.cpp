@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 #include <vector>
 
 #include "platform/folder/HostText.h"
@@ -11,60 +12,41 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-std::string hex(std::uint32_t number, int digits) {
-  char text[16];
-  std::snprintf(text, sizeof text, "%0*x", digits, number);
-  return text;
-}
-
-std::uint32_t checksum(std::string_view bytes) {
-  std::uint32_t sum = 2166136261u;
-  for (const char c : bytes) sum = (sum ^ static_cast<unsigned char>(c)) * 16777619u;
-  return sum;
-}
-
 void addFolder(Lines& lines, HostDir& folder, const std::string& path) {
   std::unique_ptr<HostList> listing;
   if (folder.list(listing) != HostError::None) return;
   HostEntry entry;
   while (listing->next(entry)) {
     const std::string entryPath = path + "\\" + ansiFromUtf8(entry.name);
-    std::unique_ptr<HostDir> below;
-    switch (entry.stat.kind) {
-      case HostKind::Folder:
-        lines.push_back("folder " + entryPath);
-        if (folder.openDir(entry.name, below) == HostError::None) addFolder(lines, *below, entryPath);
-        break;
-      case HostKind::File: {
-        const std::string bytes = readHostText(folder, entry.name).value_or("");
-        lines.push_back("file " + entryPath + " " + std::to_string(bytes.size()) + " " +
-                        hex(checksum(bytes), 8));
-        break;
-      }
-      case HostKind::Link:
-        lines.push_back("link " + entryPath);
-        break;
-      case HostKind::Other:
-        lines.push_back("device " + entryPath);
-        break;
+    if (entry.stat.kind == HostKind::Folder) {
+      lines.push_back("folder " + entryPath);
+      std::unique_ptr<HostDir> below;
+      if (folder.openDir(entry.name, below) == HostError::None) addFolder(lines, *below, entryPath);
+    } else if (entry.stat.kind == HostKind::File) {
+      const std::string bytes = readHostText(folder, entry.name).value_or("");
+      lines.push_back("file " + entryPath + " " + std::to_string(bytes.size()) + " " +
+                      std::to_string(std::hash<std::string>{}(bytes)));
+    } else {
+      lines.push_back("link or device " + entryPath);
     }
   }
 }
 
-std::string dataText(const RegistryValue& value) {
-  const bool isText = value.type == static_cast<std::uint32_t>(ValueType::Text) &&
-                      value.data.ends_with('\0') &&
-                      std::none_of(value.data.begin(), value.data.end() - 1,
-                                   [](char c) { return static_cast<unsigned char>(c) < 32; });
-  if (isText) return "\"" + value.data.substr(0, value.data.size() - 1) + "\"";
-  std::string text = std::to_string(value.type) + ":";
-  for (const char c : value.data) text += hex(static_cast<unsigned char>(c), 2);
+// The bytes, those that are no printing characters as %00.
+std::string dataText(std::string_view data) {
+  std::string text;
+  for (const char c : data) {
+    char hex[8];
+    std::snprintf(hex, sizeof hex, c >= ' ' && c <= '~' ? "%c" : "%%%02x", static_cast<unsigned char>(c));
+    text += hex;
+  }
   return text;
 }
 
 void addKey(Lines& lines, const RegistryNode& node, const std::string& path) {
   for (const auto& [name, value] : node.values) {
-    lines.push_back("value " + path + " \"" + name + "\" = " + dataText(value));
+    lines.push_back("value " + path + " \"" + name + "\" = " + std::to_string(value.type) + ":" +
+                    dataText(value.data));
   }
   for (const auto& [name, key] : node.keys) {
     const std::string below = path + "\\" + name;
@@ -76,11 +58,17 @@ void addKey(Lines& lines, const RegistryNode& node, const std::string& path) {
 Lines linesOf(std::string_view text) {
   Lines lines;
   while (!text.empty()) {
-    const auto end = std::min(text.find('\n'), text.size() - 1);
-    lines.emplace_back(text.substr(0, end + 1));
+    const auto end = text.find('\n');
+    lines.emplace_back(text.substr(0, end));
     text.remove_prefix(end + 1);
   }
   return lines;
+}
+
+void addMissing(std::string& diff, std::string_view sign, const Lines& from, const Lines& in) {
+  Lines missing;
+  std::ranges::set_difference(from, in, std::back_inserter(missing));
+  for (const std::string& line : missing) diff.append(sign).append(line) += '\n';
 }
 
 }  // namespace
@@ -104,20 +92,10 @@ std::string snapshotOf(FolderPc& pc) {
 std::string diffOf(std::string_view before, std::string_view after) {
   const Lines old = linesOf(before);
   const Lines now = linesOf(after);
-  std::string text;
-  auto left = old.begin();
-  auto right = now.begin();
-  while (left != old.end() || right != now.end()) {
-    if (left != old.end() && right != now.end() && *left == *right) {
-      ++left;
-      ++right;
-    } else if (right == now.end() || (left != old.end() && *left < *right)) {
-      text += "- " + *left++;
-    } else {
-      text += "+ " + *right++;
-    }
-  }
-  return text;
+  std::string diff;
+  addMissing(diff, "- ", old, now);
+  addMissing(diff, "+ ", now, old);
+  return diff;
 }
 
 }  // namespace zub

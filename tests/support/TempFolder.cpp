@@ -1,61 +1,34 @@
 #include "support/TempFolder.h"
 
-#include <cstdlib>
+#include <filesystem>
 #include <random>
 #include <stdexcept>
 
 #include "platform/folder/HostText.h"
 
 namespace zub {
-namespace {
 
-std::string tempParent() {
-  for (const char* name : {"TMPDIR", "TEMP", "TMP"}) {
-    const char* value = std::getenv(name);
-    if (value != nullptr && *value != '\0') return value;
-  }
-  return "/tmp";
-}
+namespace fs = std::filesystem;
 
-void removeAll(HostDir& parent, const std::string& name) {
-  std::unique_ptr<HostDir> folder;
-  if (parent.openDir(name, folder) != HostError::None) return;
-  std::unique_ptr<HostList> listing;
-  if (folder->list(listing) == HostError::None) {
-    HostEntry entry;
-    while (listing->next(entry)) {
-      if (entry.stat.kind == HostKind::Folder) {
-        removeAll(*folder, entry.name);
-      } else if (folder->removeFile(entry.name) == HostError::NoRights) {
-        folder->setReadOnly(entry.name, false);
-        folder->removeFile(entry.name);
-      }
-    }
-  }
-  listing.reset();
-  folder.reset();
-  parent.removeDir(name);
-}
-
-}  // namespace
-
-TempFolder::TempFolder() : parent_(openHostDir(tempParent())) {
-  if (!parent_) throw std::runtime_error("there is no temporary folder");
+TempFolder::TempFolder() {
   std::random_device random;
-  HostError made = HostError::Exists;
-  while (made == HostError::Exists) {
-    name_ = "zub-test-" + std::to_string(random()) + "-" + std::to_string(random());
-    made = parent_->makeDir(name_);
-  }
-  if (made != HostError::None || parent_->openDir(name_, dir_) != HostError::None) {
-    throw std::runtime_error("no temporary folder can be made");
-  }
-  path_ = tempParent() + "/" + name_;
+  fs::path made;
+  do {
+    made = fs::temp_directory_path() / ("zub-test-" + std::to_string(random()) + std::to_string(random()));
+  } while (!fs::create_directory(made));
+  path_ = made.string();
+  dir_ = openHostDir(path_);
+  if (!dir_) throw std::runtime_error("no temporary folder can be opened");
 }
 
 TempFolder::~TempFolder() {
   dir_.reset();
-  removeAll(*parent_, name_);
+  std::error_code ignored;
+  for (fs::recursive_directory_iterator entry(path_, ignored), end; entry != end; entry.increment(ignored)) {
+    // Some hosts do not remove a read-only file.
+    if (!entry->is_symlink()) fs::permissions(*entry, fs::perms::owner_write, fs::perm_options::add, ignored);
+  }
+  fs::remove_all(path_, ignored);
 }
 
 void writeHostFile(HostDir& folder, const std::string& name, std::string_view bytes) {

@@ -19,8 +19,6 @@ class TempFolder {
   HostDir& dir() { return *dir_; }
 
  private:
-  std::unique_ptr<HostDir> parent_;
-  std::string name_;
   std::string path_;
   std::unique_ptr<HostDir> dir_;
 };

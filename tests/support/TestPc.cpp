@@ -45,15 +45,9 @@ class TestPc::Impl {
         disk(pc.root(), pc.facts()),
         files(pc.files, fileFaults),
         registry(pc.registry, keyFaults),
-        clock(owner),
-        shell(owner),
-        restart(owner, pc.restart),
-        process(owner),
-        events(owner),
-        messages(owner),
-        tray(owner),
-        platform{pc.codePage, registry, files,  pc.drives, pc.folders, restart, shell,
-                 clock,       process,  events, messages,  tray,       pc.tasks} {
+        desk(owner),
+        platform{pc.codePage, registry, files, pc.drives, pc.folders, pc.restart, desk,
+                 desk,        desk,     desk,  desk,      desk,       pc.tasks} {
     for (const auto& [letter, kind] : pc.facts().drives) pc.root().makeDir({letter});
     for (const FolderPath* path :
          {&pc.facts().windows, &pc.facts().temp, &pc.facts().program, &pc.facts().current}) {
@@ -96,11 +90,6 @@ class TestPc::Impl {
     return *node;
   }
 
-  const RegistryValue* findValue(std::string_view key, std::string_view name) {
-    const RegistryNode* node = pc.registryTree().find(key);
-    return node == nullptr ? nullptr : node->values.find(name);
-  }
-
   TempFolder temp;
   FolderPc pc;
   FolderDisk disk;
@@ -108,13 +97,7 @@ class TestPc::Impl {
   KeyFaults keyFaults;
   TestFiles files;
   TestRegistry registry;
-  TestClock clock;
-  TestShell shell;
-  TestRestart restart;
-  TestProcess process;
-  TestEvents events;
-  TestMessages messages;
-  TestTray tray;
+  TestDesk desk;
   Platform platform;
 };
 
@@ -186,18 +169,19 @@ bool TestPc::hasKey(std::string_view path) const {
 }
 
 bool TestPc::hasValue(std::string_view key, std::string_view name) const {
-  return impl_->findValue(key, name) != nullptr;
+  return data(key, name).has_value();
 }
 
 std::optional<std::string> TestPc::data(std::string_view key, std::string_view name) const {
-  const RegistryValue* value = impl_->findValue(key, name);
+  const RegistryNode* node = impl_->pc.registryTree().find(key);
+  const RegistryValue* value = node == nullptr ? nullptr : node->values.find(name);
   return value == nullptr ? std::nullopt : std::optional(value->data);
 }
 
 std::optional<std::string> TestPc::text(std::string_view key, std::string_view name) const {
-  const RegistryValue* value = impl_->findValue(key, name);
-  if (value == nullptr) return std::nullopt;
-  return std::string(StripAtNull(value->data));
+  const std::optional<std::string> stored = data(key, name);
+  if (!stored) return std::nullopt;
+  return std::string(StripAtNull(*stored));
 }
 
 std::vector<std::string> TestPc::valueNames(std::string_view key) const {
@@ -212,20 +196,16 @@ std::string TestPc::snapshot() const {
   return snapshotOf(impl_->pc);
 }
 
-std::string TestPc::diff(std::string_view before, std::string_view after) {
-  return diffOf(before, after);
+std::string TestPc::diffSince(std::string_view before) const {
+  return diffOf(before, snapshot());
 }
 
 void TestPc::failFile(Call call, std::string_view path, ErrorNumber number) {
-  impl_->fileFaults.onPath(call, path, number);
-}
-
-void TestPc::failNth(Call call, int n, ErrorNumber number) {
-  impl_->fileFaults.nth(call, n, number);
+  impl_->fileFaults.add(call, path, number);
 }
 
 void TestPc::failKey(KeyCall call, std::string_view path, RegistryStatus status) {
-  impl_->keyFaults.onPath(call, path, status);
+  impl_->keyFaults.add(call, path, status);
 }
 
 void TestPc::clearFaults() {

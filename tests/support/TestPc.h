@@ -52,9 +52,9 @@ class TestPc {
   // Every file (with its length and a checksum), folder, key and value (with its data), one line each,
   // sorted.
   std::string snapshot() const;
-  // The lines that only `before` has, with "- " in front, and those that only `after` has, with "+ ".
-  static std::string diff(std::string_view before, std::string_view after);
-  std::string diffSince(std::string_view before) const { return diff(before, snapshot()); }
+  // The lines that only `before` has, with "- " in front, and then those that only the PC as it is now has, with
+  // "+ ".
+  std::string diffSince(std::string_view before) const;
 
   // What the next start of the program finds.
   std::string commandLine;
@@ -71,8 +71,7 @@ class TestPc {
   // Faults: the call fails as told instead of doing its work, until `clearFaults`. Paths are compared without
   // case.
   enum class Call { ResetAttributes, OpenedLength, Open, Read, Write, Remove, CreateFolder, DeleteFolder };
-  void failFile(Call call, std::string_view path, ErrorNumber number);  // every such call on this path
-  void failNth(Call call, int n, ErrorNumber number);                   // the n-th such call from now, once
+  void failFile(Call call, std::string_view path, ErrorNumber number);
   enum class KeyCall { Open, Create, EnumKey, EnumValue, Query, Set, DeleteValue, DeleteKey };
   // `path` with its hive, as opened; for the value calls the key's path.
   void failKey(KeyCall call, std::string_view path, RegistryStatus status);
@@ -94,7 +93,6 @@ class TestPc {
   std::int32_t recycleResult = 0;    // what emptying the recycle bin answers
   std::vector<std::uint32_t> recycleFlags;
   int recycleIconUpdates = 0;
-  std::vector<std::string> restartDeletes;
   std::vector<std::string> tray;  // "add TIP", "remove"
 
  private:

@@ -7,10 +7,18 @@
 #include <vector>
 
 #include "engine/Engine.h"
-#include "support/FakeOwner.h"
 #include "support/TestPc.h"
 
 namespace zub {
+
+// The main window of the wash: records what it is told.
+struct FakeOwner : WashOwner {
+  std::vector<std::string> calls;
+
+  void Enable() override { calls.emplace_back("Enable"); }
+  void FinishedCleaning() override { calls.emplace_back("FinishedCleaning"); }
+  void Unload() override { throw EndOfProcess{}; }
+};
 
 struct WashFixture {
   TestPc pc;

@@ -47,6 +47,11 @@ int washCommand(CommandContext& context) {
 }
 
 int startCommand(CommandContext& context) {
+  for (const std::string& argument : context.arguments) {
+    if (argument != "/STARTUP" && argument != "/SCHEDULER") {
+      throw UsageError("start takes /STARTUP and /SCHEDULER, not \"" + argument + "\"");
+    }
+  }
   return runProgram(context, [](Program&) {});
 }
 

@@ -55,3 +55,29 @@ TEST_CASE("a row that becomes current raises Click, and a row that is not there 
   CHECK(rows.List(7).empty());
   CHECK_FALSE(rows.Selected(7));
 }
+
+TEST_CASE("a combo box holds a row, or a typed text that may be no row") {
+  Combo combo({"one", "two"}, 0);
+  std::string events;
+  combo.Click = [&] { events += "click "; };
+  combo.Change = [&] { events += "change "; };
+  combo.ListIndex(1);
+  CHECK(combo.Text() == "two");
+  combo.type("two ");
+  CHECK(combo.ListIndex() == -1);
+  CHECK(combo.Text() == "two ");
+  combo.type("one");
+  CHECK(combo.ListIndex() == 0);
+  combo.ListIndex(-1);
+  CHECK(combo.Text().empty());
+  CHECK(events == "click change change ");
+  CHECK_THROWS_AS(combo.ListIndex(2), RuntimeError);
+}
+
+TEST_CASE("every write of a check option raises its handler, also one that changes nothing") {
+  CheckOption option;
+  std::string seen;
+  option.Click = [&] { seen += std::to_string(option.Value()); };
+  for (const int value : {0, 1, 1, 0}) option.Value(value);
+  CHECK(seen == "0110");
+}
