@@ -1,6 +1,7 @@
 // A test PC with everything that a wash needs but the cleaners.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -47,5 +48,19 @@ struct WashFixture {
     options.LstIcons.Check(rowOf(task).iconRow, 1);
   }
 };
+
+// The lines of a diff that are no removals of something whose line names one of `expected`: what a wash did beyond
+// that.
+inline std::string beyond(std::string_view diff, const std::vector<std::string>& expected) {
+  std::string lines;
+  while (!diff.empty()) {
+    const std::string_view line = diff.substr(0, diff.find('\n'));
+    diff.remove_prefix(std::min(diff.size(), line.size() + 1));
+    const bool named = std::ranges::any_of(
+        expected, [&](const std::string& part) { return line.find(part) != std::string_view::npos; });
+    if (!line.starts_with("- ") || !named) lines.append(line) += '\n';
+  }
+  return lines;
+}
 
 }  // namespace zub
