@@ -47,10 +47,10 @@ class FolderTasks : public ScheduleTasks {
 
  private:
   class Task;
+  void load();
   void saveTask(const TaskRecord& task);
 
   HostDir& root_;
-  std::vector<TaskRecord> saved_;  // as the text has them
   std::vector<std::unique_ptr<Task>> tasks_;
 };
 
