@@ -32,7 +32,8 @@ TEST_CASE_TEMPLATE("folders: the system's own folders are there", Pc, CONTRACT_P
   CHECK(temp.ends_with('\\'));
   CHECK(files.folderExists(temp));
   CHECK(folders.temp(4).empty());
-  CHECK(folders.temp(static_cast<std::uint32_t>(temp.size()) - 1).empty());
+  CHECK(folders.temp(static_cast<std::uint32_t>(temp.size())).empty());  // no room for the NUL
+  CHECK(folders.temp(static_cast<std::uint32_t>(temp.size()) + 1) == temp);
   CHECK_FALSE(folders.windows().ends_with('\\'));
   CHECK(files.folderExists(folders.windows()));
   CHECK(files.folderExists(folders.programFolder()));
