@@ -216,6 +216,7 @@ void FolderFiles::removeTree(HostDir& parent, const std::string& name, FolderPat
     error = parent.removeDir(name);
   }
   check(error);
+  if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
 }
 
 bool FolderFiles::removeContent(HostDir& parent, const std::string& name, FolderPath& path) {
@@ -232,8 +233,8 @@ bool FolderFiles::removeContent(HostDir& parent, const std::string& name, Folder
       removeTree(*folder, entry.name, path);
     } else {
       removeForced(*folder, entry.name);
+      if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
     }
-    if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
     path.parts.pop_back();
     removedSome = true;
   }
