@@ -43,9 +43,9 @@ class Scheduler {
     const SystemTime now = clock_.local();
     if (now.wMinute != minute_) {
       minute_ = now.wMinute;
-      guarded([this] { readOptions(); });
+      guarded(toldOfOptions_, [this] { readOptions(); });
     }
-    guarded([this] { readTasks(); });
+    guarded(toldOfTasks_, [this] { readTasks(); });
     for (const std::size_t index : due_.look(times_, now)) wash(parameters_[index], startCommand);
     automatic_.Timer_Tick();
   }
@@ -53,13 +53,13 @@ class Scheduler {
  private:
   // A text that somebody is just changing, or has damaged, is told once; what was read before stays in force.
   template <class Work>
-  void guarded(Work work) {
+  static void guarded(std::string& told, Work work) {
     try {
       work();
-      told_.clear();
+      told.clear();
     } catch (const std::exception& error) {
-      if (told_ != error.what()) std::fprintf(stderr, "zub: %s\n", error.what());
-      told_ = error.what();
+      if (told != error.what()) std::fprintf(stderr, "zub: %s\n", error.what());
+      told = error.what();
     }
   }
 
@@ -92,7 +92,8 @@ class Scheduler {
 
   // Starts the program anew on the PC as it is now.
   void wash(const std::string& commandLine, int (*command)(CommandContext&)) {
-    guarded([&] {
+    std::string told;
+    guarded(told, [&] {
       const auto pc = openFolderPc(context_.pc.folder(), context_.loop, context_.loop, commandLine);
       CommandContext started{*pc, context_.loop, {}};
       command(started);
@@ -109,7 +110,8 @@ class Scheduler {
   std::vector<SystemTime> times_;
   std::vector<std::string> parameters_;  // beside times_
   std::string tasksText_;
-  std::string told_;
+  std::string toldOfTasks_;
+  std::string toldOfOptions_;
   int minute_ = -1;
 };
 
