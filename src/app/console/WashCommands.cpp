@@ -13,19 +13,29 @@ std::string withoutCarriageReturns(std::string text) {
   return text;
 }
 
+// The loop serves the program for as long as this lives.
+struct Attached {
+  Attached(ConsoleLoop& served, Program& program) : loop(served) { loop.attach(program); }
+  Attached(const Attached&) = delete;
+  Attached& operator=(const Attached&) = delete;
+  ~Attached() { loop.detach(); }
+  ConsoleLoop& loop;
+};
+
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
   context.needAlone();
   Program program(context.pc.platform());
-  context.loop.attach(program);
-  try {
-    program.start();
-    afterStart(program);
-    if (program.engine.animated.loaded()) program.engine.animated->cmdFinish_Click();
-    program.main.Unload();
-  } catch (const EndOfProcess&) {
+  {
+    const Attached attached(context.loop, program);
+    try {
+      program.start();
+      afterStart(program);
+      if (program.engine.animated.loaded()) program.engine.animated->cmdFinish_Click();
+      program.main.Unload();
+    } catch (const EndOfProcess&) {
+    }
   }
-  context.loop.detach();
   context.pc.save();
 
   if (!program.engine.clean.txtResult.empty()) {
