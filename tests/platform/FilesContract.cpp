@@ -241,7 +241,14 @@ TEST_CASE_TEMPLATE("files: what is written in pieces arrives whole", Pc, CONTRAC
   overwrite(0, 1024, 200, 'a');
   overwrite(1000, 100000, 1, 'b');  // more than is ever kept back
   overwrite(65536, 65536, 1, 'c');
-  overwrite(299990, 7, 10, 'd');  // across the end
+  overwrite(65000, 1000, 1, 'd');  // over what is still kept back, and on from within it
+  overwrite(65500, 65536, 1, 'e');
+  overwrite(299990, 7, 10, 'f');  // across the end
+  CHECK(channel->length() == static_cast<std::int64_t>(expected.size()));
+  char last[2];
+  channel->seek(static_cast<std::int64_t>(expected.size()) - 2);
+  CHECK(channel->read(last) == 2);
+  channel->closeOnDisk();
   channel->closeOnDisk();
   CHECK(pc.bytes(path) == expected);
 }
