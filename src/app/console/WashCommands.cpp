@@ -2,6 +2,7 @@
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "platform/folder/PcError.h"
 
 namespace zub {
 namespace {
@@ -11,6 +12,14 @@ std::string withoutCarriageReturns(std::string text) {
   std::erase(text, '\r');
   while (text.ends_with('\n')) text.pop_back();
   return text;
+}
+
+// After each wash; what cannot be saved then is told when the program has ended.
+void saveIfPossible(ConsolePc& pc) {
+  try {
+    pc.save();
+  } catch (const PcError&) {
+  }
 }
 
 // The loop serves the program for as long as this lives.
@@ -26,6 +35,7 @@ struct Attached {
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
   context.needAlone();
   Program program(context.pc.platform());
+  program.engine.clean.cleaners.ended = [&context] { saveIfPossible(context.pc); };
   {
     const Attached attached(context.loop, program);
     try {
