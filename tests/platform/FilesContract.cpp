@@ -245,7 +245,9 @@ TEST_CASE_TEMPLATE("files: what is written in pieces arrives whole", Pc, CONTRAC
   overwrite(65536, 65536, 1, 'c');
   overwrite(65000, 1000, 1, 'd');  // over what is still kept back, and on from within it
   overwrite(65500, 65536, 1, 'e');
-  overwrite(299990, 7, 10, 'f');  // across the end
+  overwrite(100, 10, 1, 'f');
+  overwrite(1000, 10, 1, 'g');    // beyond a gap
+  overwrite(299990, 7, 10, 'h');  // across the end
   CHECK(channel->length() == static_cast<std::int64_t>(expected.size()));
   char last[2];
   channel->seek(static_cast<std::int64_t>(expected.size()) - 2);
