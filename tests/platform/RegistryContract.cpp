@@ -189,20 +189,14 @@ TEST_CASE_TEMPLATE("registry: a value that does not fit is told as such", Pc, CO
   Pc pc;
   Scratch scratch(pc);
   REQUIRE(scratch.set("abcd", 3, "12345678") == status::Success);
-  const struct {
-    std::uint32_t nameRoom;
-    std::uint32_t dataRoom;
-    RegistryStatus result;
-  } rows[] = {{5, 8, status::Success}, {4, 8, status::MoreData}, {5, 7, status::MoreData}};
-  for (const auto& row : rows) {
-    CAPTURE(row.nameRoom);
-    CAPTURE(row.dataRoom);
+  const auto result = [&scratch](std::uint32_t nameRoom, std::uint32_t dataRoom) {
     char name[16];
-    std::uint32_t length = row.nameRoom;
-    std::uint32_t dataLength = row.dataRoom;
-    CHECK(scratch.registry.enumValue(scratch.key.get(), 0, name, length, scratch.type, scratch.buffer,
-                                     dataLength) == row.result);
-  }
+    return scratch.registry.enumValue(scratch.key.get(), 0, name, nameRoom, scratch.type, scratch.buffer,
+                                      dataRoom);
+  };
+  CHECK(result(5, 8) == status::Success);
+  CHECK(result(4, 8) == status::MoreData);
+  CHECK(result(5, 7) == status::MoreData);
 }
 
 TEST_CASE_TEMPLATE("registry: a key with subkeys goes on the 9x family and stays on NT", Pc, CONTRACT_PCS) {
