@@ -108,9 +108,9 @@ TEST_CASE("names that no file can have") {
 }
 
 TEST_CASE("facts about files and drives") {
-  TestPc pc({"locked = C:\\Dir\\Locked.txt", "hidden = C:\\h.txt", "system = C:\\h.txt", "read only = D",
-             "drive D = fixed", "drive E = cdrom"});
-  pc.file("C:\\dir\\locked.txt");
+  TestPc pc({"locked = C:\\Long Dir\\Locked.html", "hidden = C:\\h.txt", "system = C:\\h.txt",
+             "read only = D", "drive D = fixed", "drive E = cdrom"});
+  pc.file("C:\\long dir\\locked.html");
   pc.file("C:\\H.TXT");
   pc.file("D:\\f");
   Files& files = pc.platform().files;
@@ -118,7 +118,11 @@ TEST_CASE("facts about files and drives") {
   files.resetAttributes("C:\\h.txt");
   CHECK(files.attributes("C:\\h.txt") == attribute::Normal);
 
-  CHECK(failure([&] { files.open("C:\\dir\\locked.txt", OpenMode::Input); }) == 70);
+  for (const char* path : {"C:\\Long dir\\locked.HTML", "C:\\LONGDI~1\\LOCKED~1.HTM"}) {
+    CHECK(failure([&] { files.open(path, OpenMode::Input); }) == 70);
+    CHECK(failure([&] { files.remove(path); }) == 70);
+  }
+  CHECK(failure([&] { files.deleteFolder("C:\\LONGDI~1"); }) == 70);
   CHECK(failure([&] { files.remove("D:\\f"); }) == 70);
   CHECK(failure([&] { files.createFolder("D:\\new"); }) == 70);
   CHECK(failure([&] { files.open("D:\\f", OpenMode::Binary); }) == 70);
