@@ -27,6 +27,7 @@ void frmClean::CleanAll() {
     engine_.animated->state.lblCurrent.Caption = "Press finish to close this application";
     engine_.animated->state.CloseWindowTimer.Enabled = true;
   }
+  raise(cleaners.ended);
 }
 
 void frmClean::runPlugins(Task task, const ListRows& rows,

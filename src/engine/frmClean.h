@@ -20,6 +20,7 @@ class frmClean {
     std::array<Handler, BuiltInTasks> builtIn;  // by Task
     std::function<void(const std::string& name)> customPlugin;
     std::function<void(const std::string& name)> standardPlugin;
+    Handler ended;  // when all tasks are done; may stay empty
   };
   Cleaners cleaners;
 

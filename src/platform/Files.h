@@ -70,8 +70,9 @@ class Files {
   // Enumerates the folder of `path` by the wildcard behind its last backslash: "*" and "?", without regard to
   // case,
   // "*.*" is everything, "name." is the name without an extension, blanks and dots at the end of other
-  // patterns do not count. The folder's own "." and ".." may be told. Null where the folder or a match is
-  // missing.
+  // patterns do not count. The folder's own "." and ".." may be told. With "*" and "*.*" a file may be told
+  // without its size and its read-only bit, where these would cost a look at each file. Null where the folder
+  // or a match is missing.
   virtual std::unique_ptr<FileSearch> find(std::string_view path) = 0;
 
   // The attribute bits, or attribute::Invalid. Does not fail.

@@ -32,7 +32,7 @@ class Drives {
 class SystemFolders {
  public:
   virtual ~SystemFolders() = default;
-  // With a trailing backslash; empty on failure, which a path longer than `room` characters is too.
+  // With a trailing backslash; empty on failure, which a path is too that, with its NUL, is longer than `room`.
   virtual std::string temp(std::uint32_t room) = 0;
   virtual std::string windows() = 0;  // no trailing backslash
   // The running program: its folder without a trailing backslash unless it is a root, and its file name.

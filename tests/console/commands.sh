@@ -40,7 +40,6 @@ gone "$pc/C/WINDOWS/TEMP/old.tmp"
 says "	Deleting file old.tmp"
 
 # Wrong usage is told in one line, and nothing is changed by it.
-touch "$work/file"
 mkdir "$work/empty"
 run 0 --pc "$pc" schedule
 portrait "$pc" >"$work/before"
@@ -48,50 +47,32 @@ while IFS='|' read -r text words; do
   eval "refused '$text' $words"
 done <<'END'
 no command is given|
-no command is given|--pc "$pc"
 --pc takes a folder|--pc
+--pc takes a folder|--pc "" wash
 there is no command "polish"|--pc "$pc" polish
-there is no command "plugin"|--pc "$pc" plugin
 there is no command "plugin"|--pc "$pc" plugin polish
 there is no Windows here to work on: give a PC in a folder with --pc FOLDER|wash
-there is no Windows here to work on: give a PC in a folder with --pc FOLDER|options
 nowhere: is no folder that can be opened|--pc "$work/nowhere" wash
-file: is no folder that can be opened|--pc "$work/file" wash
 empty: is no PC|--pc "$work/empty" wash
 is not empty|new "$pc"
 nowhere/: is no folder that can be opened|new "$work/nowhere/pc"
-new takes a folder|new
 new takes a folder|new "$work/one" "$work/two"
 wash takes no arguments|--pc "$pc" wash now
 start takes /STARTUP and /SCHEDULER, not "/startup"|--pc "$pc" start /SCHEDULER /startup
-options takes no arguments|--pc "$pc" options chkBleach
-plugins takes no arguments|--pc "$pc" plugins all
 set takes NAME=VALUE|--pc "$pc" set
 "chkBleach" is not NAME=VALUE|--pc "$pc" set chkBleach
 there is no setting "chkPolish"|--pc "$pc" set chkPolish=1
-there is no setting "chkbleach"|--pc "$pc" set chkbleach=1
-there is no setting "ZUBStandardPlugin Polish"|--pc "$pc" set "ZUBStandardPlugin Polish=1"
 "chkBleach" takes 0 to 1, not "2"|--pc "$pc" set chkBleach=2
-"chkBleach" takes 0 to 1, not ""|--pc "$pc" set chkBleach=
-"cmbShredder" takes 0 to 8, not "9"|--pc "$pc" set cmbShredder=9
 "ComboInterval" takes 0 to 2, not "10"|--pc "$pc" set ComboInterval=10
 there is no setting "chkPolish"|--pc "$pc" set chkBleach=1 chkPolish=1
-plugin show takes one name|--pc "$pc" plugin show
 there is no plugin "Café"|--pc "$pc" plugin show Café
-plugin check takes one file|--pc "$pc" plugin check
 plugin check reads .zb1 and .zb2 files|--pc "$pc" plugin check C:\\polish.txt
 C:\polish.zb1: File not found|--pc "$pc" plugin check C:\\polish.zb1
-cookies takes "ie" or "netscape"|--pc "$pc" cookies
 cookies takes "ie" or "netscape"|--pc "$pc" cookies opera
 cookies takes "keep" or "drop" and the numbers of the list|--pc "$pc" cookies ie eat 1
-cookies takes "keep" or "drop" and the numbers of the list|--pc "$pc" cookies ie keep
 "one" is no number of the list|--pc "$pc" cookies ie keep one
-schedule takes "add", "remove" or nothing|--pc "$pc" schedule polish
 schedule add takes a date and a time|--pc "$pc" schedule add 12/24/2030
-schedule remove takes a number of the list|--pc "$pc" schedule remove
 there is no dated wash 1x|--pc "$pc" schedule remove 1x
-there is no dated wash 1|--pc "$pc" schedule remove 1
-scheduler takes no arguments|--pc "$pc" scheduler now
 END
 check "a refused command changed the PC" diff "$work/before" <(portrait "$pc")
 gone "$work/nowhere"

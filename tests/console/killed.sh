@@ -13,6 +13,7 @@ timeless() { LC_ALL=C awk '/^"lblLastRemoval"/ { skip = 1 } !skip; !/\\\r?$/ { s
 
 run 0 new "$work/first"
 {
+  printf '\n[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RunMRU]\n"a"="private"\n'
   printf '\n[HKEY_CURRENT_USER\\Software\\Many]\n'
   seq -f '"Value%g"="some text that makes the registry long enough for a kill while it is saved"' $values
 } >>"$work/first/registry.reg"
@@ -25,10 +26,10 @@ run 0 --pc "$pc" wash
 timeless "$pc/registry.reg" >"$work/new"
 check "the wash has not emptied the folder" [ "$(left)" -eq 0 ]
 
-# begin: starts a wash; its progress is in $work/progress.
+# begin WORD...: starts a wash; its progress is in $work/progress.
 begin() {
   : >"$work/progress"
-  "${program[@]}" --pc "$pc" wash >/dev/null 2>"$work/progress" </dev/null &
+  "${program[@]}" --pc "$pc" "$@" >/dev/null 2>"$work/progress" </dev/null &
   process=$!
 }
 running() { kill -0 $process 2>/dev/null; }
@@ -41,7 +42,7 @@ hits=0
 for moment in "tasksBegun 1" "tasksBegun 4" "tasksBegun 5" "tasksBegun 8" \
   "fewerFiles $files" "fewerFiles $((files / 2))" saving saving saving; do
   makePc
-  begin
+  begin wash
   # shellcheck disable=SC2086
   until_true $moment
   kill -9 $process 2>/dev/null
@@ -57,3 +58,12 @@ for moment in "tasksBegun 1" "tasksBegun 4" "tasksBegun 5" "tasksBegun 8" \
 done
 # A wash may end before the kill comes, but not most of them.
 check "only $hits of 9 washes were killed" [ $hits -ge 4 ]
+
+# Of two washes in one start the first is saved before the second begins.
+makePc
+run 0 --pc "$pc" set chkRunStarted=1
+begin start /STARTUP /SCHEDULER
+until_true tasksBegun $((${#tasks[@]} + 1))
+kill -9 $process 2>/dev/null
+wait $process 2>/dev/null
+check "the first wash was not saved" [ "$(grep -c RunMRU "$pc/registry.reg")" -eq 0 ]

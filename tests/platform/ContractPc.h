@@ -2,8 +2,8 @@
 //   TEST_CASE_TEMPLATE("...", Pc, CONTRACT_PCS) { Pc pc; ... }
 // and every PC has
 //   Platform& platform();
-//   std::string folder();                   an empty scratch folder, by its full path without a backslash
-//   behind std::string key();                      a path below HKEY_CURRENT_USER where no key is yet
+//   std::string folder();                   an empty scratch folder, by its full path, no backslash at its end
+//   std::string key();                      a path below HKEY_CURRENT_USER where no key is yet
 //   std::string task();                     a name that no task has yet
 //   void file(path, bytes);                 makes a file, not by the platform
 //   std::string bytes(path);                what is in it, not by the platform
@@ -27,25 +27,16 @@
 
 namespace zub {
 
-class FolderContractPc {
+class FolderContractPc : public TestPc {
  public:
-  explicit FolderContractPc(const char* family) : pc_({std::string("family = ") + family}) {
-    pc_.folder(folder());
+  explicit FolderContractPc(const char* family) : TestPc({std::string("family = ") + family}) {
+    TestPc::folder(folder());
   }
-  Platform& platform() { return pc_.platform(); }
   std::string folder() const { return "C:\\Scratch"; }
   std::string key() const { return "Software\\ZubraneTest"; }
   std::string task() const { return "ZubraneTest"; }
-  void file(const std::string& path, std::string_view bytes) { pc_.file(path, bytes); }
-  std::string bytes(const std::string& path) const { return pc_.bytes(path); }
-  void readOnly(const std::string& path) { pc_.readOnly(path); }
-  void lock(const std::string& path) { pc_.lock(path); }
-  void unlock(const std::string& path) { pc_.unlock(path); }
   bool link(const std::string& path, const std::string& target);
   bool deviates(std::string_view) const { return false; }
-
- private:
-  TestPc pc_;
 };
 
 struct FolderPc9x : FolderContractPc {

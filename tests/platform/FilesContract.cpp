@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <functional>
+#include <iterator>
 #include <vector>
 
 #include "base/Text.h"
@@ -151,38 +153,38 @@ TEST_CASE_TEMPLATE("files: every failure has its number", Pc, CONTRACT_PCS) {
   pc.readOnly(base + "readonly");
   pc.file(base + "locked", "x");
   pc.lock(base + "locked");
-  enum { None, Reset, Length, Binary, Input, Output, Remove, Make, DeleteTree };
   const struct {
     const char* name;
-    int expected[9];  // by call; 0 for success, -1 for what is not tried
+    bool writes;
+    std::function<void(const std::string&)> make;
+  } calls[] = {
+      {"reset", false, [&](const std::string& path) { files.resetAttributes(path); }},
+      {"length", true, [&](const std::string& path) { files.openedLength(path); }},
+      {"binary", true, [&](const std::string& path) { files.open(path, OpenMode::Binary); }},
+      {"input", false, [&](const std::string& path) { files.open(path, OpenMode::Input); }},
+      {"output", true, [&](const std::string& path) { files.open(path, OpenMode::Output); }},
+      {"remove", false, [&](const std::string& path) { files.remove(path); }},
+      {"make", false, [&](const std::string& path) { files.createFolder(path); }},
+      {"tree", false, [&](const std::string& path) { files.deleteFolder(path); }},
+  };
+  const struct {
+    const char* name;
+    int expected[8];  // by call; 0 for success, -1 for what is not tried
   } rows[] = {
-      //  name                -  reset len bin  in  out  rem make tree
-      {"missing", {-1, 53, 53, -1, 53, -1, 53, -1, 76}},
-      {"nowhere\\file", {-1, 53, 76, 76, 76, 76, 76, 76, 76}},
-      {"folder", {-1, -1, 75, 75, 75, 75, 75, 75, -1}},
-      {"plain", {-1, -1, 0, 0, 0, -1, -1, 75, 76}},
-      {"readonly", {-1, -1, 75, 75, 0, 75, 75, 75, 76}},
-      {"locked", {-1, -1, 70, 70, 70, 70, 70, 75, 76}},
-      {"a|b", {-1, 53, 52, 52, 52, 52, 52, 52, 76}},
-      {"a*b", {-1, 53, 52, 52, 52, 52, 52, 52, 76}},
+      //  name         reset len bin  in  out  rem make tree
+      {"missing", {53, 53, -1, 53, -1, 53, -1, 76}}, {"nowhere\\file", {53, 76, 76, 76, 76, 76, 76, 76}},
+      {"folder", {-1, 75, 75, 75, 75, 75, 75, -1}},  {"plain", {-1, 0, 0, 0, -1, -1, 75, 76}},
+      {"readonly", {-1, 75, 75, 0, 75, 75, 75, 76}}, {"locked", {-1, 70, 70, 70, 70, 70, 75, 76}},
+      {"a|b", {53, 52, 52, 52, 52, 52, 52, 76}},     {"a*b", {53, 52, 52, 52, 52, 52, 52, 76}},
   };
   for (const auto& row : rows) {
-    CAPTURE(std::string(row.name));
-    const std::string path = base + row.name;
-    const auto fails = [&](int call, auto action) {
-      CAPTURE(call);
-      const bool writes = call == Length || call == Binary || call == Output;
-      if (writes && row.name == std::string("readonly") && pc.deviates("read-only")) return;
-      if (row.expected[call] >= 0) CHECK(failure(action) == row.expected[call]);
-    };
-    fails(Reset, [&] { files.resetAttributes(path); });
-    fails(Length, [&] { files.openedLength(path); });
-    fails(Binary, [&] { files.open(path, OpenMode::Binary); });
-    fails(Input, [&] { files.open(path, OpenMode::Input); });
-    fails(Output, [&] { files.open(path, OpenMode::Output); });
-    fails(Remove, [&] { files.remove(path); });
-    fails(Make, [&] { files.createFolder(path); });
-    fails(DeleteTree, [&] { files.deleteFolder(path); });
+    for (std::size_t call = 0; call < std::size(calls); ++call) {
+      CAPTURE(std::string(row.name));
+      CAPTURE(std::string(calls[call].name));
+      if (calls[call].writes && row.name == std::string("readonly") && pc.deviates("read-only")) continue;
+      if (row.expected[call] < 0) continue;
+      CHECK(failure([&] { calls[call].make(base + row.name); }) == row.expected[call]);
+    }
   }
   const int noDrive = pc.deviates("missing drive") ? 53 : 76;
   CHECK(failure([&] { files.openedLength("B:\\file"); }) == noDrive);
@@ -241,7 +243,16 @@ TEST_CASE_TEMPLATE("files: what is written in pieces arrives whole", Pc, CONTRAC
   overwrite(0, 1024, 200, 'a');
   overwrite(1000, 100000, 1, 'b');  // more than is ever kept back
   overwrite(65536, 65536, 1, 'c');
-  overwrite(299990, 7, 10, 'd');  // across the end
+  overwrite(65000, 1000, 1, 'd');  // over what is still kept back, and on from within it
+  overwrite(65500, 65536, 1, 'e');
+  overwrite(100, 10, 1, 'f');
+  overwrite(1000, 10, 1, 'g');    // beyond a gap
+  overwrite(299990, 7, 10, 'h');  // across the end
+  CHECK(channel->length() == static_cast<std::int64_t>(expected.size()));
+  char last[2];
+  channel->seek(static_cast<std::int64_t>(expected.size()) - 2);
+  CHECK(channel->read(last) == 2);
+  channel->closeOnDisk();
   channel->closeOnDisk();
   CHECK(pc.bytes(path) == expected);
 }

@@ -16,7 +16,7 @@ bool FolderContractPc::link([[maybe_unused]] const std::string& path,
     for (char& letter : name) {
       if (letter == '\\') letter = '/';
     }
-    return pc_.hostFolder() + '/' + name.front() + name.substr(2);
+    return hostFolder() + '/' + name.front() + name.substr(2);
   };
   return symlink(hostPath(target).c_str(), hostPath(path).c_str()) == 0;
 #endif

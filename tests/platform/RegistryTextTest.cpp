@@ -1,6 +1,5 @@
 #include <doctest/doctest.h>
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -14,8 +13,8 @@ namespace {
 
 constexpr const char* Key = "HKEY_CURRENT_USER\\Software\\T";
 
-std::string utf16(std::string_view ascii, bool withMark = true) {
-  std::string text = withMark ? "\xFF\xFE" : "";
+std::string utf16(std::string_view ascii) {
+  std::string text = "\xFF\xFE";
   for (const char c : ascii) text += {c, '\0'};
   return text;
 }
@@ -163,9 +162,7 @@ TEST_CASE("what is written is sorted, stable and reads back to the same bytes") 
   key.values[""] = {1, "\0"s};
   key.values["no NUL"] = {1, "1"};
   key.values["two NULs"] = {1, "1\0\0"s};
-  key.values["NUL inside"] = {1,
-                              "1\0"
-                              "2\0"s};
+  key.values["NUL inside"] = {1, "a\0b\0"s};
   key.values["lines"] = {1, "a\r\nb\0"s};
   key.values["name\r\nof lines"] = {1, "x\0"s};
   key.values["number"] = {4, "\x01\x02\x03\x04"};
@@ -184,14 +181,7 @@ TEST_CASE("what is written is sorted, stable and reads back to the same bytes") 
   CHECK(text.find("\"text\"=\"C:\\\\x \\\"q\\\"\"\r\n") != std::string::npos);
   CHECK(text.find("\"no NUL\"=hex(1):31\r\n") != std::string::npos);
   CHECK(text.find("\"number\"=dword:04030201\r\n") != std::string::npos);
-  // Long data goes on in further lines.
-  std::size_t widest = 0;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t end = text.find('\n', at);
-    widest = std::max(widest, end - at);
-    at = end + 1;
-  }
-  CHECK(widest <= 81);
+  CHECK(text.find("5a,\\\r\n  5a,") != std::string::npos);  // long data goes on in further lines
 }
 
 TEST_CASE("every cut of a text is refused or reads as its whole lines") {

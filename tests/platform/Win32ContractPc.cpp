@@ -40,27 +40,6 @@ void onHost(const std::string& command, const std::string& path, bool linkAfterw
   while (isLink(path) != linkAfterwards && GetTickCount() - begin < 10000) SwitchToThread();
 }
 
-void deleteTree(const std::string& folder) {
-  WIN32_FIND_DATAA entry;
-  const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &entry);
-  if (search == INVALID_HANDLE_VALUE) return;
-  do {
-    const std::string name = entry.cFileName;
-    if (name == "." || name == "..") continue;
-    const std::string path = folder + '\\' + name;
-    SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-    const bool link = (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
-    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
-      DeleteFileA(path.c_str());
-    else if (link)
-      RemoveDirectoryA(path.c_str());
-    else
-      deleteTree(path);
-  } while (FindNextFileA(search, &entry) != 0);
-  FindClose(search);
-  RemoveDirectoryA(folder.c_str());
-}
-
 void deleteKeyTree(HKEY parent, const std::string& path) {
   HKEY key = nullptr;
   if (RegOpenKeyExA(parent, path.c_str(), 0, KEY_ALL_ACCESS, &key) != ERROR_SUCCESS) return;
@@ -95,7 +74,11 @@ Win32ContractPc::~Win32ContractPc() {
   for (const auto& [path, handle] : locks_) CloseHandle(handle);
   for (const std::string& link : hostLinks_) onHost("/bin/rm -f " + hostPath(link), link, false);
   SetCurrentDirectoryA(before_.c_str());
-  deleteTree(folder_);
+  try {
+    platform().files.deleteFolder(folder_);
+  } catch (const RuntimeError& error) {
+    MESSAGE("the scratch folder stays: " << error.description());
+  }
   deleteKeyTree(HKEY_CURRENT_USER, key());
   deleteTask(task());
 }

@@ -103,7 +103,7 @@ TEST_CASE("texts, digits and plugin rows are written byte for byte") {
                     {"ZUBStandardPlugin Adobe Photoshop 6.x", On}};
   for (const auto& [name, bytes] : rows) CHECK(pc.stored(name) == bytes);
   CHECK(pc.pc.valueNames(Store).size() == icons.size() + flags.size() + std::size(rows));
-  CHECK(contains(pc.pc.snapshot(), "\"chkBleach\" = \"0\""));  // of the text type
+  CHECK(contains(pc.pc.snapshot(), "\"chkBleach\" = 1:0%00"));  // of the text type
 }
 
 TEST_CASE("a stored value is read by its kind, and one that has no room is repaired") {

@@ -2,6 +2,7 @@
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "platform/folder/PcError.h"
 
 namespace zub {
 namespace {
@@ -13,19 +14,38 @@ std::string withoutCarriageReturns(std::string text) {
   return text;
 }
 
+// After each wash; what cannot be saved then is told when the program has ended.
+void saveIfPossible(ConsolePc& pc) {
+  try {
+    pc.save();
+  } catch (const PcError&) {
+  }
+}
+
+// The loop serves the program for as long as this lives.
+struct Attached {
+  Attached(ConsoleLoop& served, Program& program) : loop(served) { loop.attach(program); }
+  Attached(const Attached&) = delete;
+  Attached& operator=(const Attached&) = delete;
+  ~Attached() { loop.detach(); }
+  ConsoleLoop& loop;
+};
+
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
   context.needAlone();
   Program program(context.pc.platform());
-  context.loop.attach(program);
-  try {
-    program.start();
-    afterStart(program);
-    if (program.engine.animated.loaded()) program.engine.animated->cmdFinish_Click();
-    program.main.Unload();
-  } catch (const EndOfProcess&) {
+  program.engine.clean.cleaners.ended = [&context] { saveIfPossible(context.pc); };
+  {
+    const Attached attached(context.loop, program);
+    try {
+      program.start();
+      afterStart(program);
+      if (program.engine.animated.loaded()) program.engine.animated->cmdFinish_Click();
+      program.main.Unload();
+    } catch (const EndOfProcess&) {
+    }
   }
-  context.loop.detach();
   context.pc.save();
 
   if (!program.engine.clean.txtResult.empty()) {

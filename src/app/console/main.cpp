@@ -70,7 +70,7 @@ int run(std::vector<std::string> arguments) {
   }
   std::string folder;
   if (!arguments.empty() && arguments[0] == "--pc") {
-    if (arguments.size() < 2) throw UsageError("--pc takes a folder");
+    if (arguments.size() < 2 || arguments[1].empty()) throw UsageError("--pc takes a folder");
     folder = arguments[1];
     arguments.erase(arguments.begin(), arguments.begin() + 2);
   }

@@ -16,10 +16,7 @@ FolderChannel::FolderChannel(std::unique_ptr<HostFile> file, bool writable)
     : file_(std::move(file)), writable_(writable) {}
 
 FolderChannel::~FolderChannel() {
-  try {
-    if (file_) flush();
-  } catch (const RuntimeError&) {
-  }
+  if (file_) give();
 }
 
 HostFile& FolderChannel::file() const {
@@ -27,11 +24,16 @@ HostFile& FolderChannel::file() const {
   return *file_;
 }
 
-void FolderChannel::flush() {
-  if (window_.empty()) return;
-  const HostError error = file().write(windowStart_, window_);
+// Writes what was kept back; what the host refuses is given up.
+HostError FolderChannel::give() {
+  const HostError error = window_.empty() ? HostError::None : file_->write(windowStart_, window_);
   window_.clear();
-  check(error);
+  return error;
+}
+
+void FolderChannel::flush() {
+  file();
+  check(give());
 }
 
 std::int64_t FolderChannel::length() {
@@ -70,20 +72,20 @@ void FolderChannel::write(std::string_view bytes) {
 }
 
 void FolderChannel::close() {
-  if (!file_) return;
-  try {
-    flush();
-  } catch (const RuntimeError&) {
-    file_.reset();
-    throw;
-  }
-  file_.reset();
+  finish(false);
 }
 
 void FolderChannel::closeOnDisk() {
-  flush();
-  if (writable_) check(file().sync());
-  close();
+  finish(true);
+}
+
+// Closes whatever happens.
+void FolderChannel::finish(bool onDisk) {
+  if (!file_) return;
+  HostError error = give();
+  if (error == HostError::None && onDisk && writable_) error = file_->sync();
+  file_.reset();
+  check(error);
 }
 
 }  // namespace zub

@@ -22,7 +22,9 @@ class FolderChannel : public FileChannel {
   void closeOnDisk() override;
 
  private:
+  HostError give();
   void flush();
+  void finish(bool onDisk);
   HostFile& file() const;
 
   std::unique_ptr<HostFile> file_;  // null when closed

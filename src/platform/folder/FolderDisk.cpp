@@ -58,7 +58,8 @@ std::size_t FolderDisk::sharedParts(const FolderPath& path, std::size_t parts) c
 HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
   if (open_.empty() || open_[0].name[0] != path.drive) {
     open_.clear();
-    open_.push_back({std::string(1, path.drive), openDrive(path.drive)});
+    const std::string letter(1, path.drive);
+    open_.push_back({letter, letter, openDrive(path.drive)});
   }
   std::size_t at = sharedParts(path, parts);
   open_.resize(at + 1);
@@ -66,13 +67,17 @@ HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
     HostDir& here = *open_.back().dir;
     const std::string& name = path.parts[at];
     std::unique_ptr<HostDir> next;
-    HostError error = here.openDir(utf8From1252(name), next);
+    std::string hostName = utf8From1252(name);
+    HostError error = here.openDir(hostName, next);
     if (error == HostError::NotFound) {
-      if (const auto found = searchName(here, name)) error = here.openDir(*found, next);
+      if (const auto found = searchName(here, name)) {
+        hostName = *found;
+        error = here.openDir(hostName, next);
+      }
     }
     if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
     check(error);
-    open_.push_back({name, std::move(next)});
+    open_.push_back({name, std::move(hostName), std::move(next)});
   }
   return *open_.back().dir;
 }
@@ -112,6 +117,13 @@ FolderDisk::Place FolderDisk::place(const FolderPath& path) {
     if (!fromKept) return place;
     forget();
   }
+}
+
+FolderPath FolderDisk::pathOf(const Place& place) const {
+  FolderPath path{open_.front().name[0], {}};
+  for (std::size_t i = 1; i < open_.size(); ++i) path.parts.push_back(ansiFromUtf8(open_[i].hostName));
+  if (place.parent != nullptr) path.parts.push_back(ansiFromUtf8(place.name));
+  return path;
 }
 
 std::vector<char> FolderDisk::drives() {

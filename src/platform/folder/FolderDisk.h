@@ -28,6 +28,8 @@ class FolderDisk {
 
   // RuntimeError 76 where a folder on the way or the drive is missing, 71 where the drive holds no disk.
   Place place(const FolderPath& path);
+  // The path of the place found last, with the names that the disk has: a path may hold 8.3 names.
+  FolderPath pathOf(const Place& place) const;
   // The folder that a path names; fails in the same way, for the last part too. Good until the next call.
   HostDir& folder(const FolderPath& path) { return walk(path, path.parts.size()); }
   // Forgets the handles. For those who change the disk in another way.
@@ -39,7 +41,8 @@ class FolderDisk {
 
  private:
   struct Open {
-    std::string name;  // as the path wrote it
+    std::string name;      // as the path wrote it
+    std::string hostName;  // on the host
     std::unique_ptr<HostDir> dir;
   };
 

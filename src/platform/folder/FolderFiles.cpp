@@ -63,6 +63,12 @@ FolderPath FolderFiles::parse(std::string_view path) const {
   throw RuntimeError(ErrorNumber::BadFileName);
 }
 
+FolderDisk::Place FolderFiles::placeOf(FolderPath& path) {
+  Place place = disk_.place(path);
+  if (place.exists && facts_.anyPaths()) path = disk_.pathOf(place);
+  return place;
+}
+
 FolderDisk::Place FolderFiles::look(std::string_view path) {
   seenPath_.clear();
   return disk_.place(parse(path));
@@ -72,7 +78,7 @@ const FolderDisk::Place& FolderFiles::lookOn(std::string_view path) {
   if (seenPath_.empty() || seenPath_ != path) {
     seenPath_.clear();
     seenParts_ = parse(path);
-    seen_ = disk_.place(seenParts_);
+    seen_ = placeOf(seenParts_);
     if (!seen_.exists) throw RuntimeError(ErrorNumber::FileNotFound);
     seenPath_ = path;
   }
@@ -113,9 +119,11 @@ std::unique_ptr<FileSearch> FolderFiles::find(std::string_view path) {
 }
 
 std::uint32_t FolderFiles::attributes(std::string_view path) {
+  seenPath_.clear();
   try {
-    const Place place = look(path);
-    return place.exists ? attributesOf(place.stat, parse(path), facts_) : attribute::Invalid;
+    FolderPath parts = parse(path);
+    const Place place = placeOf(parts);
+    return place.exists ? attributesOf(place.stat, parts, facts_) : attribute::Invalid;
   } catch (const RuntimeError&) {
     return attribute::Invalid;
   }
@@ -141,8 +149,8 @@ void FolderFiles::resetAttributes(std::string_view path) {
 
 std::unique_ptr<FileChannel> FolderFiles::open(std::string_view path, OpenMode mode) {
   seenPath_.clear();
-  const FolderPath parts = parse(path);
-  const Place place = disk_.place(parts);
+  FolderPath parts = parse(path);
+  const Place place = placeOf(parts);
   const bool writes = mode != OpenMode::Input;
   if (writes) checkWritable(parts, place);
   if (!writes && !place.exists) throw RuntimeError(ErrorNumber::FileNotFound);
@@ -213,7 +221,7 @@ void FolderFiles::deleteFolder(std::string_view path) {
   FolderPath parts;
   if (parsePath(path, facts_.current, parts) != PathFault::None)
     throw RuntimeError(ErrorNumber::PathNotFound);
-  const Place place = disk_.place(parts);
+  const Place place = placeOf(parts);
   if (!isFolder(place)) throw RuntimeError(ErrorNumber::PathNotFound);
   checkDrive(parts.drive);
   if (parts.parts.empty()) throw RuntimeError(ErrorNumber::PathFileAccess);
@@ -229,6 +237,7 @@ void FolderFiles::removeTree(HostDir& parent, const std::string& name, FolderPat
     error = parent.removeDir(name);
   }
   check(error);
+  if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
 }
 
 bool FolderFiles::removeContent(HostDir& parent, const std::string& name, FolderPath& path) {
@@ -245,8 +254,8 @@ bool FolderFiles::removeContent(HostDir& parent, const std::string& name, Folder
       removeTree(*folder, entry.name, path);
     } else {
       removeForced(*folder, entry.name);
+      if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
     }
-    if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
     path.parts.pop_back();
     removedSome = true;
   }

@@ -35,6 +35,8 @@ class FolderFiles : public Files {
   using Place = FolderDisk::Place;
 
   FolderPath parse(std::string_view path) const;
+  // Where the path leads. It becomes the path as the disk has it, by which the facts know a file.
+  Place placeOf(FolderPath& path);
   Place look(std::string_view path);
   // Removing a file asks three things of it, one after the other. What resetting its attributes has seen is
   // good for the two calls that follow on the same path.

@@ -1,5 +1,7 @@
 #include "platform/folder/FolderPc.h"
 
+#include <functional>
+
 #include "platform/folder/HostFailure.h"
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
@@ -21,6 +23,15 @@ std::unique_ptr<HostDir> openRoot(const std::string& folder) {
   auto root = openHostDir(folder);
   if (!root) throw PcError(folder, 0, "is no folder that can be opened");
   return root;
+}
+
+// Differs, as good as surely, when one of the texts does.
+std::size_t markOfTexts(HostDir& root) {
+  std::size_t mark = 0;
+  for (const char* name : {FolderPc::RegistryName, PcFacts::FileName}) {
+    mark = mark * 31 + std::hash<std::string>{}(readHostText(root, name).value_or(""));
+  }
+  return mark;
 }
 
 RegistryTree readRegistry(HostDir& root, const std::string& folder) {
@@ -56,6 +67,7 @@ std::unique_ptr<HostDir> openNew(std::string folder) {
 
 FolderPc::FolderPc(const std::string& folder, std::string commandLine, DamagedTasks damaged)
     : root_(openRoot(folder)),
+      textsRead_(markOfTexts(*root_)),
       tree_(readRegistry(*root_, folder)),
       facts_(readHostText(*root_, PcFacts::FileName).value_or("")),
       rules_{!facts_.nt, facts_.noRights},
@@ -66,7 +78,7 @@ FolderPc::FolderPc(const std::string& folder, std::string commandLine, DamagedTa
       folders(facts_),
       restart(files, facts_),
       shell(files, drives),
-      process(*root_, std::move(commandLine)),
+      process(*root_, std::move(commandLine), [this] { return markOfTexts(*root_) != textsRead_; }),
       tasks(*root_, damaged) {}
 
 Platform FolderPc::platform(EventLoop& events, Messages& messages) {

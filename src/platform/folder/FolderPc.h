@@ -20,6 +20,9 @@ namespace zub {
 
 class FolderPc {
  public:
+  FolderPc(const FolderPc&) = delete;
+  FolderPc& operator=(const FolderPc&) = delete;
+
   static constexpr const char* RegistryName = "registry.reg";
 
   // The folder at a path of the host, in UTF-8. PcError, with nothing touched, where it is no PC or one of its
@@ -42,6 +45,7 @@ class FolderPc {
  private:
   // Below the services that use them, so made before them.
   std::unique_ptr<HostDir> root_;
+  std::size_t textsRead_;  // the mark of the texts as they were read
   RegistryTree tree_;
   PcFacts facts_;
   FolderRegistry::Rules rules_;

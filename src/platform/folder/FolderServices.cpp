@@ -46,7 +46,7 @@ DriveType FolderDrives::type(std::string_view drive) {
 
 std::string FolderSystemFolders::temp(std::uint32_t room) {
   std::string path = withBackslash(facts_.temp.text());
-  return path.size() > room ? std::string{} : path;
+  return path.size() < room ? path : std::string{};
 }
 
 void FolderRestart::deleteAtRestart(std::string_view file) {
@@ -109,6 +109,11 @@ bool FolderShell::emptyFolder(const std::string& folder) {
 
 void FolderShell::start(std::string_view) {
   throw RuntimeError(ErrorNumber::FileNotFound);
+}
+
+bool FolderProcess::otherInstanceRuns() {
+  if (!taken_) taken_ = root_.take() != HostError::InUse && !outdated_();
+  return !taken_;
 }
 
 void FolderProcess::end() {

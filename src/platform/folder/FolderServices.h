@@ -1,6 +1,8 @@
 // The small services of a PC in a folder.
 #pragma once
 
+#include <functional>
+
 #include "platform/Services.h"
 #include "platform/folder/FolderDisk.h"
 #include "platform/folder/FolderFiles.h"
@@ -70,16 +72,20 @@ class FolderShell : public Shell {
 
 class FolderProcess : public Process {
  public:
-  FolderProcess(HostDir& root, std::string commandLine) : root_(root), commandLine_(std::move(commandLine)) {}
+  // `outdated`: another program has changed the PC since this one read it.
+  FolderProcess(HostDir& root, std::string commandLine, std::function<bool()> outdated)
+      : root_(root), commandLine_(std::move(commandLine)), outdated_(std::move(outdated)) {}
 
   std::string commandLine() override { return commandLine_; }
-  // Takes the PC's folder for this process where no other one has it.
-  bool otherInstanceRuns() override { return root_.take() == HostError::InUse; }
+  // Takes the PC's folder for this process where no other one has it or had it since the PC was read.
+  bool otherInstanceRuns() override;
   [[noreturn]] void end() override;
 
  private:
   HostDir& root_;
   std::string commandLine_;
+  std::function<bool()> outdated_;
+  bool taken_ = false;
 };
 
 class FolderTray : public Tray {

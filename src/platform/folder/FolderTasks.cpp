@@ -15,6 +15,10 @@ std::size_t checkedIndex(int position, std::size_t count) {
   return static_cast<std::size_t>(position - 1);
 }
 
+std::vector<TaskRecord> savedTasks(HostDir& root) {
+  return readTasksText(readHostText(root, FolderTasks::FileName).value_or(""), FolderTasks::FileName);
+}
+
 [[noreturn]] void refuse() {
   throw RuntimeError(ErrorNumber::Automation);
 }
@@ -99,9 +103,9 @@ FolderTasks::FolderTasks(HostDir& root, DamagedTasks damaged) : root_(root) {
 FolderTasks::~FolderTasks() = default;
 
 void FolderTasks::load() {
-  saved_ = readTasksText(readHostText(root_, FileName).value_or(""), FileName);
+  const std::vector<TaskRecord> saved = savedTasks(root_);
   tasks_.clear();
-  for (const TaskRecord& task : saved_) tasks_.push_back(std::make_unique<Task>(*this, task));
+  for (const TaskRecord& task : saved) tasks_.push_back(std::make_unique<Task>(*this, task));
 }
 
 void FolderTasks::refresh() {
@@ -128,22 +132,22 @@ ScheduleTask& FolderTasks::add(std::string_view name) {
   return *tasks_.back();
 }
 
+// Other programs may have saved other tasks meanwhile: these stay.
 void FolderTasks::saveTask(const TaskRecord& task) {
-  std::vector<TaskRecord> changed = saved_;
-  const auto place = std::ranges::find(changed, task.name, &TaskRecord::name);
-  if (place == changed.end()) {
-    changed.push_back(task);
-  } else {
-    *place = task;
-  }
   try {
-    const std::string text = writeTasksText(changed);
+    std::vector<TaskRecord> tasks = savedTasks(root_);
+    const auto place = std::ranges::find(tasks, task.name, &TaskRecord::name);
+    if (place == tasks.end()) {
+      tasks.push_back(task);
+    } else {
+      *place = task;
+    }
+    const std::string text = writeTasksText(tasks);
     readTasksText(text, FileName);  // what cannot be read again is not saved
     replaceHostText(root_, FileName, text);
   } catch (const PcError&) {
     refuse();
   }
-  saved_ = std::move(changed);
 }
 
 }  // namespace zub

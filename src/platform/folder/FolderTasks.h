@@ -55,7 +55,6 @@ class FolderTasks : public ScheduleTasks {
   void saveTask(const TaskRecord& task);
 
   HostDir& root_;
-  std::vector<TaskRecord> saved_;  // as the text has them
   std::vector<std::unique_ptr<Task>> tasks_;
 };
 

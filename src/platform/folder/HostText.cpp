@@ -6,6 +6,8 @@
 namespace zub {
 namespace {
 
+constexpr std::uint64_t MostBytes = std::uint64_t{1} << 28;
+
 std::string reasonOf(HostError error) {
   return std::string(descriptionOf(errorNumberOf(error)));
 }
@@ -33,6 +35,7 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
   HostError error = opened;
   if (error == HostError::None) error = file->length(length);
   if (error == HostError::None) {
+    if (length > MostBytes) throw PcError(name, 0, "is larger than 256 MiB");
     text.resize(static_cast<std::size_t>(length));
     error = file->read(0, text, done);
   }

@@ -9,7 +9,7 @@
 
 namespace zub {
 
-// Nothing where there is no such file. PcError where it cannot be read, or is a link.
+// Nothing where there is no such file. PcError where it cannot be read, is a link or is larger than 256 MiB.
 std::optional<std::string> readHostText(HostDir& folder, const std::string& name);
 
 // Writes the text beside the file (under its name and ".new") and puts it in the file's place once it has

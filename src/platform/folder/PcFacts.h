@@ -36,6 +36,7 @@ class PcFacts {
   std::vector<std::string> removeAtRestart;
 
   bool anyAttributes() const { return !hidden.empty() || !system.empty(); }
+  bool anyPaths() const { return !locked.empty() || anyAttributes(); }
 
   // What the program changes.
   void dropAttributes(const std::string& key);  // hidden and system of this path

@@ -89,9 +89,16 @@ void Win32Files::createFolder(std::string_view path) {
   if (CreateDirectoryA(std::string(path).c_str(), nullptr) == 0) throwLastError();
 }
 
+// By its full path: "C:" is not the drive, and no way of writing the drive removes what is on it.
 void Win32Files::deleteFolder(std::string_view path) {
   if (!folderExists(path)) throw RuntimeError(ErrorNumber::PathNotFound);
-  deleteTree(std::string(path.substr(0, path.find_last_not_of('\\') + 1)));
+  std::array<char, MAX_PATH> full;
+  const DWORD length = GetFullPathNameA(std::string(path).c_str(), MAX_PATH, full.data(), nullptr);
+  if (length >= full.size()) throw RuntimeError(ErrorNumber::PathNotFound);
+  std::string_view folder(full.data(), length);
+  folder = folder.substr(0, folder.find_last_not_of('\\') + 1);
+  if (folder.empty() || folder.ends_with(':')) throw RuntimeError(ErrorNumber::PathFileAccess);
+  deleteTree(std::string(folder));
 }
 
 std::string Win32Files::shortPath(std::string_view path) {
