@@ -25,11 +25,13 @@ hides "ZUB has cleaned"
 silent err
 
 # Settings by the names that are listed; a value with "=" in its name too.
+chmod 600 "$pc/registry.reg"
 run 0 --pc "$pc" set chkTempFolder=1 cmbShredder=8 ComboInterval=2 "ZUBStandardPlugin Windows Paint=1"
 run 0 --pc "$pc" options
 for line in chkTempFolder=1 cmbShredder=8 ComboInterval=2 "ZUBStandardPlugin Windows Paint=1" chkBleach=0; do
   says "$line"
 done
+check "others can read the registry now" [ "$(stat -c %a "$pc/registry.reg")" = 600 ]
 check "the settings are not in the store" grep -aq '^"cmbShredder"="8"' "$pc/registry.reg"
 echo old >"$pc/C/WINDOWS/TEMP/old.tmp"
 run 0 --pc "$pc" start /STARTUP

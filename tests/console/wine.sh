@@ -115,4 +115,11 @@ run 0 wash
 says "Total amount of space restored: 100 Bytes"  # the wording for none
 inRun "$run-" "$run"
 
+# The words of the command line come in the system's code page.
+rm -rf "${pc:?}/Café"
+run 0 new 'C:\Café'
+here "$pc/Café/pc.txt"
+run 0 --pc 'C:\Café' set chkTempFolder=1
+run 0 --pc 'C:\Café' wash
+
 "$emulator" --stop

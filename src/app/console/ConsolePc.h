@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Platform.h"
 #include "platform/folder/FolderTasks.h"
@@ -17,7 +18,7 @@ class ConsolePc {
   virtual void save() = 0;  // keeps what the program changed; PcError where it cannot
   // The folder that holds the PC; empty for the PC that this runs on.
   virtual std::string folder() const = 0;
-  // Text of the PC for the terminal, and words of the command line for the PC.
+  // Text of the PC for the terminal, and words of the command line (UTF-8) for the PC.
   virtual std::string toTerminal(std::string_view text) const = 0;
   virtual std::string fromTerminal(std::string_view text) const = 0;
 };
@@ -26,6 +27,8 @@ class ConsolePc {
 std::unique_ptr<ConsolePc> openFolderPc(const std::string& folder, EventLoop& events, Messages& messages,
                                         const std::string& commandLine,
                                         DamagedTasks damaged = DamagedTasks::Refused);
+// The words behind the program's name, in UTF-8 whatever the system hands over.
+std::vector<std::string> commandWords(int count, char** words);
 // The PC that this runs on; null where there is none that the program could wash.
 std::unique_ptr<ConsolePc> openThisPc(EventLoop& events, Messages& messages);
 

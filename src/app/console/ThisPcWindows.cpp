@@ -1,4 +1,6 @@
 #include "app/console/ConsolePc.h"
+#include "platform/win32/NtCalls.h"
+#include "platform/win32/Text.h"
 #include "platform/win32/Win32Platform.h"
 
 namespace zub {
@@ -21,7 +23,9 @@ class ThisPc : public ConsolePc {
   void save() override {}  // the system keeps what was changed
   std::string folder() const override { return {}; }
   std::string toTerminal(std::string_view text) const override { return std::string(text); }
-  std::string fromTerminal(std::string_view text) const override { return std::string(text); }
+  std::string fromTerminal(std::string_view text) const override {
+    return narrow(wideName(std::string(text)));
+  }
 
  private:
   // Messages are lines of the terminal here, not boxes.
@@ -36,6 +40,16 @@ class ThisPc : public ConsolePc {
 };
 
 }  // namespace
+
+// The system hands them over in its code page.
+std::vector<std::string> commandWords(int count, char** words) {
+  std::vector<std::string> result(words + 1, words + count);
+  for (std::string& word : result) {
+    const std::wstring text = wide(word);
+    setName(word, text.data(), text.size());
+  }
+  return result;
+}
 
 std::unique_ptr<ConsolePc> openThisPc(EventLoop& events, Messages& messages) {
   return std::make_unique<ThisPc>(events, messages);

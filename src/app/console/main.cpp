@@ -95,7 +95,7 @@ int run(std::vector<std::string> arguments) {
 
 int main(int count, char** words) {
   try {
-    return run({words + 1, words + count});
+    return run(commandWords(count, words));
   } catch (const UsageError& error) {
     std::fprintf(stderr, "%s: %s\nSee \"%s --help\".\n", programName, error.what(), programName);
   } catch (const PcError& error) {

@@ -99,7 +99,8 @@ class HostDir {
   virtual HostError makeDir(const std::string& name) = 0;
   // Of a plain file or folder (where it does nothing); NotAFile for a link, whose target keeps its attribute.
   virtual HostError setReadOnly(const std::string& name, bool readOnly) = 0;
-  // Within this folder; an existing file of the new name is replaced in one step.
+  // Within this folder; an existing file of the new name is replaced in one step. On a POSIX host
+  // the new one takes over its permissions and, where this user may give it away, its owner.
   virtual HostError rename(const std::string& from, const std::string& to) = 0;
   // The names in this folder have reached the disk. Does nothing where the host needs no such thing.
   virtual HostError sync() = 0;

@@ -241,6 +241,9 @@ class PosixDir : public HostDir {
 
   HostError rename(const std::string& from, const std::string& to) override {
     if (!isPart(from) || !isPart(to)) return HostError::BadName;
+    struct stat old {};
+    if (::fstatat(handle_.get(), to.c_str(), &old, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(old.st_mode))
+      handOn(from, old);
     return result(::renameat(handle_.get(), from.c_str(), handle_.get(), to.c_str()));
   }
 
@@ -249,6 +252,13 @@ class PosixDir : public HostDir {
   HostError take() override { return result(::flock(handle_.get(), LOCK_EX | LOCK_NB)); }
 
  private:
+  // The permissions of a file that is replaced, and its owner. Not all disks and users can.
+  void handOn(const std::string& name, const struct stat& old) {
+    const mode_t mode = old.st_mode & 0777;
+    [[maybe_unused]] int done = ::fchmodat(handle_.get(), name.c_str(), mode, AT_SYMLINK_NOFOLLOW);
+    done = ::fchownat(handle_.get(), name.c_str(), old.st_uid, old.st_gid, AT_SYMLINK_NOFOLLOW);
+  }
+
   static int flagsOf(HostOpen mode) {
     switch (mode) {
       case HostOpen::Read:
