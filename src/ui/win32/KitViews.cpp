@@ -170,6 +170,7 @@ std::string_view artOf(Picture picture) {
       "kind-folder",
       "kind-files",
   };
+  static_assert(std::size(Names) == static_cast<std::size_t>(Picture::KindFiles) + 1);
   return Names[static_cast<std::size_t>(picture)];
 }
 
