@@ -26,6 +26,12 @@ bool contains(std::string_view text, std::string_view part) {
   return text.find(part) != std::string_view::npos;
 }
 
+std::string joined(std::initializer_list<std::string_view> parts) {
+  std::string text;
+  for (const std::string_view part : parts) text += part;
+  return text;
+}
+
 std::string_view lastPathPart(std::string_view path) {
   return path.substr(path.rfind('\\') + 1);
 }

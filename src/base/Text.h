@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,9 @@ std::string_view trim(std::string_view text);
 std::string_view StripAtNull(std::string_view text);
 
 bool contains(std::string_view text, std::string_view part);
+
+// The parts end to end.
+std::string joined(std::initializer_list<std::string_view> parts);
 
 // The part behind the last backslash; all of it where there is none.
 std::string_view lastPathPart(std::string_view path);

@@ -17,12 +17,6 @@ bool isDots(std::string_view name) {
   return name == "." || name == "..";
 }
 
-std::string joined(std::initializer_list<std::string_view> parts) {
-  std::string text;
-  for (const std::string_view part : parts) text += part;
-  return text;
-}
-
 }  // namespace
 
 Delete::Delete(Engine& engine) : DelFile(engine.pc, AllFiles, FileLister::Hidden::Include), engine_(engine) {}

@@ -14,12 +14,6 @@ namespace {
 
 using Then = EntryMeaning::Then;
 
-std::string joined(std::initializer_list<std::string_view> parts) {
-  std::string text;
-  for (const std::string_view part : parts) text += part;
-  return text;
-}
-
 EntryMeaning fault(std::string_view text, Then then = Then::GoesOn) {
   return {std::string(text), false, then};
 }
