@@ -5,8 +5,8 @@
 namespace zub {
 namespace {
 
-constexpr std::uint64_t TurnPause = 5;    // milliseconds between two real turns of DoEvents
-constexpr std::uint64_t ShowPause = 16;   // between two comparisons of the windows with their forms
+constexpr std::uint64_t ShowPause =
+    16;  // milliseconds between two comparisons of the windows with their forms
 constexpr std::uint64_t IdlePause = 100;  // the longest sleep: the shortest interval of a form's timer
 
 }  // namespace
@@ -56,10 +56,9 @@ void WindowSystem::addLater(layout::WindowBinding binding, std::function<HWND()>
   later_.push_back({std::move(binding), std::move(owner)});
 }
 
+// Called for each KiB that is shredded: all that most calls cost is a look at the system's coarse clock.
 void WindowSystem::DoEvents() {
-  const std::uint64_t time = now();
-  if (time - lastTurn_ < TurnPause) return;
-  lastTurn_ = time;
+  if (!changes(lastTurn_, GetTickCount())) return;
   pump();
   serve();
   ui_.guard.throwIfEnded();

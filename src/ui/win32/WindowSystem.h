@@ -58,7 +58,7 @@ class WindowSystem : public EventLoop {
   std::unique_ptr<Heart> heart_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<Later> later_;
-  std::uint64_t lastTurn_ = 0;
+  DWORD lastTurn_ = 0;  // the count of the system's ticks
   std::uint64_t lastShow_ = 0;
   bool showing_ = false;
   bool owesShow_ = false;  // something happened since the windows were shown
