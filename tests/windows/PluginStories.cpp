@@ -97,7 +97,10 @@ TEST_CASE("an entry without a path is refused with a message, and the path box g
   zub.main().child("Create A New Plugin").click();
   const Window editor = zub.window(title::Editor);
   editor.child("Add").click();
+  zub.dialog("ZUB Plugin");
+  CHECK_FALSE(zub.main().isEnabled());
   CHECK(answer(zub, "ZUB Plugin") == "Path cannot be empty");
+  CHECK(soon([&] { return zub.main().isEnabled(); }));
   CHECK(soon([&] { return focus() == editor.child("EDIT", 1); }));
   REQUIRE(editor.comesToFront());
   chord({VK_MENU, 'C'});

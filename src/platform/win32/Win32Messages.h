@@ -1,4 +1,4 @@
-// The system's message box.
+// The system's message box. While it is open, none of the program's windows takes input.
 #pragma once
 
 #include "platform/Services.h"
