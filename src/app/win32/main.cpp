@@ -34,10 +34,10 @@ using namespace zub;
   windows.addLater(layout::bindCookies(*program.nsCookies));
   windows.addLater(layout::bindAbout(about), [main] { return main; });
   windows.addLater(layout::bindMessageBox(messageBox), [main] { return main; });
-  program.main.showAbout = [&, main] {
+  program.main.showAbout = [&] {
     about.Form_Load();
     about.form.Show();
-    windows.runModal(main, [&about] { return about.form.Visible; });
+    windows.runModal([&about] { return about.form.Visible; });
   };
 
   try {

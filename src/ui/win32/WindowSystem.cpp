@@ -73,22 +73,28 @@ void WindowSystem::run() {
   }
 }
 
-void WindowSystem::runModal(HWND owner, const std::function<bool()>& lasts) {
-  std::vector<HWND> disabled;
+void WindowSystem::runModal(std::function<bool()> lasts) {
+  modal_ = {std::move(lasts), {}};
   for (const auto& window : windows_) {
     if (IsWindowVisible(window->hwnd()) == 0 || IsWindowEnabled(window->hwnd()) == 0) continue;
-    disabled.push_back(window->hwnd());
+    modal_.disabled.push_back(window->hwnd());
     EnableWindow(window->hwnd(), FALSE);
   }
-  while (lasts()) {
+  while (modal_.lasts) {
     pump();
     serve();
     ui_.guard.throwIfEnded();
-    if (lasts()) wait();
+    endModal();
+    if (modal_.lasts) wait();
   }
-  for (const HWND window : disabled) EnableWindow(window, TRUE);
   showAll();
-  SetActiveWindow(owner);
+}
+
+// Before the modal window is hidden: the system then looks for an enabled window to bring to the front.
+void WindowSystem::endModal() {
+  if (!modal_.lasts || modal_.lasts()) return;
+  for (const HWND window : modal_.disabled) EnableWindow(window, TRUE);
+  modal_ = {};
 }
 
 void WindowSystem::pump() {
@@ -117,6 +123,7 @@ void WindowSystem::serve() {
 void WindowSystem::showAll() {
   if (showing_) return;
   showing_ = true;
+  endModal();
   lastShow_ = now();
   owesShow_ = false;
   for (std::size_t at = 0; at < later_.size();) {

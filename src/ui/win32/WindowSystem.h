@@ -31,9 +31,8 @@ class WindowSystem : public EventLoop {
   void DoEvents() override;
   // The main loop. Throws EndOfProcess.
   [[noreturn]] void run();
-  // Runs the loop while the condition holds, with all windows disabled that are there now. The owner is in
-  // front afterwards.
-  void runModal(HWND owner, const std::function<bool()>& lasts);
+  // Runs the loop while the condition holds, with all windows disabled that are there now.
+  void runModal(std::function<bool()> lasts);
 
   // The program's window in front, for a dialog to lie over; null where none is visible. What the forms have
   // come to is shown first: a window that came up later would cover the dialog.
@@ -45,12 +44,17 @@ class WindowSystem : public EventLoop {
     layout::WindowBinding binding;
     std::function<HWND()> owner;
   };
+  struct Modal {
+    std::function<bool()> lasts;  // none: nothing is modal
+    std::vector<HWND> disabled;
+  };
 
   std::uint64_t now() const;  // milliseconds
   void pump();
   void dispatch(MSG& message);
   void serve();  // timers, then the windows if their time has come
   void showAll();
+  void endModal();
   void wait();
 
   Ui& ui_;
@@ -58,6 +62,7 @@ class WindowSystem : public EventLoop {
   std::unique_ptr<Heart> heart_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<Later> later_;
+  Modal modal_;
   DWORD lastTurn_ = 0;  // the count of the system's ticks
   std::uint64_t lastShow_ = 0;
   bool showing_ = false;
