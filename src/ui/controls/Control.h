@@ -85,11 +85,8 @@ class Control {
   // With its ampersands; empty for a control that has none.
   virtual std::string Caption() const { return {}; }
   virtual std::string_view toolTip(Point) const { return {}; }
-  // The frame that tells that the control has the keyboard.
-  virtual Box focusPlace() const {
-    constexpr int Inset = 3;
-    return {Inset, Inset, width() - 2 * Inset, height() - 2 * Inset};
-  }
+  // The frame that tells that the control has the keyboard; empty for a control that tells nothing.
+  virtual Box focusPlace() const { return {}; }
 
   // Input. A disabled control gets none of it. The host keeps the mouse with a control while a button is down
   // on it.

@@ -72,8 +72,8 @@ void KitHost::paintCanvas() {
   ui_.text.paintOn(canvas_->dc());
   controls::Surface surface = canvas_->surface();
   parts_.control->paint(surface);
-  if (!focused_ || !parts_.takesSpace) return;
   const controls::Box place = parts_.control->focusPlace();
+  if (!focused_ || place.width == 0) return;
   const RECT frame{place.left, place.top, place.right(), place.bottom()};
   SetTextColor(canvas_->dc(), colors::Black);
   SetBkColor(canvas_->dc(), colors::White);

@@ -20,7 +20,7 @@ class KitHost : public OwnWindow, public View {
     std::function<bool()> enabled;
     LRESULT dialogCode = DLGC_STATIC;
     bool takesFocus = false;
-    bool takesSpace = false;  // the bar is a click, and a rectangle shows where the keyboard is
+    bool takesSpace = false;  // the bar is a click
     bool stretched = false;   // painted for 96 pixels an inch, whatever the screen has
   };
   KitHost(const ViewSite& site, Parts parts);
