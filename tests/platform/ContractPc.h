@@ -19,6 +19,7 @@
 #include <string_view>
 
 #include "base/RuntimeError.h"
+#include "platform/PretendContractPc.h"
 #include "support/TestPc.h"
 
 #ifdef _WIN32
@@ -46,10 +47,13 @@ struct FolderPcNt : FolderContractPc {
   FolderPcNt() : FolderContractPc("nt") {}
 };
 
+using Pretending9x = Pretending<FolderPc9x>;
+using PretendingNt = Pretending<FolderPcNt>;
 #ifdef _WIN32
-#define CONTRACT_PCS FolderPc9x, FolderPcNt, Win32ContractPc
+using PretendingWin32 = Pretending<Win32ContractPc>;
+#define CONTRACT_PCS FolderPc9x, FolderPcNt, Win32ContractPc, Pretending9x, PretendingNt, PretendingWin32
 #else
-#define CONTRACT_PCS FolderPc9x, FolderPcNt
+#define CONTRACT_PCS FolderPc9x, FolderPcNt, Pretending9x, PretendingNt
 #endif
 
 // The number of the error that the call fails with; 0 where it does not fail.
