@@ -14,9 +14,9 @@ PretendPc::PretendPc(Platform& beneath)
       tasks(beneath.tasks, beneath.clock) {}
 
 Platform PretendPc::platform(EventLoop& events, Messages& messages) {
-  return {beneath_.codePage, registry,        beneath_.files,   beneath_.drives, beneath_.folders,
-          beneath_.restart,  beneath_.shell,  beneath_.clock,   beneath_.process, events,
-          messages,          beneath_.tray,   tasks};
+  return {beneath_.codePage, registry,       beneath_.files, beneath_.drives,  beneath_.folders,
+          beneath_.restart,  beneath_.shell, beneath_.clock, beneath_.process, events,
+          messages,          beneath_.tray,  tasks};
 }
 
 }  // namespace zub
