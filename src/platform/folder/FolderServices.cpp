@@ -68,7 +68,6 @@ void FolderRestart::writeProfile(std::string_view section, std::string_view key,
     const std::string changed = withProfileKey(text, section, key, value);
     if (changed != text) files_.replace(path, changed);
   } catch (const RuntimeError&) {
-  } catch (const PcError&) {
   }
 }
 

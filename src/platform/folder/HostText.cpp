@@ -32,19 +32,6 @@ HostError makeBeside(HostDir& folder, const std::string& name, std::string& besi
   return error;
 }
 
-HostError replace(HostDir& folder, const std::string& name, std::string_view text) {
-  std::string beside;
-  std::unique_ptr<HostFile> file;
-  HostError error = makeBeside(folder, name, beside, file);
-  if (error != HostError::None) return error;
-  error = file->write(0, text);
-  if (error == HostError::None) error = file->sync();
-  file.reset();
-  if (error == HostError::None) error = folder.rename(beside, name);
-  if (error != HostError::None) folder.removeFile(beside);
-  return error;
-}
-
 bool isBeside(std::string_view entry, std::string_view name) {
   if (!entry.starts_with(name) || !entry.ends_with(BesideEnd)) return false;
   entry.remove_prefix(name.size());
@@ -74,11 +61,27 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
   return text;
 }
 
+HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_view bytes) {
+  std::string beside;
+  std::unique_ptr<HostFile> file;
+  HostError error = makeBeside(folder, name, beside, file);
+  if (error != HostError::None) return error;
+  error = file->write(0, bytes);
+  if (error == HostError::None) error = file->sync();
+  file.reset();
+  if (error == HostError::None) error = folder.rename(beside, name);
+  if (error == HostError::None) {
+    folder.sync();
+  } else {
+    folder.removeFile(beside);
+  }
+  return error;
+}
+
 void replaceHostText(HostDir& folder, const std::string& name, std::string_view text) {
   if (text.size() > MostTextBytes) throw PcError(name, 0, "cannot be saved: " + tooLarge("it would be"));
-  const HostError error = replace(folder, name, text);
+  const HostError error = replaceHostFile(folder, name, text);
   if (error != HostError::None) throw PcError(name, 0, "cannot be saved: " + reasonOf(error));
-  folder.sync();
 }
 
 void removeLeftBeside(HostDir& folder, const std::string& name) {
