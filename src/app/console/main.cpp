@@ -15,8 +15,6 @@ namespace {
 
 using namespace zub;
 
-constexpr const char* programName = "zub";
-
 void printHelp() {
   std::printf(
       "Zubrane, a privacy cleaner.\n\n"

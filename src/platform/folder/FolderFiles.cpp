@@ -31,6 +31,7 @@ std::string shortNameIn(HostList& listing, const std::string& hostName, const st
     if (entry.name == hostName) place = names.size();
     names.push_back(ansiFromUtf8(entry.name));
   }
+  check(listing.failure());
   const std::vector<std::string> shorts = shortNames(names);
   for (std::size_t i = 0; i < names.size() && place == std::string::npos; ++i) {
     if (equalFolded(names[i], part) || equalFolded(shorts[i], part)) place = i;
@@ -256,6 +257,7 @@ bool FolderFiles::removeContent(HostDir& parent, const std::string& name, Folder
     path.parts.pop_back();
     removedSome = true;
   }
+  check(listing->failure());
   return removedSome;
 }
 

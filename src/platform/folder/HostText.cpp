@@ -16,10 +16,6 @@ std::string tooLarge(const char* verb) {
   return std::string(verb) + " larger than " + std::to_string(MostTextBytes >> 20) + " MiB";
 }
 
-std::string reasonOf(HostError error) {
-  return std::string(descriptionOf(errorNumberOf(error)));
-}
-
 // A name that nobody has: a file of somebody else's stays as it is.
 HostError makeBeside(HostDir& folder, const std::string& name, std::string& beside,
                      std::unique_ptr<HostFile>& file) {
@@ -70,11 +66,8 @@ HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_
   if (error == HostError::None) error = file->sync();
   file.reset();
   if (error == HostError::None) error = folder.rename(beside, name);
-  if (error == HostError::None) {
-    folder.sync();
-  } else {
-    folder.removeFile(beside);
-  }
+  if (error == HostError::None) return folder.sync();
+  folder.removeFile(beside);
   return error;
 }
 
