@@ -53,7 +53,7 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
     error = file->read(0, text, done);
   }
   if (error != HostError::None) throw PcError(name, 0, "cannot be read: " + reasonOf(error));
-  text.resize(done);
+  if (done != length) throw PcError(name, 0, "was changed while it was read: try again");
   return text;
 }
 
@@ -61,8 +61,8 @@ HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_
   std::string beside;
   std::unique_ptr<HostFile> file;
   HostError error = makeBeside(folder, name, beside, file);
-  if (error != HostError::None) return error;
-  error = file->write(0, bytes);
+  if (error == HostError::Exists) return error;
+  if (error == HostError::None) error = file->write(0, bytes);
   if (error == HostError::None) error = file->sync();
   file.reset();
   if (error == HostError::None) error = folder.rename(beside, name);
