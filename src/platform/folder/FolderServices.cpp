@@ -7,7 +7,6 @@
 #include "base/Text.h"
 #include "platform/FileReader.h"
 #include "platform/folder/CodePage1252.h"
-#include "platform/folder/PcError.h"
 #include "platform/folder/ProfileText.h"
 
 namespace zub {
@@ -67,7 +66,6 @@ void FolderRestart::writeProfile(std::string_view section, std::string_view key,
     const std::string changed = withProfileKey(text, section, key, value);
     if (changed != text) files_.replace(path, changed);
   } catch (const RuntimeError&) {
-  } catch (const PcError&) {
   }
 }
 

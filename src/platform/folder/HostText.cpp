@@ -45,18 +45,19 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
 }
 
 void replaceHostText(HostDir& folder, const std::string& name, std::string_view text) {
-  replaceHostText(folder, name, text, name + ".new");
+  const HostError error = replaceHostFile(folder, name, text, name + ".new");
+  if (error != HostError::None) throw PcError(name, 0, "cannot be saved: " + reasonOf(error));
 }
 
-void replaceHostText(HostDir& folder, const std::string& name, std::string_view text,
-                     const std::string& beside) {
-  HostError error = writeNew(folder, beside, text);
+HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_view bytes,
+                          const std::string& beside) {
+  HostError error = writeNew(folder, beside, bytes);
   if (error == HostError::None) error = folder.rename(beside, name);
-  if (error != HostError::None) {
+  if (error == HostError::None)
+    folder.sync();
+  else
     folder.removeFile(beside);
-    throw PcError(name, 0, "cannot be saved: " + reasonOf(error));
-  }
-  folder.sync();
+  return error;
 }
 
 }  // namespace zub

@@ -16,8 +16,8 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
 // reached the disk, so that at every moment the file is the old one or the new one. PcError where that fails;
 // the file is then the old one.
 void replaceHostText(HostDir& folder, const std::string& name, std::string_view text);
-// The same under another name beside; a file of that name is lost.
-void replaceHostText(HostDir& folder, const std::string& name, std::string_view text,
-                     const std::string& beside);
+// The same for any file, under another name beside; a file of that name is lost.
+HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_view bytes,
+                          const std::string& beside);
 
 }  // namespace zub
