@@ -88,6 +88,8 @@ int run(std::vector<std::string> arguments) {
     return command.run(context);
   } catch (const UsageError& error) {
     throw UsageError(pc->toTerminal(error.what()));
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.number(), pc->toTerminal(error.what()));
   }
 }
 
