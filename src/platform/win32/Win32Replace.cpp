@@ -39,11 +39,18 @@ bool isTaken(DWORD failure) {
   return failure == ERROR_FILE_EXISTS || failure == ERROR_ALREADY_EXISTS;
 }
 
-// A new file under a name that is not taken, which `path` becomes.
-HANDLE makeBeside(std::string& path) {
-  for (path += ".new";; path += '_') {
+// The names beside a file that this process uses one after the other, until one is free.
+std::string nameBeside(const std::string& path, unsigned attempt, const char* end) {
+  const std::string more = attempt == 0 ? "" : "-" + std::to_string(attempt);
+  return path + '.' + std::to_string(GetCurrentProcessId()) + more + end;
+}
+
+// A new file beside `path`, whose name `beside` becomes.
+HANDLE makeBeside(const std::string& path, std::string& beside) {
+  for (unsigned attempt = 0;; ++attempt) {
+    beside = nameBeside(path, attempt, ".new");
     const HANDLE file =
-        CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+        CreateFileA(beside.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file != INVALID_HANDLE_VALUE) return file;
     if (!isTaken(GetLastError())) throwLastError();
   }
@@ -52,17 +59,19 @@ HANDLE makeBeside(std::string& path) {
 // The 9x family moves nothing over an existing file: that one steps aside, and back again where the new one
 // does not come.
 bool moveOverIn9x(const std::string& beside, const std::string& path) {
-  std::string aside = path + ".old";
+  unsigned attempt = 0;
+  std::string aside = nameBeside(path, attempt, ".old");
   while (MoveFileA(path.c_str(), aside.c_str()) == 0) {
     if (!isTaken(GetLastError())) return false;
-    aside += '_';
+    aside = nameBeside(path, ++attempt, ".old");
   }
   const bool moved = MoveFileA(beside.c_str(), path.c_str()) != 0;
   const DWORD failure = GetLastError();
-  if (moved)
+  if (moved) {
     DeleteFileA(aside.c_str());
-  else
+  } else {
     MoveFileA(aside.c_str(), path.c_str());
+  }
   SetLastError(failure);
   return moved;
 }
@@ -79,8 +88,8 @@ bool putInPlace(const std::string& beside, const Target& target) {
 
 void replaceFile(const std::string& path, std::string_view bytes) {
   const Target target = targetOf(path);
-  std::string beside = target.path;
-  const HANDLE file = makeBeside(beside);
+  std::string beside;
+  const HANDLE file = makeBeside(target.path, beside);
   try {
     Win32FileChannel channel(file);
     channel.write(bytes);
