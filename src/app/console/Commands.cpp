@@ -35,7 +35,7 @@ std::span<const Command> commands() {
 }
 
 void CommandContext::needAlone() const {
-  if (pc.platform().process.otherInstanceRuns()) throw UsageError("another Zubrane is at work on this PC");
+  if (pc.platform().process.otherInstanceRuns()) throw BusyError();
 }
 
 void CommandContext::needNoArguments(std::string_view command) const {
@@ -46,6 +46,11 @@ void CommandContext::print(std::string_view text) const {
   const std::string line = pc.toTerminal(text);
   std::fwrite(line.data(), 1, line.size(), stdout);
   std::fputc('\n', stdout);
+}
+
+void CommandContext::tell(std::string_view failure) const {
+  loop.clearLine();
+  std::fprintf(stderr, "%s: %s\n", programName, pc.toTerminal(failure).c_str());
 }
 
 int rowNumber(std::string_view word) {
