@@ -33,7 +33,7 @@ inline constexpr RegistryStatus AccessDenied = 5;
 inline constexpr RegistryStatus InvalidHandle = 6;
 inline constexpr RegistryStatus InvalidParameter = 87;  // a key that cannot be
 inline constexpr RegistryStatus BadPath = 161;          // an empty part in the path
-inline constexpr RegistryStatus MoreData = 234;  // the buffer is too small
+inline constexpr RegistryStatus MoreData = 234;         // the buffer is too small
 inline constexpr RegistryStatus NoMoreItems = 259;
 inline constexpr RegistryStatus KeyDeleted = 1018;  // the open key was deleted meanwhile
 }  // namespace status

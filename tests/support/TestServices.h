@@ -184,6 +184,7 @@ class TestDesk : public Clock, public Shell, public Process, public EventLoop, p
     pc_.recycleFlags.push_back(flags);
     return pc_.recycleResult;
   }
+  std::vector<std::string> recycleBins() override { return {}; }
   void updateRecycleBinIcon() override { ++pc_.recycleIconUpdates; }
   void open(std::string_view document) override { pc_.opened.emplace_back(document); }
   void start(std::string_view program) override { pc_.started.emplace_back(program); }

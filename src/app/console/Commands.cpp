@@ -11,6 +11,10 @@ namespace {
 
 constexpr std::array commandTable{
     Command{"wash", "", "start the program, press \"Start Cleaning\", press \"Finish\", end", washCommand},
+    Command{"preview", "[--list]",
+            "tell what a wash would remove now, and remove nothing; with --list each thing on a line: its kind, a tab, "
+            "its path, for a value a tab and its name",
+            previewCommand},
     Command{"start", "[/STARTUP] [/SCHEDULER]",
             "start the program with these switches, to the end of its washes", startCommand},
     Command{"options", "", "list what the settings store keeps", optionsCommand},

@@ -57,6 +57,7 @@ std::span<const Command> commands();
 int rowNumber(std::string_view word);
 
 int washCommand(CommandContext& context);
+int previewCommand(CommandContext& context);
 int startCommand(CommandContext& context);
 int optionsCommand(CommandContext& context);
 int setCommand(CommandContext& context);

@@ -3,18 +3,12 @@
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "app/console/Report.h"
 #include "app/console/Store.h"
 #include "platform/folder/PcError.h"
 
 namespace zub {
 namespace {
-
-// The report lies in memory with CR LF; a terminal wants neither CR nor a blank line at its end.
-std::string withoutCarriageReturns(std::string text) {
-  std::erase(text, '\r');
-  while (text.ends_with('\n')) text.pop_back();
-  return text;
-}
 
 // What could not be saved. After a wash in the midst of the program it is tried again at the end.
 std::optional<PcError> saved(ConsolePc& pc) {
@@ -25,25 +19,6 @@ std::optional<PcError> saved(ConsolePc& pc) {
   }
   return std::nullopt;
 }
-
-void printReport(const CommandContext& context, Program& program) {
-  if (program.engine.clean.txtResult.empty()) return;
-  context.print(withoutCarriageReturns(program.engine.clean.txtResult));
-  const frmAnimated::State& shown = program.engine.animated.peek().state;
-  context.print("");
-  context.print(shown.lblRemove.Caption);
-  context.print(shown.StatusBar1[1]);
-  context.print(program.options.lblLastRemoval.Caption);
-}
-
-// The loop serves the program for as long as this lives.
-struct Attached {
-  Attached(ConsoleLoop& served, Program& program) : loop(served) { loop.attach(program); }
-  Attached(const Attached&) = delete;
-  Attached& operator=(const Attached&) = delete;
-  ~Attached() { loop.detach(); }
-  ConsoleLoop& loop;
-};
 
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
@@ -64,9 +39,7 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
   printReport(context, program);
   if (unsaved) throw *unsaved;
   needStoreSaved(program.engine.pc, program.options);
-  if (program.engine.leftBehind == 0) return exitStatus::Done;
-  context.tell(std::to_string(program.engine.leftBehind) + " files, folders or keys could not be removed");
-  return exitStatus::LeftBehind;
+  return tellLeftBehind(context, program, "could not be removed");
 }
 
 }  // namespace

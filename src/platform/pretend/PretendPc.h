@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/pretend/PretendFiles.h"
 #include "platform/pretend/PretendRegistry.h"
 #include "platform/pretend/PretendServices.h"
 #include "platform/pretend/PretendTasks.h"
@@ -17,12 +18,19 @@ class PretendPc {
 
   // All services; the event loop and the messages are the caller's, and outlive the platform.
   Platform platform(EventLoop& events, Messages& messages);
+  // Grows with everything that is removed.
+  std::uint64_t removals() const;
 
  private:
   Platform& beneath_;
 
  public:
   PretendRegistry registry;
+  PretendFiles files;
+  PretendRestart restart;
+  PretendShell shell;
+  PretendProcess process;
+  PretendTray tray;
   PretendTasks tasks;
 };
 

@@ -300,8 +300,9 @@ RegistryStatus PretendRegistry::deleteValue(RegistryKey key, std::string_view na
   if ((from.slot.rights & access::SetValue) == 0) return status::AccessDenied;
   const RegistryStatus loaded = loadContent(*from.slot.node);
   if (loaded != status::Success) return loaded;
-  return from.slot.node->content->values.erase(upper(StripAtNull(name))) ? status::Success
-                                                                         : status::FileNotFound;
+  if (!from.slot.node->content->values.erase(upper(StripAtNull(name)))) return status::FileNotFound;
+  ++removals_;
+  return status::Success;
 }
 
 RegistryStatus PretendRegistry::deleteKey(RegistryKey key, std::string_view path) {
@@ -319,6 +320,7 @@ RegistryStatus PretendRegistry::deleteKey(RegistryKey key, std::string_view path
   if (loaded != status::Success) return loaded;
   node.parent->content->keys.erase(upper(node.name));
   markGone(node);
+  ++removals_;
   for (auto& [handle, slot] : open_) {
     if (slot.node != nullptr && slot.node->gone) slot.node = nullptr;
   }

@@ -45,6 +45,8 @@ class PretendRegistry : public Registry {
     const std::string* value;  // null for the key itself
   };
   void eachRemoved(const std::function<void(const Removed&)>& tell);
+  // How often a key or value was deleted.
+  std::uint64_t removals() const { return removals_; }
 
  private:
   struct Data {
@@ -103,6 +105,7 @@ class PretendRegistry : public Registry {
   bool deletesTrees_;
   std::vector<std::unique_ptr<Node>> hives_;
   std::unordered_map<RegistryKey, Slot> open_;
+  std::uint64_t removals_ = 0;
   RegistryKey last_ = 0;  // the key that was handed out last
 };
 

@@ -1,6 +1,7 @@
 // The small services of a PC that pretends: what they would do to the PC is left out or kept in memory.
 #pragma once
 
+#include "platform/CodePage.h"
 #include "platform/Files.h"
 #include "platform/Services.h"
 
@@ -9,8 +10,8 @@ namespace zub {
 class PretendRestart : public Restart {
  public:
   // `files` pretend too: a profile is changed in them.
-  PretendRestart(Restart& beneath, SystemFolders& folders, Files& files)
-      : beneath_(beneath), folders_(folders), files_(files) {}
+  PretendRestart(Restart& beneath, SystemFolders& folders, const CodePage& codePage, Files& files)
+      : beneath_(beneath), folders_(folders), codePage_(codePage), files_(files) {}
 
   void deleteAtRestart(std::string_view) override {}
   void writeProfile(std::string_view section, std::string_view key, std::string_view value,
@@ -20,6 +21,7 @@ class PretendRestart : public Restart {
  private:
   Restart& beneath_;
   SystemFolders& folders_;
+  const CodePage& codePage_;
   Files& files_;
 };
 
@@ -29,6 +31,7 @@ class PretendShell : public Shell {
   PretendShell(Shell& beneath, Files& files) : beneath_(beneath), files_(files) {}
 
   std::int32_t emptyRecycleBin(std::uint32_t flags) override;
+  std::vector<std::string> recycleBins() override { return beneath_.recycleBins(); }
   void updateRecycleBinIcon() override {}
   void open(std::string_view) override {}
   void start(std::string_view) override {}

@@ -2,6 +2,7 @@
 
 #include "base/RuntimeError.h"
 #include "platform/win32/LoadedCall.h"
+#include "platform/win32/RecycleBins.h"
 
 namespace zub {
 
@@ -10,6 +11,10 @@ namespace zub {
 std::int32_t Win32Shell::emptyRecycleBin(std::uint32_t flags) {
   const auto call = loadedCall<HRESULT(WINAPI*)(HWND, LPCSTR, DWORD)>("shell32.dll", "SHEmptyRecycleBinA");
   return call != nullptr ? call(nullptr, "", flags) : E_NOTIMPL;
+}
+
+std::vector<std::string> Win32Shell::recycleBins() {
+  return recycleBinFolders();
 }
 
 void Win32Shell::updateRecycleBinIcon() {
