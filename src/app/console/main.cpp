@@ -9,13 +9,12 @@
 #include <vector>
 
 #include "app/console/Commands.h"
+#include "base/RuntimeError.h"
 #include "platform/folder/FolderPc.h"
 
 namespace {
 
 using namespace zub;
-
-constexpr const char* programName = "zub";
 
 void printHelp() {
   std::printf(
@@ -91,6 +90,8 @@ int run(std::vector<std::string> arguments) {
     return command.run(context);
   } catch (const UsageError& error) {
     throw UsageError(pc->toTerminal(error.what()));
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.number(), pc->toTerminal(error.what()));
   }
 }
 
