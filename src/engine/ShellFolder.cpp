@@ -8,7 +8,7 @@ std::string shellFolder(Engine& engine, std::string_view name) {
   std::string trace =
       "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders+ Value`= ";
   trace += name;
-  return engine.registryHelper.TraceValue(trace);
+  return engine.pc.codePage.toldPath(engine.registryHelper.TraceValue(trace));
 }
 
 }  // namespace zub

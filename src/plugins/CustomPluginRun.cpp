@@ -28,7 +28,7 @@ void runFiles(Engine& engine, const std::string& base, const std::string& name) 
   engine.clean.AddItem("\r\nZUB has cleaned " + name + " , with the following results:");
   std::string line;
   while (file.line(line)) {
-    const std::string entry(trim(engine.pc.codePage.upper(line)));
+    const std::string entry = engine.pc.codePage.toldPath(trim(engine.pc.codePage.upper(line)));
     if (entry == NoEntriesUpper) break;
     if (hasWildcard(entry)) {
       searchFiles(engine, entry);

@@ -28,6 +28,10 @@ class Win32ContractPc {
   void lock(const std::string& path);
   void unlock(const std::string& path);
   bool link(const std::string& path, const std::string& target);
+  void wide(std::u16string_view name, bool folder);
+  bool hasWide(std::u16string_view name) const;
+  void wideKey(std::u16string_view name);
+  bool followsLinks() const { return true; }
   // Only Wine deviates, and only as its table says; a name that is not in the table is a fault of the test.
   bool deviates(std::string_view name) const;
 

@@ -14,7 +14,7 @@ class FolderConsolePc : public ConsolePc {
   Platform& platform() override { return platform_; }
   void save() override { pc_.save(); }
   std::string folder() const override { return folder_; }
-  std::string toTerminal(std::string_view text) const override { return utf8From1252(text); }
+  std::string toTerminal(std::string_view text) const override { return utf8FromAnsi(text); }
   std::string fromTerminal(std::string_view text) const override { return ansiFromUtf8(text); }
 
  private:

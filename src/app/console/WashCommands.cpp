@@ -1,3 +1,4 @@
+#include <cstdio>
 #include <functional>
 
 #include "app/Program.h"
@@ -56,6 +57,8 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
     context.print(shown.StatusBar1[1]);
     context.print(program.options.lblLastRemoval.Caption);
   }
+  for (const std::string& folder : program.engine.unread)
+    std::fprintf(stderr, "zub: %s\n", context.pc.toTerminal("not looked into: " + folder).c_str());
   return program.engine.leftBehind > 0 ? exitStatus::LeftBehind : exitStatus::Done;
 }
 

@@ -15,23 +15,29 @@ namespace {
 std::optional<std::string> searchName(HostDir& folder, std::string_view name) {
   const bool mayBeShort = name.find('~') != std::string_view::npos;
   std::unique_ptr<HostList> listing;
-  if (folder.list(listing) != HostError::None) return std::nullopt;
+  check(folder.list(listing));
   std::optional<std::string> best;
   std::vector<std::string> hostNames;
   std::vector<std::string> names;
   HostEntry entry;
   while (listing->next(entry)) {
-    const std::string pcName = ansiFromUtf8(entry.name);
+    const std::string pcName = toldNameFromUtf8(entry.name);
     if (equalFolded(pcName, name) && (!best || entry.name < *best)) best = entry.name;
     if (!mayBeShort) continue;
     hostNames.push_back(entry.name);
     names.push_back(pcName);
   }
+  check(listing->failure());
   if (best || !mayBeShort) return best;
   const std::vector<std::string> shorts = shortNames(names);
   const auto found = std::ranges::find_if(shorts, [&](const auto& text) { return equalFolded(text, name); });
   if (found == shorts.end()) return std::nullopt;
   return hostNames[static_cast<std::size_t>(found - shorts.begin())];
+}
+
+bool isLink(HostDir& folder, const std::string& name) {
+  HostStat stat;
+  return folder.stat(name, stat) == HostError::None && stat.kind == HostKind::Link;
 }
 
 }  // namespace
@@ -67,7 +73,7 @@ HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
     HostDir& here = *open_.back().dir;
     const std::string& name = path.parts[at];
     std::unique_ptr<HostDir> next;
-    std::string hostName = utf8From1252(name);
+    std::string hostName = utf8FromAnsi(name);
     HostError error = here.openDir(hostName, next);
     if (error == HostError::NotFound) {
       if (const auto found = searchName(here, name)) {
@@ -76,6 +82,8 @@ HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
       }
     }
     if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
+    if (error == HostError::NotAFolder && isLink(here, hostName))
+      throw RuntimeError(ErrorNumber::PermissionDenied);
     check(error);
     open_.push_back({name, std::move(hostName), std::move(next)});
   }
@@ -101,7 +109,7 @@ FolderDisk::Place FolderDisk::place(const FolderPath& path) {
     place.exists = true;
     return place;
   }
-  place.name = utf8From1252(path.parts.back());
+  place.name = utf8FromAnsi(path.parts.back());
   for (bool fromKept = !open_.empty();; fromKept = false) {
     place.parent = &walk(path, path.parts.size() - 1);
     HostError error = place.parent->stat(place.name, place.stat);
@@ -121,8 +129,8 @@ FolderDisk::Place FolderDisk::place(const FolderPath& path) {
 
 FolderPath FolderDisk::pathOf(const Place& place) const {
   FolderPath path{open_.front().name[0], {}};
-  for (std::size_t i = 1; i < open_.size(); ++i) path.parts.push_back(ansiFromUtf8(open_[i].hostName));
-  if (place.parent != nullptr) path.parts.push_back(ansiFromUtf8(place.name));
+  for (std::size_t i = 1; i < open_.size(); ++i) path.parts.push_back(toldNameFromUtf8(open_[i].hostName));
+  if (place.parent != nullptr) path.parts.push_back(toldNameFromUtf8(place.name));
   return path;
 }
 

@@ -35,6 +35,7 @@ enum class HostKind : std::uint8_t { File, Folder, Link, Other };
 
 struct HostStat {
   HostKind kind = HostKind::Other;
+  bool toFolder = false;   // of links only: a folder is behind it
   bool readOnly = false;   // of files only: no owner-write permission bit; on Windows the read-only attribute
   std::uint64_t size = 0;  // of files only, in bytes
 };
@@ -54,6 +55,8 @@ class HostList {
   virtual ~HostList() = default;
   // False at the end, and where the host fails. The name keeps its capacity from call to call.
   virtual bool next(HostEntry& entry) = 0;
+  // Why a listing ended before its end.
+  virtual HostError failure() const = 0;
   // Fills size and read-only of an entry that it told; for hosts whose listings lack them.
   virtual void complete(HostEntry&) {}
 };

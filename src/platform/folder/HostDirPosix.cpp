@@ -54,12 +54,19 @@ HostKind kindOf(mode_t mode) {
 }
 
 HostStat statOf(const struct stat& host) {
-  HostStat stat{kindOf(host.st_mode), false, 0};
+  HostStat stat;
+  stat.kind = kindOf(host.st_mode);
   if (stat.kind == HostKind::File) {
     stat.readOnly = (host.st_mode & S_IWUSR) == 0;
     stat.size = static_cast<std::uint64_t>(host.st_size);
   }
   return stat;
+}
+
+// The kind of what is behind a link is all that is ever asked of it.
+bool leadsToFolder(int folder, const char* name) {
+  struct stat behind {};
+  return ::fstatat(folder, name, &behind, 0) == 0 && S_ISDIR(behind.st_mode);
 }
 
 class Handle {
@@ -127,26 +134,45 @@ class PosixList : public HostList {
   ~PosixList() override { ::closedir(folder_); }
 
   bool next(HostEntry& entry) override {
-    while (const dirent* found = ::readdir(folder_)) {
+    while (const dirent* found = nextOfHost()) {
       entry.name = found->d_name;
       if (!isPart(entry.name)) continue;
       entry.stat = {};
       entry.complete = false;
-      if (kindByType(found->d_type, entry.stat.kind)) return true;
+      if (kindByType(found->d_type, entry.stat.kind)) {
+        if (entry.stat.kind == HostKind::Link)
+          entry.stat.toFolder = leadsToFolder(::dirfd(folder_), entry.name.c_str());
+        return true;
+      }
       complete(entry);
       if (entry.complete) return true;
     }
     return false;
   }
 
+  HostError failure() const override { return failure_; }
+
+  // An entry that is gone meanwhile is none.
   void complete(HostEntry& entry) override {
     struct stat host {};
-    if (::fstatat(::dirfd(folder_), entry.name.c_str(), &host, AT_SYMLINK_NOFOLLOW) < 0) return;
+    if (::fstatat(::dirfd(folder_), entry.name.c_str(), &host, AT_SYMLINK_NOFOLLOW) < 0) {
+      if (errno != ENOENT) failure_ = errorOf(errno);
+      return;
+    }
     entry.stat = statOf(host);
+    if (entry.stat.kind == HostKind::Link)
+      entry.stat.toFolder = leadsToFolder(::dirfd(folder_), entry.name.c_str());
     entry.complete = true;
   }
 
  private:
+  const dirent* nextOfHost() {
+    errno = 0;
+    const dirent* found = ::readdir(folder_);
+    if (found == nullptr && errno != 0) failure_ = errorOf(errno);
+    return found;
+  }
+
   static bool kindByType(unsigned char type, HostKind& kind) {
     if (type == DT_UNKNOWN) return false;
     kind = type == DT_REG   ? HostKind::File
@@ -157,6 +183,7 @@ class PosixList : public HostList {
   }
 
   DIR* folder_;
+  HostError failure_ = HostError::None;
 };
 
 constexpr int FolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
@@ -188,6 +215,7 @@ class PosixDir : public HostDir {
     struct stat host {};
     if (::fstatat(handle_.get(), name.c_str(), &host, AT_SYMLINK_NOFOLLOW) < 0) return errorOf(errno);
     found = statOf(host);
+    if (found.kind == HostKind::Link) found.toFolder = leadsToFolder(handle_.get(), name.c_str());
     return HostError::None;
   }
 
