@@ -8,7 +8,10 @@
 //   void file(path, bytes);                 makes a file, not by the platform
 //   std::string bytes(path);                what is in it, not by the platform
 //   void readOnly(path);                    gives it the read-only attribute
-//   void lock(path); void unlock(path);     as another program would hold it
+//   void hide(path);                        gives it the hidden attribute
+//   void lock(path); void unlock(path);     as another program would hold it, sharing nothing
+//   bool hold(path, sharing);               has it open to read and write and shares that with others, until
+//                                           unlock; false where this PC does not know such a holder
 //   bool link(path, folder);                makes a link to a folder; false where this PC can make none
 //   void wide(name, folder);                an entry of the scratch folder whose name is any UTF-16
 //   bool hasWide(name);                     whether it is there, under exactly this name
@@ -23,8 +26,8 @@
 #include <string_view>
 
 #include "base/RuntimeError.h"
+#include "platform/Sharing.h"
 #include "support/TestPc.h"
-
 #ifdef _WIN32
 #include "platform/Win32ContractPc.h"
 #endif
@@ -39,6 +42,7 @@ class FolderContractPc : public TestPc {
   std::string folder() const { return "C:\\Scratch"; }
   std::string key() const { return "Software\\ZubraneTest"; }
   std::string task() const { return "ZubraneTest"; }
+  bool hold(const std::string&, Sharing) { return false; }
   bool link(const std::string& path, const std::string& target);
   void wide(std::u16string_view name, bool folder);
   bool hasWide(std::u16string_view name) const;

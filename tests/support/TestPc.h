@@ -33,6 +33,7 @@ class TestPc {
   void file(std::string_view path, std::string_view bytes = "x");
   void folder(std::string_view path);
   void readOnly(std::string_view path);
+  void hide(std::string_view path);
   void key(std::string_view path);
   void value(std::string_view key, std::string_view name, std::string_view text);
   void value(std::string_view key, std::string_view name, std::uint32_t type, std::string_view data);
@@ -78,6 +79,7 @@ class TestPc {
     Read,
     Write,
     Remove,
+    Replace,
     CreateFolder,
     DeleteFolder
   };

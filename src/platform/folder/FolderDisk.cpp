@@ -11,7 +11,8 @@ namespace zub {
 namespace {
 
 // The host's name of an entry that is not there as written: found without regard to case, the first in the
-// host's order of bytes where there are several, else by its 8.3 name.
+// host's order of bytes where there are several, else by its 8.3 name. A folder that cannot be listed whole does
+// not tell that there is none.
 std::optional<std::string> searchName(HostDir& folder, std::string_view name) {
   const bool mayBeShort = name.find('~') != std::string_view::npos;
   std::unique_ptr<HostList> listing;
@@ -95,7 +96,9 @@ HostDir& FolderDisk::walk(const FolderPath& path, std::size_t parts) {
   try {
     return openOn(path, parts);
   } catch (const RuntimeError& failure) {
-    if (!fromKept || failure.number() != ErrorNumber::PathNotFound) throw;
+    const bool stale =
+        failure.number() == ErrorNumber::PathNotFound || failure.number() == ErrorNumber::DeviceIo;
+    if (!fromKept || !stale) throw;
   }
   forget();
   return openOn(path, parts);

@@ -182,14 +182,11 @@ std::unique_ptr<FileChannel> FolderFiles::open(std::string_view path, OpenMode m
 
 void FolderFiles::replace(std::string_view path, std::string_view bytes) {
   seenPath_.clear();
-  const FolderPath parts = parse(path);
-  const Place place = disk_.place(parts);
+  FolderPath parts = parse(path);
+  const Place place = placeOf(parts);
   checkWritable(parts, place);
   if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
-  std::string beside = place.name + ".new";
-  HostStat taken;
-  while (place.parent->stat(beside, taken) == HostError::None) beside += '_';  // somebody's own file
-  replaceHostText(*place.parent, place.name, bytes, beside);
+  check(replaceHostFile(*place.parent, place.name, bytes));
 }
 
 std::int64_t FolderFiles::openedLength(std::string_view path) {

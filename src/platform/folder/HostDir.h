@@ -105,10 +105,10 @@ class HostDir {
   // Within this folder; an existing file of the new name is replaced in one step. On a POSIX host
   // the new one takes over its permissions and, where this user may give it away, its owner.
   virtual HostError rename(const std::string& from, const std::string& to) = 0;
-  // The names in this folder have reached the disk. Does nothing where the host needs no such thing.
+  // The names in this folder have reached the disk. Does nothing where the host needs or knows no such thing.
   virtual HostError sync() = 0;
   // Takes this folder for this process until the HostDir goes. InUse where another HostDir on the same
-  // folder, of this or another process, has taken it.
+  // folder, of this or another process, has taken it. A disk that knows no locks lets everybody.
   virtual HostError take() = 0;
 };
 

@@ -109,6 +109,16 @@ bool SystemPath::makeFolder() const {
                        : CreateDirectoryA(ansi_.c_str(), nullptr)) != 0;
 }
 
+bool SystemPath::moveTo(const SystemPath& path) const {
+  return (isNtFamily() ? MoveFileW(wide_.c_str(), path.wide_.c_str())
+                       : MoveFileA(ansi_.c_str(), path.ansi_.c_str())) != 0;
+}
+
+bool SystemPath::moveOver(const SystemPath& path) const {
+  return MoveFileExW(wide_.c_str(), path.wide_.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) !=
+         0;
+}
+
 std::string SystemPath::shortPath() const {
   if (!isNtFamily()) {
     std::array<char, MAX_PATH> path;

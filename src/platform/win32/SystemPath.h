@@ -26,6 +26,9 @@ class SystemPath {
   bool removeFile() const;
   bool removeFolder() const;
   bool makeFolder() const;
+  bool moveTo(const SystemPath& path) const;
+  // Over an existing file; not on the 9x family.
+  bool moveOver(const SystemPath& path) const;
   // Of what exists: the told path in its 8.3 form; empty where the system gives none.
   std::string shortPath() const;
   // Searches that begin with the first entry of this folder, or with what is at this path alone.

@@ -17,9 +17,11 @@ struct ModeRow {
   DWORD disposition;
 };
 
+constexpr DWORD Everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
 constexpr ModeRow modes[] = {
     {GENERIC_READ | GENERIC_WRITE, 0, OPEN_ALWAYS},  // Binary
-    {GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING},  // Input
+    {GENERIC_READ, Everything, OPEN_EXISTING},       // Input
     {GENERIC_WRITE, 0, CREATE_ALWAYS},               // Output
 };
 
@@ -33,18 +35,19 @@ bool isKeptElsewhere(HANDLE file) {
 
 }  // namespace
 
-// The 9x family has no reparse points and does not know the flag.
+// The 9x family has no reparse points, and refuses a call that shares the removal.
 HANDLE openFile(const SystemPath& path, OpenMode mode, bool makes) {
   const ModeRow& row = modes[static_cast<std::size_t>(mode)];
   const DWORD disposition = makes ? row.disposition : OPEN_EXISTING;
+  const DWORD sharing = isNtFamily() ? row.sharing : row.sharing & ~static_cast<DWORD>(FILE_SHARE_DELETE);
   const DWORD itself = isNtFamily() ? FILE_FLAG_OPEN_REPARSE_POINT : 0;
-  HANDLE file = path.open(row.access, row.sharing, disposition, FILE_ATTRIBUTE_NORMAL | itself);
+  HANDLE file = path.open(row.access, sharing, disposition, FILE_ATTRIBUTE_NORMAL | itself);
   if (file == INVALID_HANDLE_VALUE && GetLastError() == ERROR_ACCESS_DENIED)
-    file = openFolderLink(path, row.access, row.sharing);
+    file = openFolderLink(path, row.access, sharing);
   if (file == INVALID_HANDLE_VALUE) throwLastError();
   if (!isKeptElsewhere(file)) return file;
   CloseHandle(file);
-  file = path.open(row.access, row.sharing, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
+  file = path.open(row.access, sharing, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
   if (file == INVALID_HANDLE_VALUE) throwLastError();
   return file;
 }
