@@ -3,23 +3,10 @@
 #include <cmath>
 
 namespace zub {
-namespace {
-
-int screenDpi() {
-  const HDC screen = GetDC(nullptr);
-  const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-  ReleaseDC(nullptr, screen);
-  return dpi;
-}
-
-}  // namespace
-
 COLORREF plainColor(Color color) {
   constexpr Color SystemMark = 0x80000000;
   return (color & SystemMark) != 0 ? GetSysColor(static_cast<int>(color & 0xFF)) : color;
 }
-
-Fonts::Fonts() : dpi_(screenDpi()) {}
 
 Fonts::~Fonts() {
   for (const auto& [key, font] : fonts_) DeleteObject(font);
@@ -27,7 +14,7 @@ Fonts::~Fonts() {
 }
 
 HFONT Fonts::font(std::string_view name, float points, bool bold) {
-  const int height = static_cast<int>(std::lround(points * static_cast<float>(dpi_) / 72));
+  const int height = static_cast<int>(std::lround(points * static_cast<float>(scale_.dpi) / 72));
   HFONT& font = fonts_[{std::string(name), height, bold}];
   if (font == nullptr) {
     font = CreateFontA(-height, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,

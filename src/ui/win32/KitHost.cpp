@@ -4,7 +4,6 @@ namespace zub {
 namespace {
 
 constexpr UINT_PTR TimerId = 1;
-constexpr int DesignDpi = 96;
 
 std::int16_t shiftState() {
   const auto down = [](int key) { return GetKeyState(key) < 0; };
@@ -38,11 +37,9 @@ KitHost::KitHost(const ViewSite& site, Parts parts)
 void KitHost::layOut() {
   RECT all;
   GetClientRect(hwnd(), &all);
-  const int dpi = parts_.stretched ? ui_.fonts.dpi() : DesignDpi;
   parts_.control->BackColor(background());
-  parts_.control->resize(MulDiv(static_cast<int>(all.right), DesignDpi, dpi),
-                         MulDiv(static_cast<int>(all.bottom), DesignDpi, dpi));
-  ui_.places.put(*parts_.control, {hwnd(), dpi});
+  parts_.control->resize(static_cast<int>(all.right), static_cast<int>(all.bottom));
+  ui_.places.put(*parts_.control, hwnd());
   isLaidOut_ = true;
 }
 
@@ -73,10 +70,7 @@ void KitHost::paint() {
   controls::Surface surface = ui_.canvas.surface(control.width(), control.height());
   control.paint(surface);
   if (focused_) paintFocus(canvas);
-  RECT all;
-  GetClientRect(hwnd(), &all);
-  StretchBlt(dc, 0, 0, static_cast<int>(all.right), static_cast<int>(all.bottom), canvas, 0, 0,
-             control.width(), control.height(), SRCCOPY);
+  BitBlt(dc, 0, 0, control.width(), control.height(), canvas, 0, 0, SRCCOPY);
   EndPaint(hwnd(), &painting);
 }
 
@@ -98,11 +92,9 @@ void KitHost::serveTimer() {
     KillTimer(hwnd(), TimerId);
 }
 
-controls::Mouse KitHost::mouseAt(std::int16_t buttons, LPARAM place) const {
-  const float scale =
-      parts_.stretched ? static_cast<float>(DesignDpi) / static_cast<float>(ui_.fonts.dpi()) : 1.0F;
-  return {buttons, shiftState(), static_cast<float>(static_cast<short>(LOWORD(place))) * scale,
-          static_cast<float>(static_cast<short>(HIWORD(place))) * scale};
+controls::Mouse KitHost::mouseAt(std::int16_t buttons, LPARAM place) {
+  return {buttons, shiftState(), static_cast<float>(static_cast<short>(LOWORD(place))),
+          static_cast<float>(static_cast<short>(HIWORD(place)))};
 }
 
 bool KitHost::onMouse(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -19,7 +19,6 @@ class KitHost : public OwnWindow, public View {
     LRESULT dialogCode = DLGC_STATIC;
     bool takesFocus = false;
     bool takesSpace = false;  // the bar is a click
-    bool stretched = false;   // painted for 96 pixels an inch, whatever the screen has
   };
   KitHost(const ViewSite& site, Parts parts);
 
@@ -38,7 +37,7 @@ class KitHost : public OwnWindow, public View {
   void serveTimer();
   bool onMouse(UINT message, WPARAM wParam, LPARAM lParam);
   void onKey(UINT message, WPARAM wParam);
-  controls::Mouse mouseAt(std::int16_t buttons, LPARAM place) const;
+  static controls::Mouse mouseAt(std::int16_t buttons, LPARAM place);
 
   Parts parts_;
   unsigned shownLook_ = 0;
