@@ -1,5 +1,7 @@
 #include "ui/win32/KitHost.h"
 
+#include "ui/win32/KitAccessible.h"
+
 namespace zub {
 namespace {
 
@@ -34,6 +36,12 @@ KitHost::KitHost(const ViewSite& site, Parts parts)
   parts_.control->shown();
 }
 
+KitHost::~KitHost() {
+  if (accessible_ == nullptr) return;
+  accessible_->disconnect();
+  accessible_->Release();
+}
+
 void KitHost::layOut() {
   RECT all;
   GetClientRect(hwnd(), &all);
@@ -59,7 +67,33 @@ void KitHost::show() {
 
 void KitHost::refresh() {
   serveTimer();
-  if (changes(shownLook_, parts_.control->revision())) InvalidateRect(hwnd(), nullptr, FALSE);
+  if (!changes(shownLook_, parts_.control->revision())) return;
+  InvalidateRect(hwnd(), nullptr, FALSE);
+  if (accessible_ != nullptr) tellChanges();
+}
+
+LRESULT KitHost::handOutAccessible(WPARAM wParam) {
+  if (accessible_ == nullptr) {
+    accessible_ = KitAccessible::make(hwnd(), *parts_.control);
+    if (accessible_ == nullptr) return 0;
+    tellChanges();
+  }
+  return accessible_->handOut(wParam);
+}
+
+void KitHost::tellChanges() {
+  const controls::Control& control = *parts_.control;
+  std::vector<controls::Described> now = {control.described()};
+  for (int part = 0; part < control.parts(); ++part) now.push_back(control.describedPart(part));
+  for (std::size_t at = 0; at < told_.size() && at < now.size(); ++at) {
+    const auto child = static_cast<LONG>(at);
+    if (now[at].name != told_[at].name) tellAccessible(EVENT_OBJECT_NAMECHANGE, hwnd(), child);
+    if (now[at].checked != told_[at].checked) tellAccessible(EVENT_OBJECT_STATECHANGE, hwnd(), child);
+    if (!now[at].selected || told_[at].selected) continue;
+    tellAccessible(EVENT_OBJECT_SELECTION, hwnd(), child);
+    if (focused_) tellAccessible(EVENT_OBJECT_FOCUS, hwnd(), child);
+  }
+  told_ = std::move(now);
 }
 
 void KitHost::paint() {
@@ -122,6 +156,15 @@ bool KitHost::onMouse(UINT message, WPARAM wParam, LPARAM lParam) {
   return false;
 }
 
+// The control itself (0), or a part of it, numbered from 1.
+void KitHost::press(int part) {
+  if (part > 0 && part <= parts_.control->parts())
+    parts_.control->pressPart(part - 1);
+  else
+    parts_.control->press();
+  refresh();
+}
+
 void KitHost::onKey(UINT message, WPARAM wParam) {
   controls::Control& control = *parts_.control;
   const auto code = static_cast<std::int16_t>(wParam);
@@ -166,9 +209,13 @@ LRESULT KitHost::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_GETDLGCODE:
       return parts_.dialogCode;
     case BM_CLICK:
-      parts_.control->press();
-      refresh();
+      press(static_cast<int>(wParam));
       return 0;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(lParam) == LONG{OBJID_CLIENT}) {
+        if (const LRESULT object = handOutAccessible(wParam); object != 0) return object;
+      }
+      break;
     default:
       break;
   }
