@@ -1,4 +1,5 @@
 #include "app/console/ConsolePc.h"
+#include "app/console/Printable.h"
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/FolderPc.h"
 
@@ -14,7 +15,9 @@ class FolderConsolePc : public ConsolePc {
   Platform& platform() override { return platform_; }
   void save() override { pc_.save(); }
   std::string folder() const override { return folder_; }
-  std::string toTerminal(std::string_view text) const override { return utf8From1252(text); }
+  std::string toTerminal(std::string_view text) const override {
+    return printable(utf8From1252(text), Letters::Utf8);
+  }
   std::string fromTerminal(std::string_view text) const override { return ansiFromUtf8(text); }
 
  private:

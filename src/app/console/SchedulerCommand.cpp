@@ -8,6 +8,7 @@
 #include <deque>
 
 #include "app/console/Commands.h"
+#include "app/console/Printable.h"
 #include "app/console/Store.h"
 #include "base/Numbers.h"
 #include "platform/folder/FolderTasks.h"
@@ -70,7 +71,8 @@ class Scheduler {
       work();
       told.clear();
     } catch (const std::exception& error) {
-      if (told != error.what()) std::fprintf(stderr, "%s: %s\n", programName, error.what());
+      if (told != error.what())
+        std::fprintf(stderr, "%s: %s\n", programName, printableLines(error.what()).c_str());
       told = error.what();
     }
   }
