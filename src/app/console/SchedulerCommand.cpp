@@ -140,7 +140,7 @@ class Scheduler {
       const auto pc = openPc(what.commandLine);
       CommandContext started{*pc, context_.loop, {}};
       try {
-        what.command(started);
+        runCommand(started, what.command);
       } catch (const BusyError& busy) {
         if (!waits_) std::fprintf(stderr, "%s: %s\n", programName, busy.what());
         done = false;
