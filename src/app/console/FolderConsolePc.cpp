@@ -16,7 +16,8 @@ class FolderConsolePc : public ConsolePc {
   void save() override { pc_.save(); }
   std::vector<std::string> failures() const override {
     const HostFailures& failures = pc_.failures();
-    std::vector<std::string> texts(failures.texts().begin(), failures.texts().end());
+    std::vector<std::string> texts;
+    for (const std::string& text : failures.texts()) texts.push_back(printable(text, Letters::Utf8));
     if (failures.more() > 0) texts.push_back(std::to_string(failures.more()) + " more failures");
     return texts;
   }
