@@ -183,7 +183,7 @@ std::unique_ptr<FileChannel> FolderFiles::open(std::string_view path, OpenMode m
 void FolderFiles::replace(std::string_view path, std::string_view bytes) {
   seenPath_.clear();
   FolderPath parts = parse(path);
-  const Place place = placeOf(parts);
+  const Place place = filePlaceOf(parts);
   checkWritable(parts, place);
   if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
   check(replaceHostFile(*place.parent, place.name, bytes));
