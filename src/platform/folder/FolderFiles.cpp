@@ -8,7 +8,6 @@
 #include "platform/folder/FolderSearch.h"
 #include "platform/folder/HostFailure.h"
 #include "platform/folder/HostText.h"
-#include "platform/folder/ShortName.h"
 
 namespace zub {
 namespace {
@@ -20,6 +19,7 @@ HostError removeForced(HostDir& folder, const std::string& name) {
   return folder.removeFile(name);
 }
 
+<<<<<<< HEAD
 // The 8.3 name of the entry that a path calls `part` and the host, if it knows it as told, `hostName`.
 std::string shortNameIn(HostList& listing, const std::string& hostName, const std::string& part) {
   std::vector<std::string> names;
@@ -43,6 +43,10 @@ bool isFolder(const HostStat& stat) {
 }
 bool isFolderOrLink(const HostStat& stat) {
   return isFolder(stat) || stat.toFolder;
+=======
+bool isFolder(const FolderDisk::Place& place) {
+  return place.exists && place.stat.kind == HostKind::Folder;
+>>>>>>> main
 }
 
 }  // namespace
@@ -177,6 +181,7 @@ std::unique_ptr<FileChannel> FolderFiles::open(std::string_view path, OpenMode m
   const HostOpen how = !writes ? HostOpen::Read : mode == OpenMode::Output ? HostOpen::Empty : HostOpen::Make;
   std::unique_ptr<HostFile> file;
   check(place.parent->openFile(place.name, how, file));
+  if (!place.exists) disk_.forgetNames();
   return std::make_unique<FolderChannel>(std::move(file), writes);
 }
 
@@ -187,6 +192,7 @@ void FolderFiles::replace(std::string_view path, std::string_view bytes) {
   checkWritable(parts, place);
   if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
   check(replaceHostFile(*place.parent, place.name, bytes));
+  if (!place.exists) disk_.forgetNames();
 }
 
 std::int64_t FolderFiles::openedLength(std::string_view path) {
@@ -230,6 +236,7 @@ void FolderFiles::createFolder(std::string_view path) {
   checkDrive(parts.drive);
   if (place.exists) throw RuntimeError(ErrorNumber::PathFileAccess);
   check(place.parent->makeDir(place.name));
+  disk_.forgetNames();
 }
 
 void FolderFiles::deleteFolder(std::string_view path) {
@@ -293,10 +300,8 @@ std::string FolderFiles::shortPath(std::string_view path) {
     FolderPath result{parts.drive, {}};
     FolderPath walked{parts.drive, {}};
     for (const std::string& part : parts.parts) {
-      std::unique_ptr<HostList> listing;
-      check(disk_.folder(walked).list(listing));
       walked.parts.push_back(part);
-      result.parts.push_back(shortNameIn(*listing, disk_.place(walked).name, part));
+      result.parts.push_back(disk_.shortName(walked));
     }
     return result.text();
   } catch (const RuntimeError&) {
