@@ -7,7 +7,7 @@ namespace zub {
 namespace {
 
 void removeEntry(Files& files, const std::string& path, const FoundFile& found) {
-  if ((found.attributes & attribute::Directory) != 0) return files.deleteFolder(path);
+  if (isFolder(found.attributes)) return files.deleteFolder(path);
   files.resetAttributes(path);
   files.remove(path);
 }

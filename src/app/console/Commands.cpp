@@ -12,7 +12,8 @@ namespace {
 constexpr std::array commandTable{
     Command{"wash", "", "start the program, press \"Start Cleaning\", press \"Finish\", end", washCommand},
     Command{"preview", "[--list]",
-            "tell what a wash would remove now, and remove nothing; with --list each thing on a line: its kind, a tab, "
+            "tell what a wash would remove now, and remove nothing; with --list each thing on a line: its "
+            "kind, a tab, "
             "its path, for a value a tab and its name",
             previewCommand},
     Command{"start", "[/STARTUP] [/SCHEDULER]",
@@ -24,8 +25,8 @@ constexpr std::array commandTable{
     Command{"plugin check", "FILE...",
             "tell line by line what plugin files would do; status 1 where something can never work",
             pluginCheckCommand},
-    Command{"cookies", "ie|netscape [keep|drop NUMBER...]", "list the cookies, or tick those to keep",
-            cookiesCommand},
+    Command{"cookies", "ie|netscape [keep|drop NUMBER|RANGE|SITE...]",
+            "list the cookies, or tick those to keep", cookiesCommand},
     Command{"schedule add", "DATE TIME", "add a dated wash", scheduleAddCommand},
     Command{"schedule remove", "NUMBER", "remove the dated wash with that number", scheduleRemoveCommand},
     Command{"schedule", "", "list the dated washes", scheduleCommand},
@@ -66,6 +67,13 @@ void CommandContext::print(std::string_view text) const {
   const std::string line = pc.toTerminal(text);
   std::fwrite(line.data(), 1, line.size(), stdout);
   std::fputc('\n', stdout);
+}
+
+void CommandContext::printRow(std::initializer_list<std::string_view> fields) const {
+  std::string row;
+  for (const std::string_view field : fields) row += (row.empty() ? "" : "\t") + pc.toTerminal(field);
+  row += '\n';
+  std::fwrite(row.data(), 1, row.size(), stdout);
 }
 
 void CommandContext::tell(const std::string& failure) const {

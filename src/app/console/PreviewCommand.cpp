@@ -1,7 +1,6 @@
 #include "app/Preview.h"
 #include "app/console/Commands.h"
 #include "app/console/Report.h"
-#include "base/Numbers.h"
 
 namespace zub {
 namespace {

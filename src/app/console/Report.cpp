@@ -2,21 +2,26 @@
 
 #include <string>
 
+#include "base/Text.h"
+
 namespace zub {
 namespace {
 
-// The report lies in memory with CR LF; a terminal wants neither CR nor a blank line at its end.
-std::string withoutCarriageReturns(std::string text) {
-  std::erase(text, '\r');
-  while (text.ends_with('\n')) text.pop_back();
-  return text;
+// The report lies in memory with CR LF behind each line; a terminal wants no blank line at its end.
+void printLines(const CommandContext& context, std::string_view text) {
+  while (text.ends_with(CrLf)) text.remove_suffix(CrLf.size());
+  for (auto end = text.find(CrLf); end != std::string_view::npos; end = text.find(CrLf)) {
+    context.print(text.substr(0, end));
+    text.remove_prefix(end + CrLf.size());
+  }
+  context.print(text);
 }
 
 }  // namespace
 
 void printReport(const CommandContext& context, Program& program) {
   if (program.engine.clean.txtResult.empty()) return;
-  context.print(withoutCarriageReturns(program.engine.clean.txtResult));
+  printLines(context, program.engine.clean.txtResult);
   const frmAnimated::State& shown = program.engine.animated.peek().state;
   context.print("");
   context.print(shown.lblRemove.Caption);
@@ -25,6 +30,7 @@ void printReport(const CommandContext& context, Program& program) {
 }
 
 int tellLeftBehind(const CommandContext& context, const Program& program, std::string_view happened) {
+  for (const std::string& folder : program.engine.unread) context.tell("not looked into: " + folder);
   if (program.engine.leftBehind == 0) return exitStatus::Done;
   context.tell(std::to_string(program.engine.leftBehind) + " files, folders or keys " +
                std::string(happened));

@@ -126,12 +126,9 @@ void PretendFiles::enter(std::string_view folder) {
     const auto above = folders_.find(keys.back());
     if (above != folders_.end()) {
       const auto own = above->second.own.find(key);
-      if (own != above->second.own.end()) {
-        spot.beneath = false;
-        spot.folderThere &= own->second.content == nullptr;
-      } else if (above->second.gone.contains(key)) {
-        spot.folderThere = false;
-      }
+      const bool gone = above->second.gone.contains(key);
+      if (gone) spot.beneath = false;
+      if (own != above->second.own.end() ? own->second.content != nullptr : gone) spot.folderThere = false;
     }
     keys.push_back(keys.back() + '\\' + key);
   }
@@ -144,6 +141,7 @@ void PretendFiles::enter(std::string_view folder) {
 }
 
 PretendFiles::Spot PretendFiles::locate(std::string_view path) {
+  const bool namesFolder = !path.empty() && isSeparator(path.back());
   path = withoutEnd(path);
   const std::size_t behind = behindFolder(path);
   enter(path.substr(0, behind));
@@ -153,6 +151,11 @@ PretendFiles::Spot PretendFiles::locate(std::string_view path) {
     const auto own = spot.folder->own.find(spot.name);
     if (own != spot.folder->own.end()) spot.own = &own->second;
     spot.gone = spot.own == nullptr && spot.folder->gone.contains(spot.name);
+  }
+  if (namesFolder && spot.own != nullptr && spot.own->content) {  // which leads to no file
+    spot.own = nullptr;
+    spot.gone = true;
+    spot.folderThere = false;
   }
   return spot;
 }
@@ -248,10 +251,12 @@ PretendFiles::Own& PretendFiles::writable(std::string_view path, const Spot& spo
   if (spot.asksBeneath() && beneath_.attributes(path) != attribute::Invalid) {
     const std::int64_t length = openedLength(path);
     own.attributes = attributes(path);
+    FoundFile found;
+    if (const auto search = beneath_.find(path); search && search->next(found)) own.name = found.name;
     own.overBeneath = true;
     own.content = std::make_shared<PretendContent>(beneath_, std::string(path), length);
-  } else if (!holderExists(path)) {
-    throw RuntimeError(ErrorNumber::PathNotFound);
+  } else {
+    checkMakeable(path, spot, Removal::File);
   }
   return changed(spot).own[spot.name] = own;
 }
@@ -278,7 +283,8 @@ void PretendFiles::replace(std::string_view path, std::string_view bytes) {
 // The entry is gone from here on, beneath too if it is there.
 void PretendFiles::takeOut(const Spot& spot, bool folder, std::int64_t length) {
   Folder& holder = changed(spot);
-  const bool isBeneath = spot.own == nullptr || spot.own->overBeneath;
+  const bool isBeneath = spot.own == nullptr || spot.own->overBeneath ||
+                         (folder && spot.beneath && beneath_.folderExists(spot.path + '\\' + spot.own->name));
   if (spot.own != nullptr) holder.own.erase(spot.name);
   holder.reset.erase(spot.name);
   if (!isBeneath) return;
@@ -304,21 +310,28 @@ bool PretendFiles::folderExists(std::string_view path) {
   return spot.asksBeneath() && beneath_.folderExists(path);
 }
 
-// The folder that holds the entry is there.
-bool PretendFiles::holderExists(std::string_view path) {
-  path = withoutEnd(path);
-  const std::size_t behind = behindFolder(path);
-  return behind == 0 || folderExists(path.substr(0, behind));
+// Fails where nothing can be made at the path, which leads nowhere so far.
+void PretendFiles::checkMakeable(std::string_view path, const Spot& spot, Removal kind) {
+  if (!spot.folderThere) throwMissing(spot);
+  const std::string_view holder = path.substr(0, behindFolder(withoutEnd(path)));
+  if (!holder.empty() && !folderExists(holder)) throw RuntimeError(ErrorNumber::PathNotFound);
+  if (!spot.asksBeneath()) return;
+  try {
+    beneath_.removable(path, kind);
+  } catch (const RuntimeError& failure) {
+    const bool onlyHere = failure.number() == ErrorNumber::PathNotFound && !beneath_.folderExists(holder);
+    if (failure.number() != ErrorNumber::FileNotFound && !onlyHere) throw;  // no name or place for a file
+  }
 }
 
 void PretendFiles::createFolder(std::string_view path) {
+  path = withoutEnd(path);
   const Spot spot = locate(path);
   const bool there =
       spot.own != nullptr || (spot.asksBeneath() && beneath_.attributes(path) != attribute::Invalid);
   if (there) throw RuntimeError(ErrorNumber::PathFileAccess);
-  if (!holderExists(path)) throw RuntimeError(ErrorNumber::PathNotFound);
-  const std::string_view folder = withoutEnd(path);
-  changed(spot).own[spot.name].name = folder.substr(behindFolder(folder));
+  checkMakeable(path, spot, Removal::EmptyFolder);
+  changed(spot).own[spot.name].name = path.substr(behindFolder(path));
   entered_.clear();
 }
 

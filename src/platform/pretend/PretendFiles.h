@@ -82,7 +82,7 @@ class PretendFiles : public Files {
   Folder& changed(const Spot& spot);
   Own& writable(std::string_view path, const Spot& spot);
   [[noreturn]] static void throwMissing(const Spot& spot);
-  bool holderExists(std::string_view path);
+  void checkMakeable(std::string_view path, const Spot& spot, Removal kind);
   void takeOut(const Spot& spot, bool folder, std::int64_t length);
   void removeTree(const std::string& path, std::unique_ptr<RuntimeError>& failure);
   void tellGone(const std::string& path, const Folder* some, const Tell& tell);

@@ -1,7 +1,6 @@
 #include "platform/pretend/PretendRegistry.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 #include "base/Text.h"
@@ -11,20 +10,6 @@ namespace {
 
 constexpr std::size_t LongestKeyName = 255;
 constexpr std::uint32_t LongestValueName = 16384;  // with its NUL
-
-struct HiveName {
-  Hive hive;
-  std::string_view name;
-};
-constexpr std::array<HiveName, 7> hiveNames{{
-    {Hive::ClassesRoot, "HKEY_CLASSES_ROOT"},
-    {Hive::CurrentConfig, "HKEY_CURRENT_CONFIG"},
-    {Hive::CurrentUser, "HKEY_CURRENT_USER"},
-    {Hive::DynData, "HKEY_DYN_DATA"},
-    {Hive::LocalMachine, "HKEY_LOCAL_MACHINE"},
-    {Hive::PerformanceData, "HKEY_PERFORMANCE_DATA"},
-    {Hive::Users, "HKEY_USERS"},
-}};
 
 RegistryStatus copyName(std::string_view text, char* name, std::uint32_t& length) {
   if (text.size() + 1 > length) return status::MoreData;
@@ -95,7 +80,7 @@ class PretendRegistry::BeneathKey {
 
 PretendRegistry::PretendRegistry(Registry& beneath, const CodePage& codePage, bool deletesTrees)
     : beneath_(beneath), codePage_(codePage), deletesTrees_(deletesTrees) {
-  for (const HiveName& row : hiveNames) {
+  for (const HiveName& row : HiveNames) {
     auto& node = hives_.emplace_back(std::make_unique<Node>());
     node->hive = beneath.hive(row.hive);
     node->name = row.name;
