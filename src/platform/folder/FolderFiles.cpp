@@ -19,34 +19,11 @@ HostError removeForced(HostDir& folder, const std::string& name) {
   return folder.removeFile(name);
 }
 
-<<<<<<< HEAD
-// The 8.3 name of the entry that a path calls `part` and the host, if it knows it as told, `hostName`.
-std::string shortNameIn(HostList& listing, const std::string& hostName, const std::string& part) {
-  std::vector<std::string> names;
-  std::size_t place = std::string::npos;
-  HostEntry entry;
-  while (listing.next(entry)) {
-    if (entry.name == hostName) place = names.size();
-    names.push_back(toldNameFromUtf8(entry.name));
-  }
-  check(listing.failure());
-  const std::vector<std::string> shorts = shortNames(names);
-  for (std::size_t i = 0; i < names.size() && place == std::string::npos; ++i) {
-    if (equalFolded(names[i], part) || equalFolded(shorts[i], part)) place = i;
-  }
-  if (place == std::string::npos) throw RuntimeError(ErrorNumber::FileNotFound);
-  return shorts[place];
-}
-
 bool isFolder(const HostStat& stat) {
   return stat.kind == HostKind::Folder;
 }
 bool isFolderOrLink(const HostStat& stat) {
   return isFolder(stat) || stat.toFolder;
-=======
-bool isFolder(const FolderDisk::Place& place) {
-  return place.exists && place.stat.kind == HostKind::Folder;
->>>>>>> main
 }
 
 }  // namespace
