@@ -107,6 +107,21 @@ check "a text was changed, or a file stays beside it" diff "$work/texts" <(cd "$
 check "a full disk ends with $?" [ $? -eq 2 ]
 tells "zub: the output could not be written"
 
+# A folder of the shell whose text lacks its NUL loses its last letter: that is told, and only the other folder is washed.
+run 0 --pc "$pc" set chkDocHistory=1
+mkdir -p "$pc/C/Recent" "$pc/C/Recen"
+touch "$pc/C/Recent/kept.lnk" "$pc/C/Recen/old.lnk"
+cat >>"$pc/registry.reg" <<'END'
+[HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Explorer\Shell Folders]
+"Recent"=hex(1):43,3a,5c,52,65,63,65,6e,74
+"AppData"="C:\\Data"
+END
+run 0 --pc "$pc" wash
+tells 'zub: the shell'"'"'s folder "Recent" is stored without its end: a wash looks for C:\Recen'
+check "another folder is told" [ "$(grep -c "the shell" "$work/err")" -eq 1 ]
+here "$pc/C/Recent/kept.lnk"
+gone "$pc/C/Recen/old.lnk"
+
 # Settings whose key the user may not change.
 echo 'no rights = HKEY_CURRENT_USER\Software' >>"$pc/pc.txt"
 for words in "set chkBleach=1" wash; do
