@@ -107,6 +107,14 @@ check "a text was changed, or a file stays beside it" diff "$work/texts" <(cd "$
 check "a full disk ends with $?" [ $? -eq 2 ]
 tells "zub: the output could not be written"
 
+# A tree that is deeper than the files that may be open at once.
+deep=$(printf 'd/%.0s' {1..400})
+mkdir -p "$pc/C/WINDOWS/TEMP/$deep"
+touch "$pc/C/WINDOWS/TEMP/d/d/high.tmp" "$pc/C/WINDOWS/TEMP/$deep/low.tmp"
+(ulimit -n 60; "${program[@]}" --pc "$pc" wash >"$work/out" 2>"$work/err"; echo $? >"$work/status")
+check "the wash of a deep tree ends with $(cat "$work/status")" [ "$(cat "$work/status")" -eq 0 ]
+gone "$pc/C/WINDOWS/TEMP/d"
+
 # A folder of the shell whose text lacks its NUL loses its last letter: that is told, and only the other folder is washed.
 run 0 --pc "$pc" set chkDocHistory=1
 mkdir -p "$pc/C/Recent" "$pc/C/Recen"
