@@ -2,6 +2,7 @@
 #include "ui/win32/CommonControls.h"
 #include "ui/win32/FormPage.h"
 #include "ui/win32/FormWindow.h"
+#include "ui/win32/PixelCanvas.h"
 
 namespace zub {
 namespace {
@@ -10,8 +11,10 @@ constexpr const char* FormClass = "ZubraneForm";
 
 DWORD styleOf(layout::Border border) {
   switch (border) {
-    case layout::Border::Fixed:
+    case layout::Border::Minimise:
       return WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_OVERLAPPED | WS_CLIPCHILDREN;
+    case layout::Border::Fixed:
+      return WS_CAPTION | WS_SYSMENU | WS_OVERLAPPED | WS_CLIPCHILDREN;
     case layout::Border::Dialog:
       return WS_CAPTION | WS_SYSMENU | WS_POPUP | WS_CLIPCHILDREN;
     case layout::Border::None:
@@ -86,7 +89,7 @@ void FormWindow::makeView(const layout::ControlSpec& spec) {
                       binding,
                       windowOf(spec.parent),
                       ui_.fonts.pixels(spec.place),
-                      plainColor(layout::groundOf(*binding_.window, spec)),
+                      groundUnder(spec),
                       [this](int page) { showPage(page); }};
   std::unique_ptr<View> view = makeKitView(site);
   if (!view) view = makeNativeView(site);
@@ -99,7 +102,29 @@ void FormWindow::makeView(const layout::ControlSpec& spec) {
   const LONG style = GetWindowLongA(view->hwnd(), GWL_STYLE);
   if (!continues) SetWindowLongA(view->hwnd(), GWL_STYLE, style | LONG{WS_GROUP});
   if (!spec.toolTip.empty()) addToolTip(view->hwnd(), spec.toolTip);
+  // The text box inside a combo box gets the pointer's messages itself.
+  if (spec.kind == layout::Kind::EditCombo && !spec.toolTip.empty())
+    addToolTip(GetWindow(view->hwnd(), GW_CHILD), spec.toolTip);
   views_.push_back(std::move(view));
+}
+
+// On a backdrop, the colour that it has at the control's corner: what is transparent lies on plain parts of it.
+COLORREF FormWindow::groundUnder(const layout::ControlSpec& spec) const {
+  const std::string_view backdrop = binding_.window->backdrop;
+  if (backdrop.empty()) return plainColor(layout::groundOf(*binding_.window, spec));
+  const std::uint32_t pixel = ui_.art[backdrop].pixel(spec.place.left / layout::TwipsPerPixel,
+                                                      spec.place.top / layout::TwipsPerPixel);
+  return rgb(pixel >> 16U & 0xFFU, pixel >> 8U & 0xFFU, pixel & 0xFFU);
+}
+
+void FormWindow::paintBackdrop(HDC dc) const {
+  const controls::Bitmap& picture = ui_.art[binding_.window->backdrop];
+  PixelCanvas canvas(picture.width(), picture.height());
+  canvas.surface().draw(picture, {0, 0});
+  RECT all;
+  GetClientRect(hwnd(), &all);
+  StretchBlt(dc, 0, 0, static_cast<int>(all.right), static_cast<int>(all.bottom), canvas.dc(), 0, 0,
+             canvas.width(), canvas.height(), SRCCOPY);
 }
 
 void FormWindow::addToolTip(HWND control, std::string_view text) {
@@ -113,11 +138,10 @@ void FormWindow::addToolTip(HWND control, std::string_view text) {
   SendMessageA(toolTips_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-// In the middle of the screen's free part, or of the owner.
+// In the middle of the screen, or of the owner.
 void FormWindow::place() {
-  RECT middle{};
-  if (owner_ == nullptr || IsWindowVisible(owner_) == 0 || GetWindowRect(owner_, &middle) == 0)
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &middle, 0);
+  RECT middle{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+  if (owner_ != nullptr && IsWindowVisible(owner_) != 0) GetWindowRect(owner_, &middle);
   RECT size;
   GetWindowRect(hwnd(), &size);
   const LONG left = (middle.left + middle.right - (size.right - size.left)) / 2;

@@ -21,6 +21,7 @@ class KitHost : public OwnWindow, public View {
     LRESULT dialogCode = DLGC_STATIC;
     bool takesFocus = false;
     bool takesSpace = false;  // the bar is a click
+    bool takesKeys = false;   // all but Tab, and what is held down with Alt
     bool stretched = false;   // painted for 96 pixels an inch, whatever the screen has
   };
   KitHost(const ViewSite& site, Parts parts);

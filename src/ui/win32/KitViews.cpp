@@ -82,8 +82,8 @@ KitHost::Parts iconList(const ViewSite& site) {
         list.Check(row, static_cast<std::int16_t>(state.checks->Check(row)));
     }
   };
-  parts.dialogCode = DLGC_WANTARROWS;
   parts.takesFocus = true;
+  parts.takesKeys = true;
   parts.stretched = true;
   return parts;
 }
