@@ -38,6 +38,13 @@ class Zub {
   // From the menu of the icon, by the access key of the entry.
   void trayEntry(char letter) const;
 
+  // What the process holds of the system: pens, brushes, fonts, bitmaps, device contexts; windows, hidden ones
+  // included.
+  struct Handles {
+    int graphics, windows;
+  };
+  Handles handles() const;
+
   // Waits for the end of the process.
   bool ends(int seconds = Patience) const;
   bool runs() const { return !ends(0); }

@@ -7,9 +7,11 @@
 namespace zub {
 namespace {
 
-// The scheduler tab by itself.
+// The scheduler tab by itself, for a change. Windows guards its tasks itself.
 struct Entries {
-  explicit Entries(const Platform& platform) : user(platform, options), dated(platform, user) {
+  explicit Entries(const CommandContext& context)
+      : user(context.pc.platform(), options), dated(context.pc.platform(), user) {
+    if (!context.pc.folder().empty()) context.needAlone();
     dated.InitSchedulerTab();
   }
   Options options;
@@ -18,7 +20,8 @@ struct Entries {
 };
 
 // The tab keeps silent where the task scheduler fails: its list then stays as it was.
-void needCount(int count, const DatedEntries& dated) {
+void needCount(int count, const CommandContext& context, const DatedEntries& dated) {
+  context.pc.save();
   if (dated.lstSchedule.ListCount() == count) return;
   throw RuntimeError(ErrorNumber::Automation, "the task scheduler refuses the change");
 }
@@ -27,16 +30,22 @@ void needCount(int count, const DatedEntries& dated) {
 
 int scheduleCommand(CommandContext& context) {
   if (!context.arguments.empty()) throw UsageError("schedule takes \"add\", \"remove\" or nothing");
-  Entries entries(context.pc.platform());
-  const ListRows& rows = entries.dated.lstSchedule;
-  for (int row = 0; row < rows.ListCount(); ++row)
-    context.print(std::to_string(row + 1) + " " + rows.List(row));
+  ScheduleTasks& tasks = context.pc.platform().tasks;
+  tasks.refresh();
+  for (int position = 1; position <= tasks.count(); ++position) {
+    ScheduleTask& task = tasks.at(position);
+    if (task.name() != DatedEntries::TaskName) continue;
+    for (int row = 1; row <= task.triggers().count(); ++row) {
+      context.print(std::to_string(row) + " " + task.triggers().at(row)->text());
+    }
+    break;
+  }
   return exitStatus::Done;
 }
 
 int scheduleAddCommand(CommandContext& context) {
   if (context.arguments.size() < 2) throw UsageError("schedule add takes a date and a time");
-  Entries entries(context.pc.platform());
+  Entries entries(context);
   const int before = entries.dated.lstSchedule.ListCount();
   entries.dated.txtDate.Text = context.arguments[0];
   entries.dated.txtTime.Text = context.arguments[1];
@@ -46,13 +55,13 @@ int scheduleAddCommand(CommandContext& context) {
   }
   entries.dated.cmdAdd_Click();
   if (entries.dated.focus != nullptr) return exitStatus::Unusable;  // a field cannot be read, which is told
-  needCount(before + 1, entries.dated);
+  needCount(before + 1, context, entries.dated);
   return exitStatus::Done;
 }
 
 int scheduleRemoveCommand(CommandContext& context) {
   if (context.arguments.size() != 1) throw UsageError("schedule remove takes a number of the list");
-  Entries entries(context.pc.platform());
+  Entries entries(context);
   const int number = rowNumber(context.arguments[0]);
   const int before = entries.dated.lstSchedule.ListCount();
   if (number < 1 || number > before) {
@@ -60,7 +69,7 @@ int scheduleRemoveCommand(CommandContext& context) {
   }
   entries.dated.lstSchedule.ListIndex(number - 1);
   entries.dated.cmdRemoveScheduled_Click();
-  needCount(before - 1, entries.dated);
+  needCount(before - 1, context, entries.dated);
   return exitStatus::Done;
 }
 

@@ -2,7 +2,6 @@
 #include "ui/win32/CommonControls.h"
 #include "ui/win32/FormPage.h"
 #include "ui/win32/FormWindow.h"
-#include "ui/win32/PixelCanvas.h"
 
 namespace zub {
 namespace {
@@ -119,12 +118,11 @@ COLORREF FormWindow::groundUnder(const layout::ControlSpec& spec) const {
 
 void FormWindow::paintBackdrop(HDC dc) const {
   const controls::Bitmap& picture = ui_.art[binding_.window->backdrop];
-  PixelCanvas canvas(picture.width(), picture.height());
-  canvas.surface().draw(picture, {0, 0});
+  ui_.canvas.surface(picture.width(), picture.height()).draw(picture, {0, 0});
   RECT all;
   GetClientRect(hwnd(), &all);
-  StretchBlt(dc, 0, 0, static_cast<int>(all.right), static_cast<int>(all.bottom), canvas.dc(), 0, 0,
-             canvas.width(), canvas.height(), SRCCOPY);
+  StretchBlt(dc, 0, 0, static_cast<int>(all.right), static_cast<int>(all.bottom), ui_.canvas.dc(), 0, 0,
+             picture.width(), picture.height(), SRCCOPY);
 }
 
 void FormWindow::addToolTip(HWND control, std::string_view text) {
