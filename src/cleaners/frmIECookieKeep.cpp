@@ -13,7 +13,7 @@
 namespace zub {
 
 frmIECookieKeep::frmIECookieKeep(Engine& engine)
-    : engine_(engine), flList_(engine.pc, "*.txt", FileLister::Hidden::Skip) {
+    : flList(engine.pc, "*.txt", FileLister::Hidden::Skip), engine_(engine) {
   lstDelete.Click = [this] { lstDelete_Click(); };
   chkSelectAll.Click = [this] { chkSelectAll_Click(); };
 }
@@ -41,9 +41,9 @@ void frmIECookieKeep::listCookies() {
   g_strPath = shellFolder(engine_, "Cookies") + "\\";
   lstDelete.Clear();
   lstFiles.Clear();
-  flList_.path(g_strPath);
+  flList.path(g_strPath);
   IECookieIndex index(engine_.pc.files, g_strPath + "index.dat");
-  UnclaimedFiles lstTemp(engine_.pc.codePage, flList_.names());
+  UnclaimedFiles lstTemp(engine_.pc.codePage, flList.names());
   IECookie cookie;
   while (index.next(cookie)) {
     if (lstTemp.claim(trim(cookie.file))) addRow(cookie.site, cookie.file);

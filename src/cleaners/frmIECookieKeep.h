@@ -22,6 +22,7 @@ class frmIECookieKeep {
   std::string g_strPath;  // the Cookies folder and a backslash
   ListRows lstDelete;  // a row per cookie: its site, or its file where the index names none; ticked is kept
   ListRows lstFiles;   // the cookie's file, row by row beside lstDelete
+  FileLister flList;   // the folder's "*.txt"
   TextBox txtKeep;     // the file of the row that was clicked
   CheckOption chkSelectAll;
 
@@ -49,7 +50,6 @@ class frmIECookieKeep {
   std::string keepFile() const;
 
   Engine& engine_;
-  FileLister flList_;
   bool loaded_ = false;
 };
 
