@@ -57,18 +57,18 @@ TEST_CASE("the about box stays modal while a wash runs and ends under it") {
     const Zub zub;
     const Window main = zub.main();
     main.child("About").click();
-    const Window ok = zub.window(title::About).child("&OK");
+    const Window about = zub.window(title::About);
     zub.trayEntry('R');
     zub.window(title::Progress).child("&Finish");
     if (closedFirst) {
-      ok.click();
+      PostMessageA(about.handle(), WM_CLOSE, 0, 0);  // it lies under the progress window
       CHECK(zub.hides(title::About));
       CHECK_FALSE(main.isEnabled());
     }
     finish(zub);
     CHECK(soon([&] { return main.isVisible(); }));
     CHECK(main.isEnabled() == closedFirst);
-    if (!closedFirst) ok.click();
+    if (!closedFirst) about.child("&OK").click();
     CHECK(soon([&] { return main.isEnabled(); }));
   }
 }

@@ -22,6 +22,7 @@ void FormWindow::showForm(bool covered) {
   enable(form, covered);
   showControls();
   appear(form);
+  showPointer(form);
   takeFocus();
 }
 
@@ -91,6 +92,16 @@ bool FormWindow::takesKey(const MSG& key) {
 }
 
 // A list that hangs open keeps the key.
+// At once, not when the mouse next moves.
+void FormWindow::showPointer(const Form& form) {
+  if (!changes(pointer_, form.mousePointer)) return;
+  POINT at;
+  GetCursorPos(&at);
+  const HWND under = WindowFromPoint(at);
+  if (under == hwnd() || IsChild(hwnd(), under) != 0)
+    SendMessageA(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+}
+
 bool FormWindow::takesEscape(HWND control) {
   const auto hangsOpen = [](HWND window) { return SendMessageA(window, CB_GETDROPPEDSTATE, 0, 0) == TRUE; };
   if (!binding_.escape || hangsOpen(control) || hangsOpen(GetParent(control))) return false;
@@ -140,8 +151,12 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SIZE:
       if (visible_) stateChanged(wParam);
       break;
+    case WM_LBUTTONDOWN:
+      grabbed_ = true;
+      return 0;
     case WM_MOUSEMOVE:
-      if (controls::dragsWindow(buttonsDown(wParam))) drag();
+      grabbed_ = grabbed_ && controls::dragsWindow(buttonsDown(wParam));
+      if (grabbed_) drag();
       return 0;
     case WM_SETCURSOR: {
       const Form* form = binding_.form();

@@ -56,6 +56,7 @@ class FormWindow : public OwnWindow {
   bool takesEscape(HWND control);
   bool turnPage(int direction);
 
+  void showPointer(const Form& form);
   void stateChanged(WPARAM how);
   void queryEnd();
   void drag();
@@ -73,6 +74,8 @@ class FormWindow : public OwnWindow {
   bool enabled_ = true;
   unsigned broughtUp_ = 0;
   bool placed_ = false;
+  bool grabbed_ = false;  // a button went down on the window's own ground
+  MousePointer pointer_ = MousePointer::Default;
 };
 
 }  // namespace zub
