@@ -9,12 +9,13 @@ namespace {
 constexpr int SingleRun = 0;
 constexpr int SaveNow = 0;
 
-// A failure of the facility ends the operation.
+// A failure of the facility ends the operation; whoever started it is to hear of it.
 template <class Operation>
-void guarded(Operation operation) {
+void withTheFacility(Operation operation) {
   try {
     operation();
-  } catch (const RuntimeError&) {
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.number(), "The task scheduler refuses: " + error.description());
   }
 }
 
@@ -46,13 +47,15 @@ ScheduleTask& DatedEntries::OpenScheduledTask() {
 }
 
 void DatedEntries::InitSchedulerTab() {
-  guarded([&] {
+  try {
     OpenScheduledTask();
     const SystemTime now = pc_.clock.local();
     txtTime.Text = pc_.clock.timeText(now);
     txtDate.Text = pc_.clock.dateText(plusDays(now, 1));
     FillScheduleList();
-  });
+  } catch (const RuntimeError&) {
+    // Nobody has asked yet for what the facility refuses.
+  }
 }
 
 void DatedEntries::FillScheduleList() {
@@ -78,7 +81,7 @@ void DatedEntries::cmdAdd_Click() {
   if (!date) return;
   const auto time = ParseDateField(txtTime, "Wrong time format");
   if (!time) return;
-  guarded([&] {
+  withTheFacility([&] {
     OpenScheduledTask();
     ScheduleTask& task = pc_.tasks.at(position_);
     const auto trigger = task.triggers().add();
@@ -91,7 +94,7 @@ void DatedEntries::cmdAdd_Click() {
 }
 
 void DatedEntries::cmdRemoveScheduled_Click() {
-  guarded([&] {
+  withTheFacility([&] {
     OpenScheduledTask();
     ScheduleTask& task = pc_.tasks.at(position_);
     if (const int row = lstSchedule.ListIndex(); row != -1) {
@@ -104,7 +107,7 @@ void DatedEntries::cmdRemoveScheduled_Click() {
 }
 
 void DatedEntries::cmdAdvancedScheduler_Click() {
-  guarded([&] { OpenScheduledTask().showProperties(); });
+  withTheFacility([&] { OpenScheduledTask().showProperties(); });
 }
 
 }  // namespace zub

@@ -2,7 +2,7 @@
 // task scheduler, which starts the program with /SCHEDULER at its time. Nothing of them is kept by the
 // program; the list only mirrors the triggers, row i being trigger i + 1.
 //
-// Where the facility fails, the current operation ends there, and nothing is told.
+// Where the facility fails, the current operation ends there: the buttons throw RuntimeError, the start is silent.
 #pragma once
 
 #include <optional>

@@ -21,8 +21,8 @@ refused "ZUB Scheduler: Wrong date format" --pc "$pc" schedule add soon "6:00 PM
 refused "ZUB Scheduler: Wrong time format" --pc "$pc" schedule add 12/24/2030 25:00
 refused "there is no dated wash 4" --pc "$pc" schedule remove 4
 mkdir "$pc/tasks.txt.new"  # nothing can be saved
-refused "the task scheduler refuses the change" --pc "$pc" schedule add 1/1/2031 1:00
-refused "the task scheduler refuses the change" --pc "$pc" schedule remove 1
+refused "The task scheduler refuses" --pc "$pc" schedule add 1/1/2031 1:00
+refused "The task scheduler refuses" --pc "$pc" schedule remove 1
 rmdir "$pc/tasks.txt.new"
 check "a refused command changed the tasks" cmp "$pc/tasks.txt" "$work/tasks"
 
