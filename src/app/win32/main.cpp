@@ -51,13 +51,15 @@ using namespace zub;
 }  // namespace
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
-  INITCOMMONCONTROLSEX controls{sizeof controls,
-                                ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
-  InitCommonControlsEx(&controls);
+  // One by one: a library that does not know a kind of classes refuses all that are asked for with it.
+  for (const DWORD classes : {ICC_WIN95_CLASSES, ICC_STANDARD_CLASSES}) {
+    const INITCOMMONCONTROLSEX controls{sizeof controls, classes};
+    InitCommonControlsEx(&controls);
+  }
   try {
     runProgram(instance);
-  } catch (const std::exception& failure) {
-    MessageBoxA(nullptr, failure.what(), "Zubrane", MB_OK | MB_ICONSTOP);
+  } catch (...) {
+    MessageBoxA(nullptr, textOfFailure(), "Zubrane", MB_OK | MB_ICONSTOP);
     return 1;
   }
 }

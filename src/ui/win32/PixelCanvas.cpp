@@ -26,6 +26,7 @@ PixelCanvas::~PixelCanvas() {
 
 controls::Surface PixelCanvas::surface() {
   GdiFlush();
+  if (bitmap_ == nullptr) return {nullptr, 0, 0};
   return {static_cast<std::uint32_t*>(pixels_), width_, height_};
 }
 

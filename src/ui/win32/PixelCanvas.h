@@ -1,4 +1,5 @@
-// Pixels in memory that both the kit and GDI can paint on.
+// Pixels in memory that both the kit and GDI can paint on. Where the system has no room for them the surface is
+// empty, and nothing is painted.
 #pragma once
 
 #include "platform/win32/WindowsHeader.h"
