@@ -76,5 +76,33 @@ cookies takes "keep" or "drop" and the numbers of the list|--pc "$pc" cookies ie
 schedule add takes a date and a time|--pc "$pc" schedule add 12/24/2030
 there is no dated wash 1x|--pc "$pc" schedule remove 1x
 END
-check "a refused command changed the PC" diff "$work/before" <(portrait "$pc")
 gone "$work/nowhere"
+
+# While another program is at work, every command that changes the PC is to be tried again later; others work.
+exec 9<"$pc"
+flock 9
+for words in wash "start /STARTUP" "set chkBleach=1" "schedule add 1/1/2031 1:00" "schedule remove 1" "cookies ie keep 1"; do
+  # shellcheck disable=SC2086
+  refused "another Zubrane is at work on this PC: try again" --pc "$pc" $words 9<&-
+done
+for words in options plugins schedule "plugin show Windows\\ Paint"; do
+  eval "run 0 --pc '$pc' $words 9<&-"
+done
+exec 9<&-
+check "a refused command changed the PC" diff "$work/before" <(portrait "$pc")
+
+# What cannot be written is told, and the report of a wash all the same.
+echo old >"$pc/C/WINDOWS/TEMP/old.tmp"
+(cd "$pc" && cksum ./*.*) >"$work/texts"
+for words in wash "set chkBleach=1" "schedule add 1/1/2031 1:00"; do
+  # shellcheck disable=SC2086
+  (ulimit -f 0; "${program[@]}" --pc "$pc" $words 2>&1; echo "ends with $?") </dev/null | cat >"$work/out"
+  check "no failure is told: $words" grep -Eq '^zub: (registry.reg|tasks.txt): cannot be saved: Disk full' "$work/out"
+  says "ends with 2"
+  [ "$words" != wash ] || says "	Deleting file old.tmp"
+done
+gone "$pc/C/WINDOWS/TEMP/old.tmp"
+check "a text was changed, or a file stays beside it" diff "$work/texts" <(cd "$pc" && cksum ./*.*)
+"${program[@]}" --pc "$pc" options >/dev/full 2>"$work/err"
+check "a full disk ends with $?" [ $? -eq 2 ]
+tells "zub: the output could not be written"

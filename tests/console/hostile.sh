@@ -66,10 +66,6 @@ for name in registry.reg pc.txt tasks.txt; do
   refused "zub: $name: cannot be read" --pc "$pc" set chkBleach=0
   untouched "$name is a link"
 done
-newPc
-ln -s "$outside/registry.reg" "$pc/registry.reg.new"
-run 0 --pc "$pc" set chkBleach=0
-untouched "the text that is being saved is a link"
 
 # Paths that lead out, wherever a path can stand. $1 in each is a folder or file outside, with backslashes.
 up='..\..\..\..\..\..'

@@ -11,6 +11,7 @@ scheduled() {
 
 run 0 --pc "$pc" schedule
 silent out
+gone "$pc/tasks.txt"
 run 0 --pc "$pc" schedule add 12/24/2030 "6:00 PM"
 run 0 --pc "$pc" schedule add 2/29/2032 2:20 AM
 run 0 --pc "$pc" schedule add 1/1/2031 0:05
@@ -20,10 +21,6 @@ cp "$pc/tasks.txt" "$work/tasks"
 refused "ZUB Scheduler: Wrong date format" --pc "$pc" schedule add soon "6:00 PM"
 refused "ZUB Scheduler: Wrong time format" --pc "$pc" schedule add 12/24/2030 25:00
 refused "there is no dated wash 4" --pc "$pc" schedule remove 4
-mkdir "$pc/tasks.txt.new"  # nothing can be saved
-refused "The task scheduler refuses" --pc "$pc" schedule add 1/1/2031 1:00
-refused "The task scheduler refuses" --pc "$pc" schedule remove 1
-rmdir "$pc/tasks.txt.new"
 check "a refused command changed the tasks" cmp "$pc/tasks.txt" "$work/tasks"
 
 run 0 --pc "$pc" schedule remove 2

@@ -80,10 +80,16 @@ until_true waited $(($(waits) + 3))
 echo "damaged" >>"$pc/tasks.txt"
 until_true told "tasks.txt: line"
 here "$temp/old.tmp"
+exec 9<"$pc"  # somebody else is at work when it is due
+flock 9
+until_true told "another Zubrane is at work on this PC"
+until_true waited $(($(waits) + 3))
+here "$temp/old.tmp"
+exec 9<&-
 until_true reported
 gone "$temp/old.tmp"
 until_true waited $(($(waits) + 2))
 stop INT
-check "the progress of one wash is not told" [ "$(sed 1d "$work/told")" = "Temporary Folder" ]
+check "the wait and the progress of one wash are not told" [ "$(sed 1d "$work/told" | cut -c1-20)" = $'zub: another Zubrane\nTemporary Folder' ]
 check "one wash is not reported" [ "$(grep -c '^Zubrone' "$work/said")" -eq 1 ]
 check "the damaged tasks were written over" [ "$(tail -n 1 "$pc/tasks.txt")" = damaged ]

@@ -36,6 +36,13 @@ class Zub {
   Window trayWindow() const;
   void trayMessage(UINT mouseMessage) const;
 
+  // What the process holds of the system: pens, brushes, fonts, bitmaps, device contexts; windows, hidden ones
+  // included.
+  struct Handles {
+    int graphics, windows;
+  };
+  Handles handles() const;
+
   // Waits for the end of the process.
   bool ends(int seconds = Patience) const;
   bool runs() const { return !ends(0); }

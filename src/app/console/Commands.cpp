@@ -35,7 +35,7 @@ std::span<const Command> commands() {
 }
 
 void CommandContext::needAlone() const {
-  if (pc.platform().process.otherInstanceRuns()) throw UsageError("another Zubrane is at work on this PC");
+  if (pc.platform().process.otherInstanceRuns()) throw BusyError();
 }
 
 void CommandContext::needNoArguments(std::string_view command) const {

@@ -23,12 +23,19 @@ class UsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// Another program works on the PC: the same command may go later.
+class BusyError : public std::runtime_error {
+ public:
+  BusyError() : std::runtime_error("another Zubrane is at work on this PC: try again when it has ended") {}
+};
+
 struct CommandContext {
   ConsolePc& pc;
   ConsoleLoop& loop;
   std::vector<std::string> arguments;  // behind the command's words, in the PC's code page
 
-  // For commands that change the PC: another program at work on it would undo it.
+  // For commands that change the PC, before they look at it: BusyError where another program is at work on
+  // it. Keeps others out until the PC is closed.
   void needAlone() const;
   void needNoArguments(std::string_view command) const;
   void print(std::string_view text) const;  // to standard output, with a line end

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <deque>
 
 #include "app/console/Commands.h"
 #include "app/console/Store.h"
@@ -33,7 +34,9 @@ class Scheduler {
         root_(openHostDir(context.pc.folder())),
         due_(clock_.local()),
         automatic_(clock_, options_) {
-    automatic_.startWash = [this] { start("", washCommand); };
+    automatic_.startWash = [this] {
+      if (waiting_.empty()) waiting_.push_back({"", washCommand});
+    };
   }
 
   void step() {
@@ -43,11 +46,18 @@ class Scheduler {
       guarded(optionsFailure_, [this] { readOptions(); });
     }
     guarded(tasksFailure_, [this] { readTasks(); });
-    for (int due = due_.look(times_, now); due > 0; --due) start(parameters_, startCommand);
+    for (int due = due_.look(times_, now); due > 0; --due) waiting_.push_back({parameters_, startCommand});
     automatic_.Timer_Tick();
+    while (!waiting_.empty() && start(waiting_.front())) waiting_.pop_front();
   }
 
  private:
+  // The program is to be started with this command line.
+  struct Start {
+    std::string commandLine;
+    int (*command)(CommandContext&);
+  };
+
   // A text that somebody is just changing, or has damaged, is told once; what was read before stays in force.
   // `told` is the failure of the last time.
   template <class Work>
@@ -91,15 +101,24 @@ class Scheduler {
     automatic_.chkRunAuto_Click();
   }
 
-  // Starts the program anew. Each start that fails is told.
-  void start(const std::string& commandLine, int (*command)(CommandContext&)) {
+  // Starts the program anew; false where another program is at work on the PC, so that it has to wait. Each
+  // start that fails is told, and each wait once.
+  bool start(const Start& what) {
+    bool done = true;
     std::string told;
     guarded(told, [&] {
-      const auto pc = openPc(commandLine);
+      const auto pc = openPc(what.commandLine);
       CommandContext started{*pc, context_.loop, {}};
-      command(started);
+      try {
+        what.command(started);
+      } catch (const BusyError& busy) {
+        if (!waits_) std::fprintf(stderr, "zub: %s\n", busy.what());
+        done = false;
+      }
       std::fflush(stdout);
     });
+    waits_ = !done;
+    return done;
   }
 
   CommandContext& context_;
@@ -109,7 +128,9 @@ class Scheduler {
   Options options_;
   AutomaticInterval automatic_;
   std::vector<SystemTime> times_;
-  std::string parameters_;  // of the task that the times belong to
+  std::deque<Start> waiting_;  // for their turn
+  bool waits_ = false;         // told
+  std::string parameters_;     // of the task that the times belong to
   std::string tasksText_;
   std::string tasksFailure_;
   std::string optionsFailure_;

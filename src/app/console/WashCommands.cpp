@@ -1,4 +1,5 @@
 #include <functional>
+#include <optional>
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
@@ -14,12 +15,24 @@ std::string withoutCarriageReturns(std::string text) {
   return text;
 }
 
-// After each wash; what cannot be saved then is told when the program has ended.
-void saveIfPossible(ConsolePc& pc) {
+// What could not be saved. After a wash in the midst of the program it is tried again at the end.
+std::optional<PcError> saved(ConsolePc& pc) {
   try {
     pc.save();
-  } catch (const PcError&) {
+  } catch (const PcError& failure) {
+    return failure;
   }
+  return std::nullopt;
+}
+
+void printReport(const CommandContext& context, Program& program) {
+  if (program.engine.clean.txtResult.empty()) return;
+  context.print(withoutCarriageReturns(program.engine.clean.txtResult));
+  const frmAnimated::State& shown = program.engine.animated.peek().state;
+  context.print("");
+  context.print(shown.lblRemove.Caption);
+  context.print(shown.StatusBar1[1]);
+  context.print(program.options.lblLastRemoval.Caption);
 }
 
 // The loop serves the program for as long as this lives.
@@ -35,7 +48,7 @@ struct Attached {
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
   context.needAlone();
   Program program(context.pc.platform());
-  program.engine.clean.cleaners.ended = [&context] { saveIfPossible(context.pc); };
+  program.engine.clean.cleaners.ended = [&context] { saved(context.pc); };
   {
     const Attached attached(context.loop, program);
     try {
@@ -46,16 +59,9 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
     } catch (const EndOfProcess&) {
     }
   }
-  context.pc.save();
-
-  if (!program.engine.clean.txtResult.empty()) {
-    context.print(withoutCarriageReturns(program.engine.clean.txtResult));
-    const frmAnimated::State& shown = program.engine.animated.peek().state;
-    context.print("");
-    context.print(shown.lblRemove.Caption);
-    context.print(shown.StatusBar1[1]);
-    context.print(program.options.lblLastRemoval.Caption);
-  }
+  const std::optional<PcError> unsaved = saved(context.pc);
+  printReport(context, program);
+  if (unsaved) throw *unsaved;
   return program.engine.leftBehind > 0 ? exitStatus::LeftBehind : exitStatus::Done;
 }
 

@@ -1,12 +1,15 @@
 // zub, the console program: a wash without windows.
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "app/console/Commands.h"
 #include "base/RuntimeError.h"
 #include "platform/folder/FolderPc.h"
-#include "platform/folder/PcError.h"
 
 namespace {
 
@@ -91,17 +94,41 @@ int run(std::vector<std::string> arguments) {
   }
 }
 
+// A failure that nobody can catch is told in the program's own words too.
+[[noreturn]] void endAtOnce() {
+  std::fprintf(stderr, "%s: a failure in the midst of another one\n", programName);
+  std::_Exit(exitStatus::Unusable);
+}
+
+// What cannot be written is an error of the call, not the end of the process in the midst of a wash.
+void catchSignals() {
+#ifdef SIGXFSZ
+  std::signal(SIGXFSZ, SIG_IGN);
+#endif
+#ifdef SIGPIPE
+  std::signal(SIGPIPE, SIG_IGN);
+#endif
+}
+
+void finishOutput() {
+  if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    throw std::runtime_error("the output could not be written");
+  }
+}
+
 }  // namespace
 
 int main(int count, char** words) {
+  std::set_terminate(endAtOnce);
+  catchSignals();
   try {
-    return run(commandWords(count, words));
+    const int status = run(commandWords(count, words));
+    finishOutput();
+    return status;
   } catch (const UsageError& error) {
     std::fprintf(stderr, "%s: %s\nSee \"%s --help\".\n", programName, error.what(), programName);
-  } catch (const PcError& error) {
-    std::fprintf(stderr, "%s: %s\n", programName, error.what());
-  } catch (const RuntimeError& error) {
-    std::fprintf(stderr, "%s: %s\n", programName, error.what());
+  } catch (...) {
+    std::fprintf(stderr, "%s: %s\n", programName, textOfFailure());
   }
   return exitStatus::Unusable;
 }

@@ -168,10 +168,7 @@ void FolderFiles::replace(std::string_view path, std::string_view bytes) {
   const Place place = disk_.place(parts);
   checkWritable(parts, place);
   if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
-  std::string beside = place.name + ".new";
-  HostStat taken;
-  while (place.parent->stat(beside, taken) == HostError::None) beside += '_';  // somebody's own file
-  replaceHostText(*place.parent, place.name, bytes, beside);
+  check(replaceHostFile(*place.parent, place.name, bytes));
 }
 
 std::int64_t FolderFiles::openedLength(std::string_view path) {

@@ -24,8 +24,8 @@ class FolderFiles : public Files {
   void deleteFolder(std::string_view path) override;
   std::string shortPath(std::string_view path) override;
 
-  // Writes a file whole: at every moment it is the old one or the new one. RuntimeError as for opening it,
-  // PcError where the host fails; then it is the old one.
+  // Writes a file whole: at every moment it is the old one or the new one. RuntimeError as for opening it, or
+  // where the host fails; then it is the old one.
   void replace(std::string_view path, std::string_view bytes);
 
   // Forgets what is remembered of the disk. For those who change it in another way.

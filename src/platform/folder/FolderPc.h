@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/Platform.h"
@@ -33,8 +34,9 @@ class FolderPc {
   // All services; the event loop and the message box are the caller's, and outlive the platform.
   Platform platform(EventLoop& events, Messages& messages);
 
-  // Makes what has changed in registry and facts lasting. PcError where that fails: then the old text stands,
-  // and a later save tries again.
+  // Makes what has changed in registry and facts lasting. Each text is tried; PcError names all that could not
+  // be saved, a text of tasks that failed earlier too. Where it fails the old text stands, and a later save
+  // tries again.
   void save();
 
   // The content, past all services.
@@ -43,6 +45,21 @@ class FolderPc {
   HostDir& root() { return *root_; }
 
  private:
+  // As they stood when they were read, once and together.
+  struct Texts {
+    std::optional<std::string> registry;
+    std::optional<std::string> facts;
+    std::size_t mark() const;  // differs, as good as surely, when one of the texts does
+  };
+  struct Opened {
+    std::unique_ptr<HostDir> root;
+    Texts texts;
+  };
+  FolderPc(Opened opened, std::string commandLine, DamagedTasks damaged);
+  static Opened open(const std::string& folder);
+  static Texts readTexts(HostDir& root);
+  bool isOutdated();
+
   // Below the services that use them, so made before them.
   std::unique_ptr<HostDir> root_;
   std::size_t textsRead_;  // the mark of the texts as they were read

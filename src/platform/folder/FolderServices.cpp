@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "platform/FileReader.h"
 #include "platform/folder/CodePage1252.h"
+#include "platform/folder/HostFailure.h"
 #include "platform/folder/PcError.h"
 #include "platform/folder/ProfileText.h"
 
@@ -67,7 +68,6 @@ void FolderRestart::writeProfile(std::string_view section, std::string_view key,
     const std::string changed = withProfileKey(text, section, key, value);
     if (changed != text) files_.replace(path, changed);
   } catch (const RuntimeError&) {
-  } catch (const PcError&) {
   }
 }
 
@@ -112,7 +112,12 @@ void FolderShell::start(std::string_view) {
 }
 
 bool FolderProcess::otherInstanceRuns() {
-  if (!taken_) taken_ = root_.take() != HostError::InUse && !outdated_();
+  if (taken_) return false;
+  const HostError error = root_.take();
+  if (error != HostError::None && error != HostError::InUse) {
+    throw PcError("the PC", 0, "cannot be locked: " + std::string(descriptionOf(errorNumberOf(error))));
+  }
+  taken_ = error == HostError::None && !outdated_();
   return !taken_;
 }
 

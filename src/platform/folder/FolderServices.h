@@ -72,12 +72,13 @@ class FolderShell : public Shell {
 
 class FolderProcess : public Process {
  public:
-  // `outdated`: another program has changed the PC since this one read it.
+  // `outdated`: another program has changed the PC since this one read it; asked with the folder taken.
   FolderProcess(HostDir& root, std::string commandLine, std::function<bool()> outdated)
       : root_(root), commandLine_(std::move(commandLine)), outdated_(std::move(outdated)) {}
 
   std::string commandLine() override { return commandLine_; }
-  // Takes the PC's folder for this process where no other one has it or had it since the PC was read.
+  // Takes the PC's folder for this process where no other one has it or had it since the PC was read. PcError
+  // where the host fails.
   bool otherInstanceRuns() override;
   [[noreturn]] void end() override;
 

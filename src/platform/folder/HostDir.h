@@ -105,7 +105,7 @@ class HostDir {
   // The names in this folder have reached the disk. Does nothing where the host needs no such thing.
   virtual HostError sync() = 0;
   // Takes this folder for this process until the HostDir goes. InUse where another HostDir on the same
-  // folder, of this or another process, has taken it.
+  // folder, of this or another process, has taken it. A disk that knows no locks lets everybody.
   virtual HostError take() = 0;
 };
 

@@ -22,14 +22,14 @@ HostError errorOf(int number) {
     HostError error;
   };
   static constexpr Row Rows[] = {
-      {ENOENT, HostError::NotFound},     {ESTALE, HostError::NotFound},    {ENOTDIR, HostError::NotAFolder},
-      {ELOOP, HostError::NotAFile},      {EISDIR, HostError::NotAFile},    {ENXIO, HostError::NotAFile},
-      {EOPNOTSUPP, HostError::NotAFile}, {EEXIST, HostError::Exists},      {ENOTEMPTY, HostError::NotEmpty},
-      {EACCES, HostError::NoRights},     {EPERM, HostError::NoRights},     {EBUSY, HostError::InUse},
-      {ETXTBSY, HostError::InUse},       {EWOULDBLOCK, HostError::InUse},  {EROFS, HostError::ReadOnlyDisk},
-      {ENOSPC, HostError::DiskFull},     {EDQUOT, HostError::DiskFull},    {EFBIG, HostError::DiskFull},
-      {EMFILE, HostError::TooManyOpen},  {ENFILE, HostError::TooManyOpen}, {ENAMETOOLONG, HostError::BadName},
-      {EINVAL, HostError::BadName},      {EILSEQ, HostError::BadName},
+      {ENOENT, HostError::NotFound},    {ENOTDIR, HostError::NotAFolder},   {ELOOP, HostError::NotAFile},
+      {EISDIR, HostError::NotAFile},    {ENXIO, HostError::NotAFile},       {EOPNOTSUPP, HostError::NotAFile},
+      {EEXIST, HostError::Exists},      {ENOTEMPTY, HostError::NotEmpty},   {EACCES, HostError::NoRights},
+      {EPERM, HostError::NoRights},     {EBUSY, HostError::InUse},          {ETXTBSY, HostError::InUse},
+      {EWOULDBLOCK, HostError::InUse},  {EROFS, HostError::ReadOnlyDisk},   {ENOSPC, HostError::DiskFull},
+      {EDQUOT, HostError::DiskFull},    {EFBIG, HostError::DiskFull},       {EMFILE, HostError::TooManyOpen},
+      {ENFILE, HostError::TooManyOpen}, {ENAMETOOLONG, HostError::BadName}, {EINVAL, HostError::BadName},
+      {EILSEQ, HostError::BadName},
   };
   for (const Row& row : Rows) {
     if (row.number == number) return row.error;
@@ -249,7 +249,11 @@ class PosixDir : public HostDir {
 
   HostError sync() override { return result(::fsync(handle_.get())); }
 
-  HostError take() override { return result(::flock(handle_.get(), LOCK_EX | LOCK_NB)); }
+  HostError take() override {
+    if (::flock(handle_.get(), LOCK_EX | LOCK_NB) == 0) return HostError::None;
+    const bool unknown = errno == EBADF || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
+    return unknown ? HostError::None : errorOf(errno);
+  }
 
  private:
   // The permissions of a file that is replaced, and its owner. Not all disks and users can.

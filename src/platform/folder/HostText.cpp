@@ -1,26 +1,43 @@
 #include "platform/folder/HostText.h"
 
+#include <unistd.h>
+
 #include "platform/folder/HostFailure.h"
 #include "platform/folder/PcError.h"
 
 namespace zub {
 namespace {
 
-constexpr std::uint64_t MostBytes = std::uint64_t{1} << 28;
+constexpr int MostTries = 100;  // of names beside
+constexpr std::string_view BesideEnd = ".new";
+
+// "is larger than 512 MiB".
+std::string tooLarge(const char* verb) {
+  return std::string(verb) + " larger than " + std::to_string(MostTextBytes >> 20) + " MiB";
+}
 
 std::string reasonOf(HostError error) {
   return std::string(descriptionOf(errorNumberOf(error)));
 }
 
-HostError writeNew(HostDir& folder, const std::string& name, std::string_view text) {
-  // What a process that was killed while it saved has left.
-  const HostError removed = folder.removeFile(name);
-  if (removed != HostError::None && removed != HostError::NotFound) return removed;
-  std::unique_ptr<HostFile> file;
-  HostError error = folder.openFile(name, HostOpen::New, file);
-  if (error == HostError::None) error = file->write(0, text);
-  if (error == HostError::None) error = file->sync();
+// A name that nobody has: a file of somebody else's stays as it is.
+HostError makeBeside(HostDir& folder, const std::string& name, std::string& beside,
+                     std::unique_ptr<HostFile>& file) {
+  const std::string own = name + "." + std::to_string(::getpid());
+  HostError error = HostError::Exists;
+  for (int number = 0; error == HostError::Exists && number < MostTries; ++number) {
+    beside = own + (number == 0 ? "" : "-" + std::to_string(number)) + std::string(BesideEnd);
+    error = folder.openFile(beside, HostOpen::New, file);
+  }
   return error;
+}
+
+bool isBeside(std::string_view entry, std::string_view name) {
+  if (!entry.starts_with(name) || !entry.ends_with(BesideEnd)) return false;
+  entry.remove_prefix(name.size());
+  if (entry.size() < BesideEnd.size() + 2 || entry[0] != '.') return false;
+  entry = entry.substr(1, entry.size() - 1 - BesideEnd.size());
+  return entry.find_first_not_of("0123456789-") == std::string_view::npos;
 }
 
 }  // namespace
@@ -35,7 +52,7 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
   HostError error = opened;
   if (error == HostError::None) error = file->length(length);
   if (error == HostError::None) {
-    if (length > MostBytes) throw PcError(name, 0, "is larger than 256 MiB");
+    if (length > MostTextBytes) throw PcError(name, 0, tooLarge("is"));
     text.resize(static_cast<std::size_t>(length));
     error = file->read(0, text, done);
   }
@@ -44,19 +61,36 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
   return text;
 }
 
-void replaceHostText(HostDir& folder, const std::string& name, std::string_view text) {
-  replaceHostText(folder, name, text, name + ".new");
+HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_view bytes) {
+  std::string beside;
+  std::unique_ptr<HostFile> file;
+  HostError error = makeBeside(folder, name, beside, file);
+  if (error != HostError::None) return error;
+  error = file->write(0, bytes);
+  if (error == HostError::None) error = file->sync();
+  file.reset();
+  if (error == HostError::None) error = folder.rename(beside, name);
+  if (error == HostError::None) {
+    folder.sync();
+  } else {
+    folder.removeFile(beside);
+  }
+  return error;
 }
 
-void replaceHostText(HostDir& folder, const std::string& name, std::string_view text,
-                     const std::string& beside) {
-  HostError error = writeNew(folder, beside, text);
-  if (error == HostError::None) error = folder.rename(beside, name);
-  if (error != HostError::None) {
-    folder.removeFile(beside);
-    throw PcError(name, 0, "cannot be saved: " + reasonOf(error));
+void replaceHostText(HostDir& folder, const std::string& name, std::string_view text) {
+  if (text.size() > MostTextBytes) throw PcError(name, 0, "cannot be saved: " + tooLarge("it would be"));
+  const HostError error = replaceHostFile(folder, name, text);
+  if (error != HostError::None) throw PcError(name, 0, "cannot be saved: " + reasonOf(error));
+}
+
+void removeLeftBeside(HostDir& folder, const std::string& name) {
+  std::unique_ptr<HostList> listing;
+  if (folder.list(listing) != HostError::None) return;
+  HostEntry entry;
+  while (listing->next(entry)) {
+    if (isBeside(entry.name, name)) folder.removeFile(entry.name);
   }
-  folder.sync();
 }
 
 }  // namespace zub

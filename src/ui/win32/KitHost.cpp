@@ -31,19 +31,19 @@ KitHost::KitHost(const ViewSite& site, Parts parts)
   const bool holdsOthers = site.spec.kind == layout::Kind::Group;
   create({"ZubraneControl", caption.c_str(), style | (parts_.takesFocus ? WS_TABSTOP : 0),
           holdsOthers ? DWORD{WS_EX_CONTROLPARENT} : 0, site.place, site.parent});
-  makeCanvas();
+  layOut();
   parts_.control->shown();
 }
 
-void KitHost::makeCanvas() {
+void KitHost::layOut() {
   RECT all;
   GetClientRect(hwnd(), &all);
   const int dpi = parts_.stretched ? ui_.fonts.dpi() : DesignDpi;
-  canvas_.emplace(MulDiv(static_cast<int>(all.right), DesignDpi, dpi),
-                  MulDiv(static_cast<int>(all.bottom), DesignDpi, dpi));
   parts_.control->BackColor(background());
-  parts_.control->resize(canvas_->width(), canvas_->height());
+  parts_.control->resize(MulDiv(static_cast<int>(all.right), DesignDpi, dpi),
+                         MulDiv(static_cast<int>(all.bottom), DesignDpi, dpi));
   ui_.places.put(*parts_.control, {hwnd(), dpi});
+  isLaidOut_ = true;
 }
 
 void KitHost::show() {
@@ -62,32 +62,31 @@ void KitHost::show() {
 
 void KitHost::refresh() {
   serveTimer();
-  if (painted_ == parts_.control->revision()) return;
-  painted_ = parts_.control->revision();
-  paintCanvas();
-  InvalidateRect(hwnd(), nullptr, FALSE);
-}
-
-void KitHost::paintCanvas() {
-  ui_.text.paintOn(canvas_->dc());
-  controls::Surface surface = canvas_->surface();
-  parts_.control->paint(surface);
-  const controls::Box place = parts_.control->focusPlace();
-  if (!focused_ || place.width == 0) return;
-  const RECT frame{place.left, place.top, place.right(), place.bottom()};
-  SetTextColor(canvas_->dc(), colors::Black);
-  SetBkColor(canvas_->dc(), colors::White);
-  DrawFocusRect(canvas_->dc(), &frame);
+  if (changes(shownLook_, parts_.control->revision())) InvalidateRect(hwnd(), nullptr, FALSE);
 }
 
 void KitHost::paint() {
   PAINTSTRUCT painting;
   const HDC dc = BeginPaint(hwnd(), &painting);
+  const HDC canvas = ui_.canvas.dc();
+  const controls::Control& control = *parts_.control;
+  controls::Surface surface = ui_.canvas.surface(control.width(), control.height());
+  control.paint(surface);
+  if (focused_) paintFocus(canvas);
   RECT all;
   GetClientRect(hwnd(), &all);
-  StretchBlt(dc, 0, 0, static_cast<int>(all.right), static_cast<int>(all.bottom), canvas_->dc(), 0, 0,
-             canvas_->width(), canvas_->height(), SRCCOPY);
+  StretchBlt(dc, 0, 0, static_cast<int>(all.right), static_cast<int>(all.bottom), canvas, 0, 0,
+             control.width(), control.height(), SRCCOPY);
   EndPaint(hwnd(), &painting);
+}
+
+void KitHost::paintFocus(HDC canvas) const {
+  const controls::Box place = parts_.control->focusPlace();
+  if (place.width == 0) return;
+  const RECT frame{place.left, place.top, place.right(), place.bottom()};
+  SetTextColor(canvas, colors::Black);
+  SetBkColor(canvas, colors::White);
+  DrawFocusRect(canvas, &frame);
 }
 
 void KitHost::serveTimer() {
@@ -147,7 +146,7 @@ void KitHost::onKey(UINT message, WPARAM wParam) {
 }
 
 LRESULT KitHost::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (!canvas_) return OwnWindow::onMessage(message, wParam, lParam);  // it is being made
+  if (!isLaidOut_) return OwnWindow::onMessage(message, wParam, lParam);  // it is being made
   if (onMouse(message, wParam, lParam)) {
     refresh();
     return 0;
@@ -170,8 +169,7 @@ LRESULT KitHost::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
       focused_ = message == WM_SETFOCUS;
-      painted_.reset();
-      refresh();
+      InvalidateRect(hwnd(), nullptr, FALSE);
       return 0;
     case WM_GETDLGCODE:
       return parts_.dialogCode;

@@ -3,10 +3,8 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 #include "ui/win32/OwnWindow.h"
-#include "ui/win32/PixelCanvas.h"
 #include "ui/win32/View.h"
 
 namespace zub {
@@ -33,19 +31,19 @@ class KitHost : public OwnWindow, public View {
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  void makeCanvas();
-  void refresh();  // paints the control anew where its look has changed
-  void paintCanvas();
+  void layOut();
+  void refresh();  // has the control painted anew where its look has changed
   void paint();
+  void paintFocus(HDC canvas) const;
   void serveTimer();
   bool onMouse(UINT message, WPARAM wParam, LPARAM lParam);
   void onKey(UINT message, WPARAM wParam);
   controls::Mouse mouseAt(std::int16_t buttons, LPARAM place) const;
 
   Parts parts_;
-  std::optional<PixelCanvas> canvas_;
-  std::optional<unsigned> painted_;  // the look that the canvas shows
+  unsigned shownLook_ = 0;
   std::string caption_;
+  bool isLaidOut_ = false;
   bool visible_ = true;
   bool enabled_ = true;
   bool focused_ = false;

@@ -7,6 +7,7 @@
 #include "ui/win32/Fonts.h"
 #include "ui/win32/GdiTextPainter.h"
 #include "ui/win32/Guard.h"
+#include "ui/win32/PixelCanvas.h"
 
 namespace zub {
 
@@ -34,7 +35,8 @@ struct Ui {
   HINSTANCE instance;
   Guard guard;
   Fonts fonts;
-  GdiTextPainter text{fonts};
+  PixelCanvas canvas;
+  GdiTextPainter text{fonts, canvas.dc()};
   controls::Art art;
   ControlPlaces places;
   controls::Kit kit{art, text, places};
