@@ -1,5 +1,7 @@
 // The about box.
 #include "windows/Story.h"
+// Behind it.
+#include <shlwapi.h>
 
 using namespace zub::drive;
 
@@ -28,8 +30,8 @@ TEST_CASE(
   const pc::fs::path report = pc::temp() / "report";
   const std::string tool = "\"%WINDIR%\\system32\\cmd.exe\" /c echo told>" + report.string();
   const char* key = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
-  REQUIRE(RegSetKeyValueA(HKEY_LOCAL_MACHINE, key, "PATH", REG_EXPAND_SZ, tool.c_str(),
-                          static_cast<DWORD>(tool.size() + 1)) == ERROR_SUCCESS);
+  REQUIRE(SHSetValueA(HKEY_LOCAL_MACHINE, key, "PATH", REG_EXPAND_SZ, tool.c_str(),
+                      static_cast<DWORD>(tool.size() + 1)) == ERROR_SUCCESS);
   const Zub zub;
   zub.main().child("About").click();
   const Window information = zub.window(title::About).child("&System info");
