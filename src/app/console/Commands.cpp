@@ -48,6 +48,11 @@ void CommandContext::print(std::string_view text) const {
   std::fputc('\n', stdout);
 }
 
+void CommandContext::tell(std::string_view failure) const {
+  loop.clearLine();
+  std::fprintf(stderr, "%s: %s\n", programName, pc.toTerminal(failure).c_str());
+}
+
 int rowNumber(std::string_view word) {
   const bool digits = std::ranges::all_of(word, [](char c) { return c >= '0' && c <= '9'; });
   return digits ? leadingNumber(word) : 0;

@@ -18,6 +18,8 @@ inline constexpr int LeftBehind = 1;  // a wash ended and something could not be
 inline constexpr int Unusable = 2;    // wrong usage, or an unusable PC folder
 }  // namespace exitStatus
 
+inline constexpr const char* programName = "zub";
+
 class UsageError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -38,7 +40,8 @@ struct CommandContext {
   // it. Keeps others out until the PC is closed.
   void needAlone() const;
   void needNoArguments(std::string_view command) const;
-  void print(std::string_view text) const;  // to standard output, with a line end
+  void print(std::string_view text) const;    // to standard output, with a line end
+  void tell(std::string_view failure) const;  // to standard error, behind the program's name
 };
 
 struct Command {

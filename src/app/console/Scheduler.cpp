@@ -19,7 +19,7 @@ void guarded(std::string& told, Work work) {
     work();
     told.clear();
   } catch (const std::exception& error) {
-    if (told != error.what()) std::fprintf(stderr, "zub: %s\n", error.what());
+    if (told != error.what()) std::fprintf(stderr, "%s: %s\n", programName, error.what());
     told = error.what();
   }
 }
@@ -90,7 +90,7 @@ bool Scheduler::start(const Start& what) {
     try {
       what.command(started);
     } catch (const BusyError& busy) {
-      if (!waits_) std::fprintf(stderr, "zub: %s\n", busy.what());
+      if (!waits_) std::fprintf(stderr, "%s: %s\n", programName, busy.what());
       done = false;
     }
     std::fflush(stdout);

@@ -15,8 +15,6 @@ namespace {
 
 using namespace zub;
 
-constexpr const char* programName = "zub";
-
 void printHelp() {
   std::printf(
       "Zubrane, a privacy cleaner.\n\n"
@@ -91,6 +89,8 @@ int run(std::vector<std::string> arguments) {
     return command.run(context);
   } catch (const UsageError& error) {
     throw UsageError(pc->toTerminal(error.what()));
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.number(), pc->toTerminal(error.what()));
   }
 }
 

@@ -16,10 +16,6 @@ std::string tooLarge(const char* verb) {
   return std::string(verb) + " larger than " + std::to_string(MostTextBytes >> 20) + " MiB";
 }
 
-std::string reasonOf(HostError error) {
-  return std::string(descriptionOf(errorNumberOf(error)));
-}
-
 // A name that nobody has: a file of somebody else's stays as it is.
 HostError makeBeside(HostDir& folder, const std::string& name, std::string& beside,
                      std::unique_ptr<HostFile>& file) {
@@ -57,7 +53,7 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
     error = file->read(0, text, done);
   }
   if (error != HostError::None) throw PcError(name, 0, "cannot be read: " + reasonOf(error));
-  text.resize(done);
+  if (done != length) throw PcError(name, 0, "was changed while it was read: try again");
   return text;
 }
 
@@ -65,16 +61,13 @@ HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_
   std::string beside;
   std::unique_ptr<HostFile> file;
   HostError error = makeBeside(folder, name, beside, file);
-  if (error != HostError::None) return error;
-  error = file->write(0, bytes);
+  if (error == HostError::Exists) return error;
+  if (error == HostError::None) error = file->write(0, bytes);
   if (error == HostError::None) error = file->sync();
   file.reset();
   if (error == HostError::None) error = folder.rename(beside, name);
-  if (error == HostError::None) {
-    folder.sync();
-  } else {
-    folder.removeFile(beside);
-  }
+  if (error == HostError::None) return folder.sync();
+  folder.removeFile(beside);
   return error;
 }
 
