@@ -46,6 +46,7 @@ struct TimedPc : ConsolePc {
   }
   Platform& platform() override { return *timed; }
   void save() override {}
+  std::vector<std::string> failures() const override { return {}; }
   std::string folder() const override { return path; }
   std::string toTerminal(std::string_view text) const override { return std::string(text); }
   std::string fromTerminal(std::string_view text) const override { return std::string(text); }

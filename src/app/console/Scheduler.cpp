@@ -88,7 +88,7 @@ bool Scheduler::start(const Start& what) {
     const auto pc = openPc(what.commandLine);
     CommandContext started{*pc, context_.loop, {}};
     try {
-      what.command(started);
+      runCommand(started, what.command);
     } catch (const BusyError& busy) {
       if (!waits_) std::fprintf(stderr, "%s: %s\n", programName, busy.what());
       done = false;

@@ -28,7 +28,8 @@ void printHelp() {
     std::printf("  %-40s %s\n", usage.c_str(), std::string(command.help).c_str());
   }
   std::printf(
-      "\nExit status: 0 all that was tried went, 1 something could not be removed, 2 wrong usage or an "
+      "\nExit status: 0 all that was tried went, 1 something could not be removed or looked at, 2 wrong "
+      "usage or an "
       "unusable PC.\n");
 }
 
@@ -86,7 +87,7 @@ int run(std::vector<std::string> arguments) {
   for (std::string& argument : arguments) argument = pc->fromTerminal(argument);
   CommandContext context{*pc, loop, std::move(arguments)};
   try {
-    return command.run(context);
+    return runCommand(context, command.run);
   } catch (const UsageError& error) {
     throw UsageError(pc->toTerminal(error.what()));
   } catch (const RuntimeError& error) {
