@@ -42,7 +42,7 @@ struct TimedPc : ConsolePc {
                                                 p.restart, p.shell, clock, p.process, p.events, p.messages,
                                                 p.tray, p.tasks});
     context = std::make_unique<CommandContext>(CommandContext{*this, loop, {}});
-    scheduler = std::make_unique<Scheduler>(*context);
+    scheduler = std::make_unique<Scheduler>(*context, secondsOf(clock.now));
   }
   Platform& platform() override { return *timed; }
   void save() override {}
@@ -58,7 +58,7 @@ struct TimedPc : ConsolePc {
     clock.now.wHour = hour;
     clock.now.wMinute = minute;
     clock.now.wSecond = second;
-    scheduler->step();
+    scheduler->step(secondsOf(clock.now));
     return !files.fileExists(Trace);
   }
 };

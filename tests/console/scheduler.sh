@@ -4,7 +4,8 @@
 . "$(dirname "$0")/check.sh"
 pc=$work/pc
 run 0 new "$pc"
-run 0 --pc "$pc" schedule add 1/1/2020 1:00
+run 0 --pc "$pc" schedule add 1/1/2035 1:00
+sed -i s/2035/2020/ "$pc/tasks.txt"  # it is over now
 cp "$pc/tasks.txt" "$work/tasks"
 
 # begin: starts the scheduler and waits until it catches both signals.
@@ -36,8 +37,10 @@ for signal in INT TERM; do
   begin
   stop $signal
   check "something is told" [ ! -s "$work/told" ]
+  check "what comes next is not said" diff <(echo "Next dated wash: none") "$work/said"
 done
 
+run 0 --pc "$pc" set chkRunAuto=1
 begin
 first=$(wc -l <"$work/tasks")
 { cat "$work/tasks"; echo "trigger = 0 2030-02-31 10:00"; } >"$pc/tasks.txt"
@@ -53,5 +56,9 @@ run 0 --pc "$pc" schedule
 says "2 At 10:00 AM on 2/28/2030"
 run 0 --pc "$pc" set chkBleach=1
 stop TERM
+for line in "Next dated wash: 2/28/2030 10:00:00 AM" "Next wash by the interval: [0-9][0-9]:"; do
+  check "$line is not said" grep -q -e "^$line" "$work/said"
+done
+run 0 --pc "$pc" set chkRunAuto=0
 check "more than the two damages is told" [ "$(wc -l <"$work/told")" -eq 2 ]
-check "something was washed" [ ! -s "$work/said" ]
+check "something was washed" [ "$(grep -vc '^Next ' "$work/said")" -eq 0 ]

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "app/console/Printable.h"
 #include "app/console/Store.h"
+#include "base/Numbers.h"
 #include "platform/folder/FolderTasks.h"
 #include "platform/folder/HostText.h"
-#include "scheduler/DatedEntries.h"
+#include "scheduler/DatedTask.h"
 
 namespace zub {
 namespace {
@@ -19,33 +21,36 @@ void guarded(std::string& told, Work work) {
     work();
     told.clear();
   } catch (const std::exception& error) {
-    if (told != error.what()) std::fprintf(stderr, "%s: %s\n", programName, error.what());
+    if (told != error.what())
+      std::fprintf(stderr, "%s: %s\n", programName, printableLines(error.what()).c_str());
     told = error.what();
   }
 }
 
 }  // namespace
 
-Scheduler::Scheduler(CommandContext& context)
+Scheduler::Scheduler(CommandContext& context, std::int64_t passing)
     : context_(context),
       clock_(context.pc.platform().clock),
       root_(openHostDir(context.pc.folder())),
-      due_(clock_.local()),
+      due_(clock_.local(), passing),
       automatic_(clock_, options_) {
   automatic_.startWash = [this] {
     if (waiting_.empty()) waiting_.push_back({"", washCommand});
   };
 }
 
-void Scheduler::step() {
+void Scheduler::step(std::int64_t passing) {
   const SystemTime now = clock_.local();
   if (now.wMinute != minute_) {
     minute_ = now.wMinute;
     guarded(optionsFailure_, [this] { readOptions(); });
   }
   guarded(tasksFailure_, [this] { readTasks(); });
-  for (int due = due_.look(times_, now); due > 0; --due) waiting_.push_back({parameters_, startCommand});
+  const int due = due_.look(times_, now, passing);
+  for (int start = 0; start < due; ++start) waiting_.push_back({parameters_, startCommand});
   automatic_.Timer_Tick();
+  tellNext(now);
   while (!waiting_.empty() && start(waiting_.front())) waiting_.pop_front();
 }
 
@@ -61,10 +66,34 @@ void Scheduler::readTasks() {
   const std::vector<TaskRecord> tasks = readTasksText(text, FolderTasks::FileName);
   tasksText_ = text;
   times_.clear();
-  const auto task = std::ranges::find(tasks, DatedEntries::TaskName, &TaskRecord::name);
+  const auto task = std::ranges::find(tasks, DatedTaskName, &TaskRecord::name);
   if (task == tasks.end()) return;
   parameters_ = task->parameters;
   for (const TriggerRecord& trigger : task->triggers) times_.push_back(trigger.begin);
+}
+
+// What comes next, told once.
+void Scheduler::tellNext(const SystemTime& now) {
+  std::int64_t first = 0;
+  for (const SystemTime& time : times_) {
+    const std::int64_t moment = secondsOf(time);
+    if (moment > secondsOf(now) && (first == 0 || moment < first)) first = moment;
+  }
+  std::string next = "Next dated wash: none";
+  if (first != 0) {
+    const SystemTime time = timeFromSeconds(first);
+    next = "Next dated wash: " + clock_.dateText(time) + " " + clock_.timeText(time);
+  }
+  if (options_.chkRunAuto.Value() == 1) {
+    const SystemTime& time = automatic_.NextRemoval;
+    next += "\nNext wash by the interval: " + twoDigits(time.wHour) + ":" + twoDigits(time.wMinute);
+    const bool comes = time.wHour < 24 && time.wMinute < 60;
+    if (!comes) next += ", which no clock shows: switch chkRunAuto off for a minute";
+  }
+  if (next == toldNext_) return;
+  toldNext_ = next;
+  std::printf("%s\n", next.c_str());
+  std::fflush(stdout);
 }
 
 // The interval's two options, as the store keeps them now.

@@ -2,6 +2,7 @@
 // another program at work waits for its turn.
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <memory>
 #include <string>
@@ -16,11 +17,11 @@ namespace zub {
 
 class Scheduler {
  public:
-  // The context's clock is the one that counts.
-  explicit Scheduler(CommandContext& context);
+  // The local time is that of the context's clock. `passing` is a count of seconds that summer time does not touch.
+  Scheduler(CommandContext& context, std::int64_t passing);
 
   // To be called at least once a second: starts what has come due since the last call.
-  void step();
+  void step(std::int64_t passing);
 
  private:
   // The program is to be started with this command line.
@@ -32,6 +33,7 @@ class Scheduler {
   std::unique_ptr<ConsolePc> openPc(const std::string& commandLine);
   void readTasks();
   void readOptions();
+  void tellNext(const SystemTime& now);
   bool start(const Start& what);
 
   CommandContext& context_;
@@ -47,6 +49,7 @@ class Scheduler {
   std::string tasksText_;
   std::string tasksFailure_;
   std::string optionsFailure_;
+  std::string toldNext_;
   int minute_ = -1;
 };
 

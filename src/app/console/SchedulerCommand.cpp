@@ -2,6 +2,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <ctime>
 
 #include "app/console/Scheduler.h"
 
@@ -23,9 +24,9 @@ int schedulerCommand(CommandContext& context) {
   if (context.pc.folder().empty()) throw UsageError("Windows has a task scheduler of its own");
   std::signal(SIGINT, stop);
   std::signal(SIGTERM, stop);
-  Scheduler scheduler(context);
+  Scheduler scheduler(context, std::time(nullptr));
   while (stopped == 0) {
-    scheduler.step();
+    scheduler.step(std::time(nullptr));
     usleep(StepLength);
   }
   return exitStatus::Done;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/console/Commands.h"
+#include "app/console/Printable.h"
 #include "base/RuntimeError.h"
 #include "platform/folder/FolderPc.h"
 
@@ -129,7 +130,7 @@ int main(int count, char** words) {
   } catch (const UsageError& error) {
     std::fprintf(stderr, "%s: %s\nSee \"%s --help\".\n", programName, error.what(), programName);
   } catch (...) {
-    std::fprintf(stderr, "%s: %s\n", programName, textOfFailure());
+    std::fprintf(stderr, "%s: %s\n", programName, printableLines(textOfFailure()).c_str());
   }
   return exitStatus::Unusable;
 }
