@@ -76,6 +76,7 @@ class TestPc {
   // Faults: the call fails as told instead of doing its work, until `clearFaults`. Paths are compared without
   // case.
   enum class Call {
+    Find,
     ResetAttributes,
     OpenedLength,
     Open,

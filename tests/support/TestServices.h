@@ -89,9 +89,9 @@ class TestChannel : public FileChannel {
     log_({"  close"});
     channel_->close();
   }
-  void closeOnDisk() override {
-    log_({"  close when it is on the disk"});
-    channel_->closeOnDisk();
+  void sync() override {
+    log_({"  wait for the disk"});
+    channel_->sync();
   }
 
  private:
@@ -124,6 +124,7 @@ class TestFiles : public Files {
 
   std::unique_ptr<FileSearch> find(std::string_view path) override {
     log_({"search ", path});
+    faults_.strike(Call::Find, path);
     auto search = files_.find(path);
     return search ? std::make_unique<TestSearch>(std::move(search), log_) : nullptr;
   }
