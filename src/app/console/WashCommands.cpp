@@ -3,6 +3,7 @@
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "app/console/OddFolders.h"
 #include "app/console/Store.h"
 #include "base/Text.h"
 #include "platform/folder/PcError.h"
@@ -52,6 +53,9 @@ struct Attached {
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
   context.needAlone();
+  for (const std::string& folder : oddFolders(context.pc.platform().registry)) {
+    context.tell(context.pc.toTerminal(folder));
+  }
   Program program(context.pc.platform());
   program.engine.clean.cleaners.ended = [&context] { saved(context.pc); };
   {
@@ -68,6 +72,7 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
   printReport(context, program);
   if (unsaved) throw *unsaved;
   needStoreSaved(program.engine.pc, program.options);
+  for (const std::string& folder : program.engine.unread) context.tell("not looked into: " + folder);
   if (program.engine.leftBehind == 0) return exitStatus::Done;
   context.tell(std::to_string(program.engine.leftBehind) + " files, folders or keys could not be removed");
   return exitStatus::LeftBehind;

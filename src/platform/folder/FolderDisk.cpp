@@ -10,7 +10,17 @@ namespace {
 
 constexpr std::size_t MostFolders = 16;  // whose names are remembered
 
+// Of a deep path only some folders are held open: the last ones, and every so many of the others.
+constexpr std::size_t LastHeld = 32;
+constexpr std::size_t HeldStep = 256;
+
+bool isLink(HostDir& folder, const std::string& name) {
+  HostStat stat;
+  return folder.stat(name, stat) == HostError::None && stat.kind == HostKind::Link;
+}
+
 }  // namespace
+
 std::unique_ptr<HostDir> FolderDisk::openDrive(char letter) {
   std::unique_ptr<HostDir> drive;
   const HostError error = root_.openDir(std::string(1, letter), drive);
@@ -50,7 +60,7 @@ template <class Try>
 HostError FolderDisk::byAnyName(HostDir& folder, const FolderPath& path, std::size_t at,
                                 std::string& hostName, Try attempt) {
   const std::string& name = path.parts[at];
-  hostName = utf8From1252(name);
+  hostName = utf8FromAnsi(name);
   HostError error = attempt();
   if (error != HostError::NotFound) return error;
   FolderNames& names = namesOf(folder, path, at);
@@ -60,8 +70,24 @@ HostError FolderDisk::byAnyName(HostDir& folder, const FolderPath& path, std::si
     if (error != HostError::NotFound) return error;
     names.drop(*found);
   }
-  hostName = utf8From1252(name);
+  hostName = utf8FromAnsi(name);
   return error;
+}
+
+void FolderDisk::letGoBefore(std::size_t at) {
+  if (at >= LastHeld && (at - LastHeld) % HeldStep != 0) open_[at - LastHeld].dir.reset();
+}
+
+// Opens the last folder anew where it was let go, from the next one above it that is held.
+void FolderDisk::holdLast() {
+  std::size_t held = open_.size() - 1;
+  while (open_[held].dir == nullptr) --held;
+  for (std::size_t at = held + 1; at < open_.size(); ++at) {
+    const HostError error = open_[at - 1].dir->openDir(open_[at].hostName, open_[at].dir);
+    if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
+    check(error);
+    letGoBefore(at);
+  }
 }
 
 HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
@@ -72,6 +98,7 @@ HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
   }
   std::size_t at = sharedParts(path, parts);
   open_.resize(at + 1);
+  holdLast();
   for (; at < parts; ++at) {
     HostDir& here = *open_.back().dir;
     const std::string& name = path.parts[at];
@@ -79,8 +106,11 @@ HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
     std::string hostName;
     const HostError error = byAnyName(here, path, at, hostName, [&] { return here.openDir(hostName, next); });
     if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
+    if (error == HostError::NotAFolder && isLink(here, hostName))
+      throw RuntimeError(ErrorNumber::PermissionDenied);
     check(error);
     open_.push_back({name, std::move(hostName), std::move(next)});
+    letGoBefore(open_.size() - 1);
   }
   return *open_.back().dir;
 }
@@ -131,8 +161,8 @@ std::string FolderDisk::shortName(const FolderPath& path) {
 
 FolderPath FolderDisk::pathOf(const Place& place) const {
   FolderPath path{open_.front().name[0], {}};
-  for (std::size_t i = 1; i < open_.size(); ++i) path.parts.push_back(ansiFromUtf8(open_[i].hostName));
-  if (place.parent != nullptr) path.parts.push_back(ansiFromUtf8(place.name));
+  for (std::size_t i = 1; i < open_.size(); ++i) path.parts.push_back(toldNameFromUtf8(open_[i].hostName));
+  if (place.parent != nullptr) path.parts.push_back(toldNameFromUtf8(place.name));
   return path;
 }
 
