@@ -324,6 +324,11 @@ TEST_CASE_TEMPLATE("files: the short path of a file is in 8.3 and leads to it", 
   CHECK(name.size() <= 12);
   CHECK(name.find(' ') == std::string_view::npos);
   CHECK(files.shortPath(pc.folder() + "\\missing").empty());
+  // A name that is short already stays as it is on the NT family.
+  pc.file(pc.folder() + "\\plain.txt", "");
+  const std::string plain = files.shortPath(pc.folder() + "\\plain.txt");
+  const bool raised = !isNt(pc) && !pc.deviates("short capitals");
+  CHECK(lastPathPart(plain) == (raised ? "PLAIN.TXT" : "plain.txt"));
 }
 
 }  // namespace zub

@@ -89,7 +89,7 @@ TEST_CASE("paths that mean the same file") {
     CAPTURE(path);
     CHECK(files.fileExists(path));
     CHECK(files.openedLength(path) == 5);
-    CHECK(files.shortPath(path) == "C:\\WINDOWS\\MYFOLD~1\\file.txt");
+    CHECK(files.shortPath(path) == "C:\\WINDOWS\\MYFOLD~1\\FILE.TXT");
   }
 }
 

@@ -272,7 +272,7 @@ std::string FolderFiles::shortPath(std::string_view path) {
       walked.parts.push_back(part);
       result.parts.push_back(shortNameIn(*listing, disk_.place(walked).name, part));
     }
-    return result.text();
+    return facts_.family->raisesShortNames ? folded(result.text()) : result.text();
   } catch (const RuntimeError&) {
     return {};
   }

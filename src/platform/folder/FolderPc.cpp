@@ -74,14 +74,14 @@ FolderPc::FolderPc(Opened opened, std::string commandLine, DamagedTasks damaged)
       textsRead_(opened.texts.mark()),
       tree_(readRegistry(opened.texts.registry)),
       facts_(opened.texts.facts.value_or("")),
-      rules_{!facts_.nt, facts_.noRights},
+      rules_{facts_.family, facts_.noRights},
       disk_(*root_, facts_),
       registry(tree_, rules_),
       files(disk_, facts_),
       drives(disk_, facts_),
       folders(facts_),
       restart(files, facts_),
-      shell(files, drives),
+      shell(files, drives, *facts_.family),
       process(*root_, std::move(commandLine), [this] { return isOutdated(); }),
       tasks(*root_, damaged) {}
 
