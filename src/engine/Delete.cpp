@@ -10,7 +10,6 @@
 namespace zub {
 namespace {
 
-constexpr std::string_view AllFiles = "*.*";
 constexpr std::size_t BlockSize = 1024;
 
 bool isDots(std::string_view name) {

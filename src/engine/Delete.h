@@ -17,6 +17,9 @@ namespace zub {
 
 class Engine;
 
+// The pattern that takes the folders along, too.
+inline constexpr std::string_view AllFiles = "*.*";
+
 class Delete {
  public:
   explicit Delete(Engine& engine);

@@ -45,6 +45,8 @@ class FileSearch {
   virtual bool next(FoundFile& found) = 0;
 };
 
+// What is opened to be written is refused while any other program has it open. What is only read is refused
+// while another program lets nobody read it, and others may go on reading, writing and removing it.
 enum class OpenMode : std::uint8_t {
   Binary,  // read and write, not truncated, made where it is missing
   Input,   // read an existing file
@@ -85,6 +87,12 @@ class Files {
   // The same as opening for Binary, taking the length and closing, but does not make a missing file: 53.
   virtual std::int64_t openedLength(std::string_view path) = 0;
   virtual void remove(std::string_view path) = 0;
+  // Writes a file whole, made where it is missing: the bytes are written beside it (under a name of this
+  // process, "Cookies.txt.1234.new") and take its place once they have reached the disk. At every moment
+  // the file is the old one or the new one; where that fails, the old one. It keeps its name and attributes.
+  // Fails as opening for Output does, and for a link (75). The 9x family cannot do it in one step: there the
+  // old file lies beside for a moment ("Cookies.txt.1234.old"), and a kill in that moment leaves both there.
+  virtual void replace(std::string_view path, std::string_view bytes) = 0;
 
   virtual bool fileExists(std::string_view path) = 0;
   virtual bool folderExists(std::string_view path) = 0;

@@ -4,6 +4,7 @@
 // itself.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -23,6 +24,24 @@ enum class Hive : std::uint32_t {
   CurrentConfig = 0x80000005,
   DynData = 0x80000006,
 };
+
+// The texts that name a hive.
+struct HiveName {
+  Hive hive;
+  std::string_view name;      // as the system writes it
+  std::string_view inTraces;  // the one spelling, in capitals, that the hive of a trace is compared with
+  std::string_view inEditor;  // what the plugin editor offers and writes
+};
+// Traces know the classes by a misspelt name only, and so the right one matches nothing; recipes rely on it.
+inline constexpr std::array<HiveName, 7> HiveNames{{
+    {Hive::ClassesRoot, "HKEY_CLASSES_ROOT", "HKEY_CLASSSES_ROOT", "HKey_Classes_Root"},
+    {Hive::CurrentConfig, "HKEY_CURRENT_CONFIG", "HKEY_CURRENT_CONFIG", "HKey_Current_Config"},
+    {Hive::CurrentUser, "HKEY_CURRENT_USER", "HKEY_CURRENT_USER", "HKey_Current_User"},
+    {Hive::DynData, "HKEY_DYN_DATA", "HKEY_DYN_DATA", "HKey_Dyn_Data"},
+    {Hive::LocalMachine, "HKEY_LOCAL_MACHINE", "HKEY_LOCAL_MACHINE", "HKey_Local_Machine"},
+    {Hive::PerformanceData, "HKEY_PERFORMANCE_DATA", "HKEY_PERFORMANCE_DATA", "HKey_Performance_Data"},
+    {Hive::Users, "HKEY_USERS", "HKEY_USERS", "HKey_Users"},
+}};
 
 using RegistryStatus = std::int32_t;
 

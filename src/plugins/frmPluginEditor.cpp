@@ -99,9 +99,7 @@ int frmPluginEditor::SavePlugin() {
 }
 
 void frmPluginEditor::writeFile(const std::string& base, PluginFile file, std::string_view text) {
-  const auto channel = engine_.pc.files.open(base + std::string(extensionOf(file)), OpenMode::Output);
-  channel->write(text);
-  channel->close();
+  engine_.pc.files.replace(base + std::string(extensionOf(file)), text);
 }
 
 void frmPluginEditor::cmdOK_Click() {

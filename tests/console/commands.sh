@@ -106,3 +106,11 @@ check "a text was changed, or a file stays beside it" diff "$work/texts" <(cd "$
 "${program[@]}" --pc "$pc" options >/dev/full 2>"$work/err"
 check "a full disk ends with $?" [ $? -eq 2 ]
 tells "zub: the output could not be written"
+
+# Settings whose key the user may not change.
+echo 'no rights = HKEY_CURRENT_USER\Software' >>"$pc/pc.txt"
+for words in "set chkBleach=1" wash; do
+  # shellcheck disable=SC2086
+  run 2 --pc "$pc" $words
+  tells "zub: the settings cannot be changed: no rights to their key"
+done

@@ -41,6 +41,21 @@ listed ie ' ' 'family@news.example[1].txt'
 listed netscape x score basket
 listed netscape ' ' player region
 
+# What is said to be kept is on the disk; what cannot be read or saved is told, and stays. A listing writes nothing.
+cp "$pc/pc.txt" "$work/facts"
+mv "$cookies/index.dat" "$work/index"
+for fact in 'read only = C' 'locked = C:\WINDOWS\Cookies\ZUBKeep.inf'; do
+  printf '%s\n' "$fact" >>"$pc/pc.txt"
+  portrait "$pc" >"$work/before"
+  [[ $fact == locked* ]] || run 0 --pc "$pc" cookies ie
+  run 0 --pc "$pc" cookies netscape
+  refused 'ZUBKeep.inf: Permission denied' --pc "$pc" cookies ie keep 1
+  [[ $fact == locked* ]] || refused 'ZUBKeepNS6.inf: Permission denied' --pc "$pc" cookies netscape keep 1
+  check "something was written" diff "$work/before" <(portrait "$pc")
+  cp "$work/facts" "$pc/pc.txt"
+done
+mv "$work/index" "$cookies/index.dat"
+
 # Of two profiles a wash keeps the ticks of each; how it writes their keep files again is another matter.
 run 1 --pc "$pc" wash
 for name in 'family@shop.example[2].txt' 'zoé@boutique.example[1].txt' "cookie recipes.rtf"; do here "$cookies/$name"; done

@@ -8,7 +8,10 @@
 //   void file(path, bytes);                 makes a file, not by the platform
 //   std::string bytes(path);                what is in it, not by the platform
 //   void readOnly(path);                    gives it the read-only attribute
-//   void lock(path); void unlock(path);     as another program would hold it
+//   void hide(path);                        gives it the hidden attribute
+//   void lock(path); void unlock(path);     as another program would hold it, sharing nothing
+//   bool hold(path, sharing);               has it open to read and write and shares that with others, until
+//                                           unlock; false where this PC does not know such a holder
 //   bool link(path, folder);                makes a link to a folder; false where this PC can make none
 //   bool deviates(name);                    this PC breaks the contract in a way that is listed by this name
 #pragma once
@@ -19,8 +22,8 @@
 #include <string_view>
 
 #include "base/RuntimeError.h"
+#include "platform/Sharing.h"
 #include "support/TestPc.h"
-
 #ifdef _WIN32
 #include "platform/Win32ContractPc.h"
 #endif
@@ -35,6 +38,7 @@ class FolderContractPc : public TestPc {
   std::string folder() const { return "C:\\Scratch"; }
   std::string key() const { return "Software\\ZubraneTest"; }
   std::string task() const { return "ZubraneTest"; }
+  bool hold(const std::string&, Sharing) { return false; }
   bool link(const std::string& path, const std::string& target);
   bool deviates(std::string_view) const { return false; }
 };

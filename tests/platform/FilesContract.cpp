@@ -164,18 +164,23 @@ TEST_CASE_TEMPLATE("files: every failure has its number", Pc, CONTRACT_PCS) {
       {"input", false, [&](const std::string& path) { files.open(path, OpenMode::Input); }},
       {"output", true, [&](const std::string& path) { files.open(path, OpenMode::Output); }},
       {"remove", false, [&](const std::string& path) { files.remove(path); }},
+      {"replace", true, [&](const std::string& path) { files.replace(path, "new"); }},
       {"make", false, [&](const std::string& path) { files.createFolder(path); }},
       {"tree", false, [&](const std::string& path) { files.deleteFolder(path); }},
   };
   const struct {
     const char* name;
-    int expected[8];  // by call; 0 for success, -1 for what is not tried
+    int expected[9];  // by call; 0 for success, -1 for what is not tried
   } rows[] = {
-      //  name         reset len bin  in  out  rem make tree
-      {"missing", {53, 53, -1, 53, -1, 53, -1, 76}}, {"nowhere\\file", {53, 76, 76, 76, 76, 76, 76, 76}},
-      {"folder", {-1, 75, 75, 75, 75, 75, 75, -1}},  {"plain", {-1, 0, 0, 0, -1, -1, 75, 76}},
-      {"readonly", {-1, 75, 75, 0, 75, 75, 75, 76}}, {"locked", {-1, 70, 70, 70, 70, 70, 75, 76}},
-      {"a|b", {53, 52, 52, 52, 52, 52, 52, 76}},     {"a*b", {53, 52, 52, 52, 52, 52, 52, 76}},
+      //  name         reset len bin  in  out  rem rep make tree
+      {"missing", {53, 53, -1, 53, -1, 53, -1, -1, 76}},
+      {"nowhere\\file", {53, 76, 76, 76, 76, 76, 76, 76, 76}},
+      {"folder", {-1, 75, 75, 75, 75, 75, 75, 75, -1}},
+      {"plain", {-1, 0, 0, 0, -1, -1, 0, 75, 76}},
+      {"readonly", {-1, 75, 75, 0, 75, 75, 75, 75, 76}},
+      {"locked", {-1, 70, 70, 70, 70, 70, 70, 75, 76}},
+      {"a|b", {53, 52, 52, 52, 52, 52, 52, 52, 76}},
+      {"a*b", {53, 52, 52, 52, 52, 52, 52, 52, 76}},
   };
   for (const auto& row : rows) {
     for (std::size_t call = 0; call < std::size(calls); ++call) {
@@ -197,6 +202,30 @@ TEST_CASE_TEMPLATE("files: every failure has its number", Pc, CONTRACT_PCS) {
   pc.unlock(base + "locked");
   CHECK(failure([&] { files.remove(base + "locked"); }) == 0);
   CHECK(found(files, base + "*") == "folder, plain");
+}
+
+TEST_CASE_TEMPLATE("files: what others hold open can be read as they share it, and is not taken from them",
+                   Pc, CONTRACT_PCS) {
+  Pc pc;
+  Files& files = pc.platform().files;
+  const std::string path = pc.folder() + "\\held";
+  for (const Sharing sharing : {Sharing::Reading, Sharing::Everything}) {
+    pc.file(path, "theirs");
+    if (!pc.hold(path, sharing)) return;
+    CHECK(failure([&] { CHECK(contentByPieces(*files.open(path, OpenMode::Input), 100) == "theirs"); }) == 0);
+    CHECK(failure([&] { files.openedLength(path); }) == 70);
+    CHECK(failure([&] { files.open(path, OpenMode::Binary); }) == 70);
+    CHECK(failure([&] { files.open(path, OpenMode::Output); }) == 70);
+    CHECK(failure([&] { files.replace(path, "ours"); }) == 70);
+    pc.unlock(path);
+    CHECK(pc.bytes(path) == "theirs");
+  }
+  // What is being read can be read, written and removed by others.
+  const auto reading = files.open(path, OpenMode::Input);
+  CHECK(failure([&] { files.open(path, OpenMode::Input); }) == 0);
+  CHECK(pc.hold(path, Sharing::Everything));
+  pc.unlock(path);
+  CHECK(failure([&] { files.remove(path); }) == 0);
 }
 
 TEST_CASE_TEMPLATE("files: each mode opens what it is for", Pc, CONTRACT_PCS) {
@@ -226,6 +255,30 @@ TEST_CASE_TEMPLATE("files: each mode opens what it is for", Pc, CONTRACT_PCS) {
   CHECK(contentByPieces(*files.open(path, OpenMode::Input), 100) == "012AB56789end");
   files.open(path, OpenMode::Output);
   CHECK(pc.bytes(path).empty());
+}
+
+TEST_CASE_TEMPLATE(
+    "files: a file that is replaced keeps its name and attributes, and nothing stays beside it", Pc,
+    CONTRACT_PCS) {
+  Pc pc;
+  Files& files = pc.platform().files;
+  const std::string base = pc.folder() + '\\';
+  pc.file(base + "The Cookies.txt", std::string(100000, 'o'));
+  pc.hide(base + "The Cookies.txt");
+  files.replace(base + "THE COOKIES.TXT", "new");
+  files.replace(base + "Made.txt", "");
+  CHECK(found(files, base + "*") == "Made.txt, The Cookies.txt");
+  CHECK(pc.bytes(base + "The Cookies.txt") == "new");
+  CHECK(pc.bytes(base + "Made.txt").empty());
+  const std::uint32_t bits =
+      attribute::Hidden | attribute::System | attribute::ReadOnly | attribute::Directory;
+  CHECK((files.attributes(base + "The Cookies.txt") & bits) == attribute::Hidden);
+  CHECK((files.attributes(base + "Made.txt") & bits) == 0);
+  if (const std::string shortPath = files.shortPath(base + "The Cookies.txt"); !shortPath.empty()) {
+    const std::string bytes(200000, 'b');
+    files.replace(shortPath, bytes);
+    CHECK(pc.bytes(base + "The Cookies.txt") == bytes);
+  }
 }
 
 TEST_CASE_TEMPLATE("files: what is written in pieces arrives whole", Pc, CONTRACT_PCS) {

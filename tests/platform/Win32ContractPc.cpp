@@ -99,11 +99,26 @@ void Win32ContractPc::readOnly(const std::string& path) {
   REQUIRE(SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY) != 0);
 }
 
-void Win32ContractPc::lock(const std::string& path) {
+void Win32ContractPc::hide(const std::string& path) {
+  REQUIRE(SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN) != 0);
+}
+
+void Win32ContractPc::openAs(const std::string& path, unsigned long access, unsigned long sharing) {
   const HANDLE handle =
-      CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+      CreateFileA(path.c_str(), access, sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   REQUIRE(handle != INVALID_HANDLE_VALUE);
   locks_[path] = handle;
+}
+
+void Win32ContractPc::lock(const std::string& path) {
+  openAs(path, GENERIC_READ, 0);
+}
+
+bool Win32ContractPc::hold(const std::string& path, Sharing sharing) {
+  const DWORD others =
+      sharing == Sharing::Reading ? FILE_SHARE_READ : FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  openAs(path, GENERIC_READ | GENERIC_WRITE, others);
+  return true;
 }
 
 void Win32ContractPc::unlock(const std::string& path) {

@@ -33,37 +33,27 @@ const std::vector<CatalogueRow>& ordinaryRows() {
   return rows;
 }
 
-struct Trace {
-  std::string key;  // with the hive
-  std::string value;
-  bool keyForm;
-};
-
-Trace traceOf(const std::string& text) {
-  const auto place = std::min(text.find("- Key*"), text.find("+ Value`= "));
-  REQUIRE(place != std::string::npos);
-  Trace trace{text.substr(0, place), "", text[place] == '-'};
-  if (!trace.keyForm) trace.value = text.substr(place + std::string_view("+ Value`= ").size());
-  return trace;
+// The key with its hive.
+std::string keyOf(const Trace& trace) {
+  return trace.text.substr(0, trace.text.find('\\') + 1) + trace.path;
 }
 
 // The file that an action removes.
-std::string fileOf(const CatalogueAction& action) {
-  const std::string base = action.base == CatalogueAction::Base::AppData   ? "C:\\User\\"
-                           : action.base == CatalogueAction::Base::Windows ? "C:\\WINDOWS\\"
-                                                                           : "C:\\Installed\\";
-  std::string path = base + action.path;
-  if (action.kind == CatalogueAction::Kind::FilesOfFolder) path += '\\';
-  for (const char c : action.pattern) path += c == '*' ? "any" : std::string(1, c == '?' ? 'q' : c);
+std::string fileOf(const Action& action) {
+  const std::string base = action.base == Action::Base::AppData   ? "C:\\User\\"
+                           : action.base == Action::Base::Windows ? "C:\\WINDOWS\\"
+                                                                  : "C:\\Installed\\";
+  std::string path = base;
+  for (const char c : action.path) path += c == '*' ? "any" : std::string(1, c == '?' ? 'q' : c);
   return path;
 }
 
 // Files that an action must leave: one below, and one of a longer name where not all files go.
-std::vector<std::string> decoysOf(const CatalogueAction& action) {
+std::vector<std::string> decoysOf(const Action& action) {
   const std::string file = fileOf(action);
   std::vector<std::string> decoys{std::string(withoutLastPathPart(file)) + "\\Sub\\" +
                                   std::string(lastPathPart(file))};
-  if (action.pattern != "*.*") decoys.push_back(file + "x.none");
+  if (!action.path.ends_with("*.*")) decoys.push_back(file + "x.none");
   return decoys;
 }
 
@@ -73,34 +63,34 @@ class CatalogueWash : public WashFixture {
   CatalogueWash() : WashFixture({"family = nt"}) { pc.shellFolder("AppData", "C:\\User"); }
 
   void seed(const CatalogueRow& row) {
-    for (const CatalogueAction& action : row.actions) {
-      if (action.kind != CatalogueAction::Kind::Trace) {
+    for (const Action& action : row.actions) {
+      if (action.kind != Action::Kind::Trace) {
         pc.file(fileOf(action));
         for (const std::string& decoy : decoysOf(action)) pc.file(decoy);
       }
-      if (action.trace.empty()) continue;
-      const Trace trace = traceOf(action.trace);
-      pc.value(trace.key, trace.keyForm ? "1" : trace.value, "C:\\Installed");
-      pc.value(trace.key, "Decoy", "x");
-      if (trace.keyForm) pc.value(trace.key + "\\Sub", "1", "trace");
-      pc.value(trace.key + Decoy, "1", "x");
+      if (action.trace.text.empty()) continue;
+      const Trace& trace = action.trace;
+      pc.value(keyOf(trace), trace.keyForm ? "1" : trace.valueName, "C:\\Installed");
+      pc.value(keyOf(trace), "Decoy", "x");
+      if (trace.keyForm) pc.value(keyOf(trace) + "\\Sub", "1", "trace");
+      pc.value(keyOf(trace) + Decoy, "1", "x");
     }
   }
 
   void run(const CatalogueRow& row) {
     RunStandardPlugin(engine, builtIn(), row.name);
-    for (const CatalogueAction& action : row.actions) {
-      if (action.kind != CatalogueAction::Kind::Trace) continue;
-      const Trace trace = traceOf(action.trace);
+    for (const Action& action : row.actions) {
+      if (action.kind != Action::Kind::Trace) continue;
+      const Trace& trace = action.trace;
       keyFormSeen_ |= trace.keyForm;
-      if (keyFormSeen_) wiped_.insert(folded(trace.key));
+      if (keyFormSeen_) wiped_.insert(folded(keyOf(trace)));
     }
   }
 
   void check(const CatalogueRow& row) {
-    for (const CatalogueAction& action : row.actions) {
-      if (action.kind == CatalogueAction::Kind::Trace) {
-        checkTrace(traceOf(action.trace));
+    for (const Action& action : row.actions) {
+      if (action.kind == Action::Kind::Trace) {
+        checkTrace(action.trace);
       } else {
         CHECK_FALSE_MESSAGE(pc.hasFile(fileOf(action)), fileOf(action));
         for (const std::string& decoy : decoysOf(action)) CHECK_MESSAGE(pc.hasFile(decoy), decoy);
@@ -119,13 +109,13 @@ class CatalogueWash : public WashFixture {
   }
 
   void checkTrace(const Trace& trace) {
-    CAPTURE(trace.key);
-    if (!trace.keyForm) CHECK_FALSE(pc.hasValue(trace.key, trace.value));
+    CAPTURE(trace.text);
+    if (!trace.keyForm) CHECK_FALSE(pc.hasValue(keyOf(trace), trace.valueName));
     // From the first key form on a value takes its whole key along.
-    CHECK(pc.hasKey(trace.key) == (!isWiped(trace.key) || hasNamedBelow(trace.key)));
-    CHECK(pc.hasValue(trace.key, "Decoy") == !isWiped(trace.key));
+    CHECK(pc.hasKey(keyOf(trace)) == (!isWiped(keyOf(trace)) || hasNamedBelow(keyOf(trace))));
+    CHECK(pc.hasValue(keyOf(trace), "Decoy") == !isWiped(keyOf(trace)));
     // What stands beside a key goes only as a subkey of another one that is wiped.
-    CHECK(pc.hasKey(trace.key + Decoy) == !isWiped(withoutLastPathPart(trace.key)));
+    CHECK(pc.hasKey(keyOf(trace) + Decoy) == !isWiped(withoutLastPathPart(keyOf(trace))));
   }
 
   bool keyFormSeen_ = false;

@@ -10,8 +10,8 @@ using namespace zub;
 
 namespace {
 
-using Kind = CatalogueAction::Kind;
-using Base = CatalogueAction::Base;
+using Kind = Action::Kind;
+using Base = Action::Base;
 
 constexpr std::string_view Names =
     "ACDSee; Adobe Acrobat Full 4.x; Adobe Acrobat Reader 4.x; Adobe Photoshop 6.x; Allaire Homesite 4.x; "
@@ -45,8 +45,8 @@ std::vector<std::string> told(const CatalogueRow& row) {
   for (const auto& action : row.actions) {
     const std::string place = action.base == Base::AppData   ? "appdata"
                               : action.base == Base::Windows ? "windows"
-                                                             : action.trace;
-    lines.push_back(action.kind == Kind::Trace ? place : place + "|" + action.path + "|" + action.pattern);
+                                                             : action.trace.text;
+    lines.push_back(action.kind == Kind::Trace ? place : place + "|" + action.path);
   }
   return lines;
 }
@@ -79,13 +79,14 @@ TEST_CASE("the catalogue has its 84 names, in the order of the sorted list, and 
       (action.kind == Kind::Trace ? traces : files) = true;
       if (action.kind == Kind::Trace) {
         ++count["traces"];
-        const bool value = contains(action.trace, "+ Value`= ");
-        const bool key = action.trace.ends_with("- Key*");
+        const bool value = contains(action.trace.text, "+ Value`= ");
+        const bool key = action.trace.text.ends_with("- Key*");
         CHECK_FALSE((value && key));
         ++count[value ? "values" : key ? "keys" : "neither"];
-        if (action.trace.starts_with("HKey_Classes_Root\\")) ++count["classes root in " + row.name];
+        if (action.trace.text.starts_with("HKey_Classes_Root\\")) ++count["classes root in " + row.name];
         // A hyphen cuts the path of the key that is to be emptied.
-        if (key && action.trace.find('-') != action.trace.rfind('-')) ++count["hyphen in " + row.name];
+        if (key && action.trace.text.find('-') != action.trace.text.rfind('-'))
+          ++count["hyphen in " + row.name];
       } else {
         ++count[action.kind == Kind::File ? "files" : "folders"];
         ++count[action.base == Base::Windows   ? "in windows"
@@ -129,34 +130,34 @@ TEST_CASE("rows that are known to the letter") {
   const std::string mse = user + "Microsoft\\MSE\\9.0";
   const std::string acrobat = user + "Adobe\\Adobe Acrobat\\4.0\\AdobeViewer+ Value`= avpRecentFile";
   const std::map<std::string, std::vector<std::string>> rows = {
-      {"Gold Wave Editor", {"windows|goldwave.ini|"}},
-      {"ACDSee", {"appdata|ACD Systems\\ACDSee\\ImageDB.ddf|", "appdata|ACD Systems\\ACDSee\\ImageDB.dtf|"}},
-      {"Outlook Express 5.x Mail and News", {"appdata|Microsoft\\Outlook Express|*.dbx"}},
-      {"Windows WBEM Logs", {"windows|SYSTEM\\WBEM\\logs|*.*"}},
+      {"Gold Wave Editor", {"windows|goldwave.ini"}},
+      {"ACDSee", {"appdata|ACD Systems\\ACDSee\\ImageDB.ddf", "appdata|ACD Systems\\ACDSee\\ImageDB.dtf"}},
+      {"Outlook Express 5.x Mail and News", {"appdata|Microsoft\\Outlook Express\\*.dbx"}},
+      {"Windows WBEM Logs", {"windows|SYSTEM\\WBEM\\logs\\*.*"}},
       {"Psion PsiWin 2.x",
-       {"windows|TEMP\\EPOCLOG.001|", user + "Psion\\CurrentUser- Key*", user + "Psion\\Users- Key*"}},
+       {"windows|TEMP\\EPOCLOG.001", user + "Psion\\CurrentUser- Key*", user + "Psion\\Users- Key*"}},
       {"Adobe Acrobat Full 4.x",
        {acrobat + "1", acrobat + "2", acrobat + "3", acrobat + "4", acrobat + "5", acrobat + "6",
         acrobat + "7", acrobat + "8", acrobat + "9"}},
       {"Internet Explorer (4.x and 5.x)",
        {user + "Microsoft\\Internet Explorer+ Value`= download directory",
         standard + "Microsoft\\Internet Explorer+ Value`= download directory"}},
-      {"Norton AntiVirus 2000", {machine + "Symantec\\InstalledApps+ Value`= NAV|Activity.log|"}},
+      {"Norton AntiVirus 2000", {machine + "Symantec\\InstalledApps+ Value`= NAV|Activity.log"}},
       {"Miscrosoft Visual Studio 6.0",
-       {machine + "Microsoft\\VisualStudio\\6.0+ Value`= InstallDir|newfileitems|*.*",
+       {machine + "Microsoft\\VisualStudio\\6.0+ Value`= InstallDir|newfileitems\\*.*",
         mse + "+ Value`= defaultfileopenlocation", mse + "+ Value`= defaultnewprojectlocation",
         mse + "+ Value`= lastloadedsolution", mse + "\\FileMRUList- Key*", mse + "\\FileMRUList- Key*",
         mse + "\\MenuMRUList- Key*", mse + "\\ProjectMRUList- Key*"}},
       {"Microsoft Media Player 7.x",
-       {"appdata|Microsoft\\Media Player|*.*", "windows|wmplibrary_v_0_12.db|",
+       {"appdata|Microsoft\\Media Player\\*.*", "windows|wmplibrary_v_0_12.db",
         user + "Microsoft\\MediaPlayer\\player\\settings+ Value`= opendir",
         user + "Microsoft\\MediaPlayer\\Player\\RecentFileList- Key*",
         standard + "Microsoft\\MediaPlayer\\player\\settings+ Value`= opendir",
         standard + "Microsoft\\MediaPlayer\\Player\\RecentFileList- Key*",
         standard + "Microsoft\\MediaPlayer\\Player\\RecentURLList- Key*"}},
       {"MSN Explorer Browser 6.x",
-       {"windows|cookies\\3\\index.dat|", "windows|cookies\\2\\index.dat|", "windows|cookies\\1\\index.dat|",
-        "appdata|MSN6|*.dat"}},
+       {"windows|cookies\\3\\index.dat", "windows|cookies\\2\\index.dat", "windows|cookies\\1\\index.dat",
+        "appdata|MSN6\\*.dat"}},
       {"AOL Instant Messanger 3.5", {aim + "recent IM ScreenNames- Key*", aim + "recent ScreenNames- Key*"}},
       {"Windows Recent Network Drive List", {"HKEY_CURRENT_USER\\Network\\Recent- KEY*"}},
   };
@@ -198,7 +199,7 @@ TEST_CASE("ranges stand where they like in a trace; remarks and line ends do not
   const auto& row = rowOf(catalogue, "A");
   CHECK(row.description == "Text | {1..2}");
   CHECK(told(row) == std::vector<std::string>{"HKEY_USERS\\Clip9- Key*", "HKEY_USERS\\Clip10- Key*",
-                                              "HKEY_USERS\\Clip11- Key*", "HKEY_USERS\\A+ Value`= B|x y.log|",
+                                              "HKEY_USERS\\Clip11- Key*", "HKEY_USERS\\A+ Value`= B|x y.log",
                                               "hkey_Users\\A+ Value`= File0"});
   CHECK(catalogue.find("a") == nullptr);
 }

@@ -131,6 +131,10 @@ void TestPc::readOnly(std::string_view path) {
   impl_->disk.forget();
 }
 
+void TestPc::hide(std::string_view path) {
+  impl_->pc.facts().hidden.insert(parsed(path).key());
+}
+
 void TestPc::key(std::string_view path) {
   impl_->makeKey(path);
 }

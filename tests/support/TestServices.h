@@ -98,6 +98,10 @@ class TestFiles : public Files {
     faults_.strike(Call::Remove, path);
     files_.remove(path);
   }
+  void replace(std::string_view path, std::string_view bytes) override {
+    faults_.strike(Call::Replace, path);
+    files_.replace(path, bytes);
+  }
   void createFolder(std::string_view path) override {
     faults_.strike(Call::CreateFolder, path);
     files_.createFolder(path);

@@ -17,7 +17,8 @@ constexpr std::array commandTable{
     Command{"set", "NAME=VALUE...", "change settings, by the names that \"options\" lists", setCommand},
     Command{"plugins", "", "list the custom and standard plugins with their ticks", pluginsCommand},
     Command{"plugin show", "NAME", "tell what a plugin, custom or standard, removes", pluginShowCommand},
-    Command{"plugin check", "FILE", "tell line by line what a plugin file would do, and what can never work",
+    Command{"plugin check", "FILE...",
+            "tell line by line what plugin files would do; status 1 where something can never work",
             pluginCheckCommand},
     Command{"cookies", "ie|netscape [keep|drop NUMBER...]", "list the cookies, or tick those to keep",
             cookiesCommand},
@@ -34,6 +35,21 @@ std::span<const Command> commands() {
   return commandTable;
 }
 
+int runCommand(CommandContext& context, int (*command)(CommandContext& context)) {
+  const auto tellFailures = [&context] {
+    for (const std::string& failure : context.pc.failures()) context.tell(failure);
+    return !context.pc.failures().empty();
+  };
+  int status = exitStatus::Done;
+  try {
+    status = command(context);
+  } catch (...) {
+    tellFailures();
+    throw;
+  }
+  return tellFailures() ? std::max(status, exitStatus::LeftBehind) : status;
+}
+
 void CommandContext::needAlone() const {
   if (pc.platform().process.otherInstanceRuns()) throw BusyError();
 }
@@ -46,6 +62,11 @@ void CommandContext::print(std::string_view text) const {
   const std::string line = pc.toTerminal(text);
   std::fwrite(line.data(), 1, line.size(), stdout);
   std::fputc('\n', stdout);
+}
+
+void CommandContext::tell(const std::string& failure) const {
+  loop.clearLine();
+  std::fprintf(stderr, "%s: %s\n", programName, failure.c_str());
 }
 
 int rowNumber(std::string_view word) {

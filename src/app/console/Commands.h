@@ -14,9 +14,11 @@ namespace zub {
 
 namespace exitStatus {
 inline constexpr int Done = 0;        // all that was tried went
-inline constexpr int LeftBehind = 1;  // a wash ended and something could not be removed
+inline constexpr int LeftBehind = 1;  // something could not be removed, or not be looked at
 inline constexpr int Unusable = 2;    // wrong usage, or an unusable PC folder
 }  // namespace exitStatus
+
+inline constexpr const char* programName = "zub";
 
 class UsageError : public std::runtime_error {
  public:
@@ -38,7 +40,8 @@ struct CommandContext {
   // it. Keeps others out until the PC is closed.
   void needAlone() const;
   void needNoArguments(std::string_view command) const;
-  void print(std::string_view text) const;  // to standard output, with a line end
+  void print(std::string_view text) const;      // to standard output, with a line end
+  void tell(const std::string& failure) const;  // to standard error, behind the program's name
 };
 
 struct Command {
@@ -49,6 +52,10 @@ struct Command {
 };
 
 std::span<const Command> commands();
+
+// Runs a command, and tells what failed on the PC's disks without a word: then the status is LeftBehind at the
+// least.
+int runCommand(CommandContext& context, int (*command)(CommandContext& context));
 
 // The number of a listed row, from 1; 0 where the word is none.
 int rowNumber(std::string_view word);

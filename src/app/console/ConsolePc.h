@@ -16,6 +16,8 @@ class ConsolePc {
   virtual ~ConsolePc() = default;
   virtual Platform& platform() = 0;
   virtual void save() = 0;  // keeps what the program changed; PcError where it cannot
+  // What failed on the PC's disks and that nobody may have told, as text for the terminal.
+  virtual std::vector<std::string> failures() const = 0;
   // The folder that holds the PC; empty for the PC that this runs on.
   virtual std::string folder() const = 0;
   // Text of the PC for the terminal, and words of the command line (UTF-8) for the PC.

@@ -1,9 +1,11 @@
+#include <functional>
+#include <set>
 #include <vector>
 
 #include "app/console/Commands.h"
 #include "base/Text.h"
-#include "cleaners/frmIECookieKeep.h"
-#include "cleaners/frmNSCookieKeep.h"
+#include "cleaners/IECookies.h"
+#include "cleaners/NetscapeCookies.h"
 #include "engine/Engine.h"
 
 namespace zub {
@@ -32,59 +34,81 @@ Wanted parse(const std::vector<std::string>& arguments) {
   return wanted;
 }
 
-std::string rowText(int number, bool kept, std::string_view row, std::string_view detail) {
-  std::string text = std::to_string(number) + (kept ? " [x] " : " [ ] ") + std::string(trim(row));
-  if (!detail.empty() && detail != row) text += "  " + std::string(trim(detail));
+std::string rowText(int number, const CookieRow& row) {
+  std::string text = std::to_string(number) + (row.kept ? " [x] " : " [ ] ") + std::string(trim(row.shown));
+  if (row.detail != row.shown) text += "  " + std::string(trim(row.detail));
   return text;
 }
 
-// Lists or ticks the rows on show; `first` is the number of the first one. Returns the number behind the
-// last.
-int serveRows(const CommandContext& context, const Wanted& wanted, ListRows& rows, const ListRows& details,
-              int first) {
-  for (int row = 0; row < rows.ListCount(); ++row) {
-    if (wanted.list)
-      context.print(rowText(first + row, rows.Selected(row), rows.List(row), details.List(row)));
-    for (const int number : wanted.numbers) {
-      if (number == first + row) rows.Selected(row, wanted.keep);
+// One list of cookies as the disk has it.
+struct List {
+  std::string heading;  // empty for none
+  CookieRows rows;
+  std::function<void(const CookieRows&)> save;
+  bool changed = false;
+};
+
+// The cookies are numbered through all lists, from 1. Nothing is changed where one of the numbers is none.
+void serve(const CommandContext& context, const Wanted& wanted, std::vector<List>& lists) {
+  struct Place {
+    List& list;
+    CookieRow& row;
+  };
+  std::vector<Place> all;
+  for (List& list : lists) {
+    if (wanted.list && !list.heading.empty()) context.print(list.heading);
+    for (CookieRow& row : list.rows) {
+      all.push_back({list, row});
+      if (wanted.list) context.print(rowText(static_cast<int>(all.size()), row));
     }
   }
-  return first + rows.ListCount();
-}
-
-void checkNumbers(const Wanted& wanted, int behindLast) {
   for (const int number : wanted.numbers) {
-    if (number >= behindLast) throw UsageError("there is no cookie " + std::to_string(number));
-  }
-}
-
-void serveInternetExplorer(const CommandContext& context, const Wanted& wanted, Engine& engine) {
-  frmIECookieKeep form(engine);
-  form.LoadValues();
-  checkNumbers(wanted, form.lstDelete.ListCount() + 1);
-  serveRows(context, wanted, form.lstDelete, form.lstFiles, 1);
-  if (!wanted.list) form.cmdOK_Click();
-}
-
-void serveNetscape(const CommandContext& context, const Wanted& wanted, Engine& engine) {
-  frmNSCookieKeep form(engine);
-  form.Load();
-  int number = 1;
-  for (int profile = 0; profile < form.cmbProfile.ListCount(); ++profile) {
-    form.cmbProfile.ListIndex(profile);
-    number += form.lstDelete.ListCount();
-  }
-  checkNumbers(wanted, number);
-  number = 1;
-  for (int profile = 0; profile < form.cmbProfile.ListCount(); ++profile) {
-    form.cmbProfile.ListIndex(profile);
-    if (wanted.list) {
-      context.print("Profile " + form.cmbProfile.List(profile) + ", " + form.cmbSelect.List(profile));
+    if (number > static_cast<int>(all.size())) {
+      throw UsageError("there is no cookie " + std::to_string(number));
     }
-    number = serveRows(context, wanted, form.lstDelete, form.lstCookies, number);
-    if (!wanted.list) form.SaveNS6(form.cmbSelect.List(profile));
   }
-  if (wanted.list && form.cmbProfile.ListCount() == 0) context.print(form.lblKeep[1].Caption);
+  for (const int number : wanted.numbers) {
+    const Place& place = all[static_cast<std::size_t>(number) - 1];
+    place.row.kept = wanted.keep;
+    place.list.changed = true;
+  }
+  for (const List& list : lists) {
+    if (list.changed) list.save(list.rows);
+  }
+}
+
+std::vector<List> internetExplorerLists(Engine& engine) {
+  const std::string folder = cookiesFolder(engine);
+  List list;
+  readIECookies(engine.pc, folder, list.rows);
+  list.save = [&engine, folder](const CookieRows& rows) { saveIEKeepList(engine.pc, folder, rows); };
+  return {list};
+}
+
+// The browser's registry file may name a profile more than once. A profile whose cookies cannot be read fails.
+std::vector<List> netscapeLists(Engine& engine) {
+  Files& files = engine.pc.files;
+  std::vector<NetscapeProfile> profiles;
+  try {
+    findNetscapeProfiles(files, netscapeRegistryFile(engine),
+                         [&](NetscapeProfile profile) { profiles.push_back(std::move(profile)); });
+  } catch (const RuntimeError& failure) {
+    if (!isMissing(failure)) throw;
+  }
+  std::vector<List> lists;
+  std::set<std::string> seen;
+  for (const NetscapeProfile& profile : profiles) {
+    if (!seen.insert(engine.pc.codePage.upper(profile.folder)).second) continue;
+    List list;
+    list.heading = "Profile " + profile.name + ", " + profile.folder;
+    readNetscapeCookies(files, profile.folder, list.rows);
+    tickNetscapeKept(files, profile.folder, list.rows);
+    list.save = [&files, folder = profile.folder](const CookieRows& rows) {
+      saveNetscapeKeepList(files, folder, rows);
+    };
+    lists.push_back(std::move(list));
+  }
+  return lists;
 }
 
 }  // namespace
@@ -98,11 +122,10 @@ int cookiesCommand(CommandContext& context) {
   if (!wanted.list) context.needAlone();
   Options options;
   Engine engine(context.pc.platform(), options);
-  if (arguments[0] == "ie") {
-    serveInternetExplorer(context, wanted, engine);
-  } else {
-    serveNetscape(context, wanted, engine);
-  }
+  const bool netscape = arguments[0] == "netscape";
+  std::vector<List> lists = netscape ? netscapeLists(engine) : internetExplorerLists(engine);
+  if (netscape && wanted.list && lists.empty()) context.print("Cannot find a copy of Netscape 6.x");
+  serve(context, wanted, lists);
   return exitStatus::Done;
 }
 

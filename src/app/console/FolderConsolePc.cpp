@@ -13,6 +13,12 @@ class FolderConsolePc : public ConsolePc {
 
   Platform& platform() override { return platform_; }
   void save() override { pc_.save(); }
+  std::vector<std::string> failures() const override {
+    const HostFailures& failures = pc_.failures();
+    std::vector<std::string> texts(failures.texts().begin(), failures.texts().end());
+    if (failures.more() > 0) texts.push_back(std::to_string(failures.more()) + " more failures");
+    return texts;
+  }
   std::string folder() const override { return folder_; }
   std::string toTerminal(std::string_view text) const override { return utf8From1252(text); }
   std::string fromTerminal(std::string_view text) const override { return ansiFromUtf8(text); }

@@ -66,7 +66,7 @@ class Scheduler {
       work();
       told.clear();
     } catch (const std::exception& error) {
-      if (told != error.what()) std::fprintf(stderr, "zub: %s\n", error.what());
+      if (told != error.what()) std::fprintf(stderr, "%s: %s\n", programName, error.what());
       told = error.what();
     }
   }
@@ -110,9 +110,9 @@ class Scheduler {
       const auto pc = openPc(what.commandLine);
       CommandContext started{*pc, context_.loop, {}};
       try {
-        what.command(started);
+        runCommand(started, what.command);
       } catch (const BusyError& busy) {
-        if (!waits_) std::fprintf(stderr, "zub: %s\n", busy.what());
+        if (!waits_) std::fprintf(stderr, "%s: %s\n", programName, busy.what());
         done = false;
       }
       std::fflush(stdout);

@@ -21,6 +21,7 @@ class ThisPc : public ConsolePc {
 
   Platform& platform() override { return platform_; }
   void save() override {}  // the system keeps what was changed
+  std::vector<std::string> failures() const override { return {}; }
   std::string folder() const override { return {}; }
   std::string toTerminal(std::string_view text) const override { return std::string(text); }
   std::string fromTerminal(std::string_view text) const override {

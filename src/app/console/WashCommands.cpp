@@ -3,6 +3,7 @@
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "app/console/Store.h"
 #include "platform/folder/PcError.h"
 
 namespace zub {
@@ -62,7 +63,10 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
   const std::optional<PcError> unsaved = saved(context.pc);
   printReport(context, program);
   if (unsaved) throw *unsaved;
-  return program.engine.leftBehind > 0 ? exitStatus::LeftBehind : exitStatus::Done;
+  needStoreSaved(program.engine.pc, program.options);
+  if (program.engine.leftBehind == 0) return exitStatus::Done;
+  context.tell(std::to_string(program.engine.leftBehind) + " files, folders or keys could not be removed");
+  return exitStatus::LeftBehind;
 }
 
 }  // namespace

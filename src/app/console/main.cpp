@@ -9,13 +9,12 @@
 #include <vector>
 
 #include "app/console/Commands.h"
+#include "base/RuntimeError.h"
 #include "platform/folder/FolderPc.h"
 
 namespace {
 
 using namespace zub;
-
-constexpr const char* programName = "zub";
 
 void printHelp() {
   std::printf(
@@ -30,7 +29,8 @@ void printHelp() {
     std::printf("  %-40s %s\n", usage.c_str(), std::string(command.help).c_str());
   }
   std::printf(
-      "\nExit status: 0 all that was tried went, 1 something could not be removed, 2 wrong usage or an "
+      "\nExit status: 0 all that was tried went, 1 something could not be removed or looked at, 2 wrong "
+      "usage or an "
       "unusable PC.\n");
 }
 
@@ -88,9 +88,11 @@ int run(std::vector<std::string> arguments) {
   for (std::string& argument : arguments) argument = pc->fromTerminal(argument);
   CommandContext context{*pc, loop, std::move(arguments)};
   try {
-    return command.run(context);
+    return runCommand(context, command.run);
   } catch (const UsageError& error) {
     throw UsageError(pc->toTerminal(error.what()));
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.number(), pc->toTerminal(error.what()));
   }
 }
 

@@ -11,11 +11,12 @@ namespace zub {
 namespace {
 
 // The host's name of an entry that is not there as written: found without regard to case, the first in the
-// host's order of bytes where there are several, else by its 8.3 name.
+// host's order of bytes where there are several, else by its 8.3 name. A folder that cannot be listed whole does
+// not tell that there is none.
 std::optional<std::string> searchName(HostDir& folder, std::string_view name) {
   const bool mayBeShort = name.find('~') != std::string_view::npos;
   std::unique_ptr<HostList> listing;
-  if (folder.list(listing) != HostError::None) return std::nullopt;
+  check(folder.list(listing));
   std::optional<std::string> best;
   std::vector<std::string> hostNames;
   std::vector<std::string> names;
@@ -27,6 +28,7 @@ std::optional<std::string> searchName(HostDir& folder, std::string_view name) {
     hostNames.push_back(entry.name);
     names.push_back(pcName);
   }
+  check(listing->failure());
   if (best || !mayBeShort) return best;
   const std::vector<std::string> shorts = shortNames(names);
   const auto found = std::ranges::find_if(shorts, [&](const auto& text) { return equalFolded(text, name); });
@@ -87,7 +89,9 @@ HostDir& FolderDisk::walk(const FolderPath& path, std::size_t parts) {
   try {
     return openOn(path, parts);
   } catch (const RuntimeError& failure) {
-    if (!fromKept || failure.number() != ErrorNumber::PathNotFound) throw;
+    const bool stale =
+        failure.number() == ErrorNumber::PathNotFound || failure.number() == ErrorNumber::DeviceIo;
+    if (!fromKept || !stale) throw;
   }
   forget();
   return openOn(path, parts);

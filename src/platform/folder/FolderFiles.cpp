@@ -31,6 +31,7 @@ std::string shortNameIn(HostList& listing, const std::string& hostName, const st
     if (entry.name == hostName) place = names.size();
     names.push_back(ansiFromUtf8(entry.name));
   }
+  check(listing.failure());
   const std::vector<std::string> shorts = shortNames(names);
   for (std::size_t i = 0; i < names.size() && place == std::string::npos; ++i) {
     if (equalFolded(names[i], part) || equalFolded(shorts[i], part)) place = i;
@@ -164,8 +165,8 @@ std::unique_ptr<FileChannel> FolderFiles::open(std::string_view path, OpenMode m
 
 void FolderFiles::replace(std::string_view path, std::string_view bytes) {
   seenPath_.clear();
-  const FolderPath parts = parse(path);
-  const Place place = disk_.place(parts);
+  FolderPath parts = parse(path);
+  const Place place = placeOf(parts);
   checkWritable(parts, place);
   if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
   check(replaceHostFile(*place.parent, place.name, bytes));
@@ -256,6 +257,7 @@ bool FolderFiles::removeContent(HostDir& parent, const std::string& name, Folder
     path.parts.pop_back();
     removedSome = true;
   }
+  check(listing->failure());
   return removedSome;
 }
 

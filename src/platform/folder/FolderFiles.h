@@ -18,15 +18,12 @@ class FolderFiles : public Files {
   std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override;
   std::int64_t openedLength(std::string_view path) override;
   void remove(std::string_view path) override;
+  void replace(std::string_view path, std::string_view bytes) override;
   bool fileExists(std::string_view path) override;
   bool folderExists(std::string_view path) override;
   void createFolder(std::string_view path) override;
   void deleteFolder(std::string_view path) override;
   std::string shortPath(std::string_view path) override;
-
-  // Writes a file whole: at every moment it is the old one or the new one. RuntimeError as for opening it, or
-  // where the host fails; then it is the old one.
-  void replace(std::string_view path, std::string_view bytes);
 
   // Forgets what is remembered of the disk. For those who change it in another way.
   void forget();

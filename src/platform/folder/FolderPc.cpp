@@ -39,7 +39,7 @@ void make(HostDir& folder, const std::string& name, std::unique_ptr<HostDir>& ma
   HostError error = folder.makeDir(name);
   if (error == HostError::None) error = folder.openDir(name, made);
   if (error != HostError::None) {
-    throw PcError(name, 0, "cannot be made: " + std::string(descriptionOf(errorNumberOf(error))));
+    throw PcError(name, 0, "cannot be made: " + reasonOf(error));
   }
 }
 
@@ -75,7 +75,8 @@ FolderPc::FolderPc(Opened opened, std::string commandLine, DamagedTasks damaged)
       tree_(readRegistry(opened.texts.registry)),
       facts_(opened.texts.facts.value_or("")),
       rules_{facts_.family, facts_.noRights},
-      disk_(*root_, facts_),
+      watched_(watched(*root_, failures_)),
+      disk_(*watched_, facts_),
       registry(tree_, rules_),
       files(disk_, facts_),
       drives(disk_, facts_),
@@ -137,9 +138,10 @@ void createPc(const std::string& folder) {
   if (root->take() == HostError::InUse) throw PcError(folder, 0, "is in use by another program: try again");
   std::unique_ptr<HostList> listing;
   HostEntry entry;
-  if (root->list(listing) != HostError::None || listing->next(entry)) {
-    throw PcError(folder, 0, "is not empty");
-  }
+  HostError error = root->list(listing);
+  if (error == HostError::None && listing->next(entry)) throw PcError(folder, 0, "is not empty");
+  if (error == HostError::None) error = listing->failure();
+  if (error != HostError::None) throw PcError(folder, 0, "cannot be read: " + reasonOf(error));
   std::unique_ptr<HostDir> drive;
   std::unique_ptr<HostDir> parent;
   std::unique_ptr<HostDir> child;

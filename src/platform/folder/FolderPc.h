@@ -16,6 +16,7 @@
 #include "platform/folder/HostDir.h"
 #include "platform/folder/PcFacts.h"
 #include "platform/folder/RegistryTree.h"
+#include "platform/folder/WatchedDir.h"
 
 namespace zub {
 
@@ -38,6 +39,9 @@ class FolderPc {
   // be saved, a text of tasks that failed earlier too. Where it fails the old text stands, and a later save
   // tries again.
   void save();
+
+  // What failed on the drives so far and that nobody may have told.
+  const HostFailures& failures() const { return failures_; }
 
   // The content, past all services.
   RegistryTree& registryTree() { return tree_; }
@@ -66,6 +70,8 @@ class FolderPc {
   RegistryTree tree_;
   PcFacts facts_;
   FolderRegistry::Rules rules_;
+  HostFailures failures_;
+  std::unique_ptr<HostDir> watched_;
   FolderDisk disk_;
 
  public:

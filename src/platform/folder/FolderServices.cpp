@@ -113,7 +113,7 @@ bool FolderProcess::otherInstanceRuns() {
   if (taken_) return false;
   const HostError error = root_.take();
   if (error != HostError::None && error != HostError::InUse) {
-    throw PcError("the PC", 0, "cannot be locked: " + std::string(descriptionOf(errorNumberOf(error))));
+    throw PcError("the PC", 0, "cannot be locked: " + reasonOf(error));
   }
   taken_ = error == HostError::None && !outdated_();
   return !taken_;

@@ -54,6 +54,8 @@ class HostList {
   virtual ~HostList() = default;
   // False at the end, and where the host fails. The name keeps its capacity from call to call.
   virtual bool next(HostEntry& entry) = 0;
+  // Why a listing ended before its end.
+  virtual HostError failure() const = 0;
   // Fills size and read-only of an entry that it told; for hosts whose listings lack them.
   virtual void complete(HostEntry&) {}
 };
@@ -102,7 +104,7 @@ class HostDir {
   // Within this folder; an existing file of the new name is replaced in one step. On a POSIX host
   // the new one takes over its permissions and, where this user may give it away, its owner.
   virtual HostError rename(const std::string& from, const std::string& to) = 0;
-  // The names in this folder have reached the disk. Does nothing where the host needs no such thing.
+  // The names in this folder have reached the disk. Does nothing where the host needs or knows no such thing.
   virtual HostError sync() = 0;
   // Takes this folder for this process until the HostDir goes. InUse where another HostDir on the same
   // folder, of this or another process, has taken it. A disk that knows no locks lets everybody.

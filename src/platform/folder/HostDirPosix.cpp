@@ -107,6 +107,7 @@ class PosixFile : public HostFile {
       const ssize_t part = ::pwrite(handle_.get(), bytes.data(), bytes.size(), static_cast<off_t>(offset));
       if (part < 0 && errno == EINTR) continue;
       if (part < 0) return errorOf(errno);
+      if (part == 0) return HostError::DeviceFailure;
       bytes.remove_prefix(static_cast<std::size_t>(part));
       offset += static_cast<std::uint64_t>(part);
     }
@@ -127,7 +128,7 @@ class PosixList : public HostList {
   ~PosixList() override { ::closedir(folder_); }
 
   bool next(HostEntry& entry) override {
-    while (const dirent* found = ::readdir(folder_)) {
+    while (const dirent* found = nextOfHost()) {
       entry.name = found->d_name;
       if (!isPart(entry.name)) continue;
       entry.stat = {};
@@ -139,14 +140,27 @@ class PosixList : public HostList {
     return false;
   }
 
+  HostError failure() const override { return failure_; }
+
+  // An entry that is gone meanwhile is none.
   void complete(HostEntry& entry) override {
     struct stat host {};
-    if (::fstatat(::dirfd(folder_), entry.name.c_str(), &host, AT_SYMLINK_NOFOLLOW) < 0) return;
+    if (::fstatat(::dirfd(folder_), entry.name.c_str(), &host, AT_SYMLINK_NOFOLLOW) < 0) {
+      if (errno != ENOENT) failure_ = errorOf(errno);
+      return;
+    }
     entry.stat = statOf(host);
     entry.complete = true;
   }
 
  private:
+  const dirent* nextOfHost() {
+    errno = 0;
+    const dirent* found = ::readdir(folder_);
+    if (found == nullptr && errno != 0) failure_ = errorOf(errno);
+    return found;
+  }
+
   static bool kindByType(unsigned char type, HostKind& kind) {
     if (type == DT_UNKNOWN) return false;
     kind = type == DT_REG   ? HostKind::File
@@ -157,6 +171,7 @@ class PosixList : public HostList {
   }
 
   DIR* folder_;
+  HostError failure_ = HostError::None;
 };
 
 constexpr int FolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
@@ -247,7 +262,10 @@ class PosixDir : public HostDir {
     return result(::renameat(handle_.get(), from.c_str(), handle_.get(), to.c_str()));
   }
 
-  HostError sync() override { return result(::fsync(handle_.get())); }
+  HostError sync() override {
+    const bool done = ::fsync(handle_.get()) == 0 || errno == EINVAL || errno == EOPNOTSUPP;
+    return done ? HostError::None : errorOf(errno);
+  }
 
   HostError take() override {
     if (::flock(handle_.get(), LOCK_EX | LOCK_NB) == 0) return HostError::None;

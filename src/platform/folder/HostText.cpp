@@ -16,21 +16,50 @@ std::string tooLarge(const char* verb) {
   return std::string(verb) + " larger than " + std::to_string(MostTextBytes >> 20) + " MiB";
 }
 
-std::string reasonOf(HostError error) {
-  return std::string(descriptionOf(errorNumberOf(error)));
-}
-
-// A name that nobody has: a file of somebody else's stays as it is.
-HostError makeBeside(HostDir& folder, const std::string& name, std::string& beside,
-                     std::unique_ptr<HostFile>& file) {
-  const std::string own = name + "." + std::to_string(::getpid());
-  HostError error = HostError::Exists;
-  for (int number = 0; error == HostError::Exists && number < MostTries; ++number) {
-    beside = own + (number == 0 ? "" : "-" + std::to_string(number)) + std::string(BesideEnd);
-    error = folder.openFile(beside, HostOpen::New, file);
+// The file beside. It goes unless it has been put in place, whatever happens.
+class Beside {
+ public:
+  Beside(HostDir& folder, const std::string& name) : folder_(folder), name_(name) {}
+  Beside(const Beside&) = delete;
+  Beside& operator=(const Beside&) = delete;
+  ~Beside() {
+    file_.reset();
+    if (made_) folder_.removeFile(beside_);
   }
-  return error;
-}
+
+  HostError write(std::string_view bytes) {
+    HostError error = make();
+    if (error == HostError::None) error = file_->write(0, bytes);
+    if (error == HostError::None) error = file_->sync();
+    file_.reset();
+    return error;
+  }
+  HostError putInPlace() {
+    const HostError error = folder_.rename(beside_, name_);
+    made_ = error != HostError::None;
+    return error;
+  }
+
+ private:
+  // Under a name that nobody has: a file of somebody else's stays as it is.
+  HostError make() {
+    const std::string own = name_ + "." + std::to_string(::getpid());
+    HostError error = HostError::Exists;
+    for (int number = 0; error == HostError::Exists && number < MostTries; ++number) {
+      beside_ = own + (number == 0 ? "" : "-" + std::to_string(number)) + std::string(BesideEnd);
+      made_ = true;  // also where the call fails after that
+      error = folder_.openFile(beside_, HostOpen::New, file_);
+      if (error == HostError::Exists) made_ = false;
+    }
+    return error;
+  }
+
+  HostDir& folder_;
+  const std::string& name_;
+  std::string beside_;
+  std::unique_ptr<HostFile> file_;
+  bool made_ = false;
+};
 
 bool isBeside(std::string_view entry, std::string_view name) {
   if (!entry.starts_with(name) || !entry.ends_with(BesideEnd)) return false;
@@ -57,25 +86,15 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
     error = file->read(0, text, done);
   }
   if (error != HostError::None) throw PcError(name, 0, "cannot be read: " + reasonOf(error));
-  text.resize(done);
+  if (done != length) throw PcError(name, 0, "was changed while it was read: try again");
   return text;
 }
 
 HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_view bytes) {
-  std::string beside;
-  std::unique_ptr<HostFile> file;
-  HostError error = makeBeside(folder, name, beside, file);
-  if (error != HostError::None) return error;
-  error = file->write(0, bytes);
-  if (error == HostError::None) error = file->sync();
-  file.reset();
-  if (error == HostError::None) error = folder.rename(beside, name);
-  if (error == HostError::None) {
-    folder.sync();
-  } else {
-    folder.removeFile(beside);
-  }
-  return error;
+  Beside beside(folder, name);
+  HostError error = beside.write(bytes);
+  if (error == HostError::None) error = beside.putInPlace();
+  return error == HostError::None ? folder.sync() : error;
 }
 
 void replaceHostText(HostDir& folder, const std::string& name, std::string_view text) {

@@ -101,21 +101,6 @@ struct RegistryNode {
   std::string path() const;
 };
 
-// One of the hives that every PC has.
-struct HiveName {
-  Hive hive;
-  std::string_view name;
-};
-inline constexpr std::array<HiveName, 7> HiveNames{{
-    {Hive::ClassesRoot, "HKEY_CLASSES_ROOT"},
-    {Hive::CurrentConfig, "HKEY_CURRENT_CONFIG"},
-    {Hive::CurrentUser, "HKEY_CURRENT_USER"},
-    {Hive::DynData, "HKEY_DYN_DATA"},
-    {Hive::LocalMachine, "HKEY_LOCAL_MACHINE"},
-    {Hive::PerformanceData, "HKEY_PERFORMANCE_DATA"},
-    {Hive::Users, "HKEY_USERS"},
-}};
-
 class RegistryTree {
  public:
   RegistryTree();

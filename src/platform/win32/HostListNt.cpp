@@ -1,5 +1,7 @@
 #include "platform/win32/HostListNt.h"
 
+#include <ntstatus.h>
+
 namespace zub {
 namespace {
 
@@ -24,6 +26,8 @@ bool HostListNt::fill() {
       nt().queryDirectory(folder_.get(), nullptr, nullptr, nullptr, &io, buffer_.data(),
                           static_cast<ULONG>(buffer_.size() * sizeof(ULONGLONG)), FileDirectoryInformation,
                           FALSE, name_.empty() ? nullptr : &only, FALSE);
+  if (status < 0 && status != STATUS_NO_MORE_FILES && status != STATUS_NO_SUCH_FILE)
+    failure_ = hostError(status);
   if (status < 0 || io.Information == 0) return false;
   record_ = reinterpret_cast<const FILE_DIRECTORY_INFORMATION*>(buffer_.data());
   return true;

@@ -17,6 +17,7 @@ class HostListNt : public HostList {
   explicit HostListNt(NtHandle folder, std::wstring name = {})
       : folder_(std::move(folder)), name_(std::move(name)) {}
   bool next(HostEntry& entry) override;
+  HostError failure() const override { return failure_; }
 
  private:
   bool fill();
@@ -25,6 +26,7 @@ class HostListNt : public HostList {
   std::wstring name_;
   std::vector<ULONGLONG> buffer_;  // aligned as the records want it
   const FILE_DIRECTORY_INFORMATION* record_ = nullptr;
+  HostError failure_ = HostError::None;
 };
 
 }  // namespace zub

@@ -16,23 +16,31 @@ struct ModeRow {
   DWORD disposition;
 };
 
+constexpr DWORD Everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
 constexpr ModeRow modes[] = {
     {GENERIC_READ | GENERIC_WRITE, 0, OPEN_ALWAYS},  // Binary
-    {GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING},  // Input
+    {GENERIC_READ, Everything, OPEN_EXISTING},       // Input
     {GENERIC_WRITE, 0, CREATE_ALWAYS},               // Output
 };
 
 }  // namespace
 
-// The 9x family has no reparse points and does not know the flag.
-HANDLE openFile(const char* path, OpenMode mode, bool makes) {
+bool isFamily9x() {
   static const bool family9x = (GetVersion() & 0x80000000) != 0;
+  return family9x;
+}
+
+// The 9x family has no reparse points, and refuses a call that shares the removal.
+HANDLE openFile(const char* path, OpenMode mode, bool makes) {
+  const bool family9x = isFamily9x();
   const ModeRow& row = modes[static_cast<std::size_t>(mode)];
   const DWORD disposition = makes ? row.disposition : OPEN_EXISTING;
+  const DWORD sharing = family9x ? row.sharing & ~static_cast<DWORD>(FILE_SHARE_DELETE) : row.sharing;
   const DWORD flags = FILE_ATTRIBUTE_NORMAL | (family9x ? 0 : FILE_FLAG_OPEN_REPARSE_POINT);
-  HANDLE file = CreateFileA(path, row.access, row.sharing, nullptr, disposition, flags, nullptr);
+  HANDLE file = CreateFileA(path, row.access, sharing, nullptr, disposition, flags, nullptr);
   if (file == INVALID_HANDLE_VALUE && GetLastError() == ERROR_ACCESS_DENIED)
-    file = openFolderLink(path, row.access, row.sharing);
+    file = openFolderLink(path, row.access, sharing);
   if (file == INVALID_HANDLE_VALUE) throwLastError();
   return file;
 }

@@ -6,6 +6,7 @@
 
 namespace zub {
 
+bool isFamily9x();
 // Opens as the mode says; `makes` false: never makes a missing file. Throws.
 HANDLE openFile(const char* path, OpenMode mode, bool makes);
 // 0 for a reparse point.

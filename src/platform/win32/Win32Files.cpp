@@ -8,6 +8,7 @@
 #include "platform/win32/Win32Error.h"
 #include "platform/win32/Win32FileChannel.h"
 #include "platform/win32/Win32FileSearch.h"
+#include "platform/win32/Win32Replace.h"
 
 namespace zub {
 namespace {
@@ -74,6 +75,10 @@ std::int64_t Win32Files::openedLength(std::string_view path) {
 
 void Win32Files::remove(std::string_view path) {
   if (!removeEntry(std::string(path).c_str())) throwLastError();
+}
+
+void Win32Files::replace(std::string_view path, std::string_view bytes) {
+  replaceFile(std::string(path), bytes);
 }
 
 bool Win32Files::fileExists(std::string_view path) {

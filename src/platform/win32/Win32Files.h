@@ -13,6 +13,7 @@ class Win32Files : public Files {
   std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override;
   std::int64_t openedLength(std::string_view path) override;
   void remove(std::string_view path) override;
+  void replace(std::string_view path, std::string_view bytes) override;
   bool fileExists(std::string_view path) override;
   bool folderExists(std::string_view path) override;
   void createFolder(std::string_view path) override;
