@@ -71,8 +71,8 @@ there is no plugin "Café"|--pc "$pc" plugin show Café
 plugin check reads .zb1 and .zb2 files|--pc "$pc" plugin check C:\\polish.txt
 C:\polish.zb1: File not found|--pc "$pc" plugin check C:\\polish.zb1
 cookies takes "ie" or "netscape"|--pc "$pc" cookies opera
-cookies takes "keep" or "drop" and the numbers of the list|--pc "$pc" cookies ie eat 1
-"one" is no number of the list|--pc "$pc" cookies ie keep one
+cookies takes "keep" or "drop" and numbers of the list, ranges or sites|--pc "$pc" cookies ie eat 1
+"3-1" is no number of the list|--pc "$pc" cookies ie keep 3-1
 schedule add takes a date and a time|--pc "$pc" schedule add 12/24/2030
 there is no dated wash 1x|--pc "$pc" schedule remove 1x
 END

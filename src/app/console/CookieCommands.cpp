@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "app/console/Commands.h"
+#include "app/console/CookieChoice.h"
 #include "base/Text.h"
 #include "cleaners/IECookies.h"
 #include "cleaners/NetscapeCookies.h"
@@ -11,26 +12,21 @@
 namespace zub {
 namespace {
 
-// What the arguments ask for: cookies by their numbers in the list, from 1. Nothing asked: list them.
+// What the arguments ask for. Nothing chosen: list the cookies.
 struct Wanted {
-  bool list = true;
   bool keep = false;
-  std::vector<int> numbers;
+  std::vector<CookieChoice> choices;
+  bool list() const { return choices.empty(); }
 };
 
 Wanted parse(const std::vector<std::string>& arguments) {
   Wanted wanted;
   if (arguments.size() == 1) return wanted;
   if ((arguments[1] != "keep" && arguments[1] != "drop") || arguments.size() < 3) {
-    throw UsageError("cookies takes \"keep\" or \"drop\" and the numbers of the list");
+    throw UsageError("cookies takes \"keep\" or \"drop\" and numbers of the list, ranges or sites");
   }
-  wanted.list = false;
   wanted.keep = arguments[1] == "keep";
-  for (std::size_t word = 2; word < arguments.size(); ++word) {
-    const int number = rowNumber(arguments[word]);
-    if (number < 1) throw UsageError("\"" + arguments[word] + "\" is no number of the list");
-    wanted.numbers.push_back(number);
-  }
+  for (std::size_t word = 2; word < arguments.size(); ++word) wanted.choices.emplace_back(arguments[word]);
   return wanted;
 }
 
@@ -48,29 +44,31 @@ struct List {
   bool changed = false;
 };
 
-// The cookies are numbered through all lists, from 1. Nothing is changed where one of the numbers is none.
-void serve(const CommandContext& context, const Wanted& wanted, std::vector<List>& lists) {
-  struct Place {
-    List& list;
-    CookieRow& row;
-  };
-  std::vector<Place> all;
+void print(const CommandContext& context, const std::vector<List>& lists) {
+  int number = 0;
+  for (const List& list : lists) {
+    if (!list.heading.empty()) context.print(list.heading);
+    for (const CookieRow& row : list.rows) context.print(rowText(++number, row));
+  }
+}
+
+// The cookies are numbered through all lists, from 1. Nothing is changed where one of the choices is none.
+void change(const CommandContext& context, const Wanted& wanted, std::vector<List>& lists) {
+  std::vector<CookieRow*> rows;
+  std::vector<List*> listOfRow;
   for (List& list : lists) {
-    if (wanted.list && !list.heading.empty()) context.print(list.heading);
     for (CookieRow& row : list.rows) {
-      all.push_back({list, row});
-      if (wanted.list) context.print(rowText(static_cast<int>(all.size()), row));
+      rows.push_back(&row);
+      listOfRow.push_back(&list);
     }
   }
-  for (const int number : wanted.numbers) {
-    if (number > static_cast<int>(all.size())) {
-      throw UsageError("there is no cookie " + std::to_string(number));
-    }
+  std::vector<std::size_t> chosen;
+  for (const CookieChoice& choice : wanted.choices) {
+    for (const std::size_t place : choice.of(rows, context.pc.platform().codePage)) chosen.push_back(place);
   }
-  for (const int number : wanted.numbers) {
-    const Place& place = all[static_cast<std::size_t>(number) - 1];
-    place.row.kept = wanted.keep;
-    place.list.changed = true;
+  for (const std::size_t place : chosen) {
+    rows[place]->kept = wanted.keep;
+    listOfRow[place]->changed = true;
   }
   for (const List& list : lists) {
     if (list.changed) list.save(list.rows);
@@ -119,13 +117,18 @@ int cookiesCommand(CommandContext& context) {
     throw UsageError("cookies takes \"ie\" or \"netscape\"");
   }
   const Wanted wanted = parse(arguments);
-  if (!wanted.list) context.needAlone();
+  if (!wanted.list()) context.needAlone();
   Options options;
   Engine engine(context.pc.platform(), options);
   const bool netscape = arguments[0] == "netscape";
   std::vector<List> lists = netscape ? netscapeLists(engine) : internetExplorerLists(engine);
-  if (netscape && wanted.list && lists.empty()) context.print("Cannot find a copy of Netscape 6.x");
-  serve(context, wanted, lists);
+  if (!wanted.list()) {
+    change(context, wanted, lists);
+  } else if (netscape && lists.empty()) {
+    context.print("Cannot find a copy of Netscape 6.x");
+  } else {
+    print(context, lists);
+  }
   return exitStatus::Done;
 }
 

@@ -4,15 +4,18 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <ctime>
 #include <deque>
 
 #include "app/console/Commands.h"
+#include "app/console/Printable.h"
 #include "app/console/Store.h"
+#include "base/Numbers.h"
 #include "platform/folder/FolderTasks.h"
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
 #include "scheduler/AutomaticInterval.h"
-#include "scheduler/DatedEntries.h"
+#include "scheduler/DatedTask.h"
 #include "scheduler/DueTimes.h"
 
 namespace zub {
@@ -32,7 +35,7 @@ class Scheduler {
       : context_(context),
         clock_(context.pc.platform().clock),
         root_(openHostDir(context.pc.folder())),
-        due_(clock_.local()),
+        due_(clock_.local(), std::time(nullptr)),
         automatic_(clock_, options_) {
     automatic_.startWash = [this] {
       if (waiting_.empty()) waiting_.push_back({"", washCommand});
@@ -46,8 +49,10 @@ class Scheduler {
       guarded(optionsFailure_, [this] { readOptions(); });
     }
     guarded(tasksFailure_, [this] { readTasks(); });
-    for (int due = due_.look(times_, now); due > 0; --due) waiting_.push_back({parameters_, startCommand});
+    const int due = due_.look(times_, now, std::time(nullptr));
+    for (int start = 0; start < due; ++start) waiting_.push_back({parameters_, startCommand});
     automatic_.Timer_Tick();
+    tellNext(now);
     while (!waiting_.empty() && start(waiting_.front())) waiting_.pop_front();
   }
 
@@ -66,7 +71,8 @@ class Scheduler {
       work();
       told.clear();
     } catch (const std::exception& error) {
-      if (told != error.what()) std::fprintf(stderr, "%s: %s\n", programName, error.what());
+      if (told != error.what())
+        std::fprintf(stderr, "%s: %s\n", programName, printableLines(error.what()).c_str());
       told = error.what();
     }
   }
@@ -83,10 +89,34 @@ class Scheduler {
     const std::vector<TaskRecord> tasks = readTasksText(text, FolderTasks::FileName);
     tasksText_ = text;
     times_.clear();
-    const auto task = std::ranges::find(tasks, DatedEntries::TaskName, &TaskRecord::name);
+    const auto task = std::ranges::find(tasks, DatedTaskName, &TaskRecord::name);
     if (task == tasks.end()) return;
     parameters_ = task->parameters;
     for (const TriggerRecord& trigger : task->triggers) times_.push_back(trigger.begin);
+  }
+
+  // What comes next, told once.
+  void tellNext(const SystemTime& now) {
+    std::int64_t first = 0;
+    for (const SystemTime& time : times_) {
+      const std::int64_t moment = secondsOf(time);
+      if (moment > secondsOf(now) && (first == 0 || moment < first)) first = moment;
+    }
+    std::string next = "Next dated wash: none";
+    if (first != 0) {
+      const SystemTime time = timeFromSeconds(first);
+      next = "Next dated wash: " + clock_.dateText(time) + " " + clock_.timeText(time);
+    }
+    if (options_.chkRunAuto.Value() == 1) {
+      const SystemTime& time = automatic_.NextRemoval;
+      next += "\nNext wash by the interval: " + twoDigits(time.wHour) + ":" + twoDigits(time.wMinute);
+      const bool comes = time.wHour < 24 && time.wMinute < 60;
+      if (!comes) next += ", which no clock shows: switch chkRunAuto off for a minute";
+    }
+    if (next == toldNext_) return;
+    toldNext_ = next;
+    std::printf("%s\n", next.c_str());
+    std::fflush(stdout);
   }
 
   // The interval's two options, as the store keeps them now.
@@ -134,6 +164,7 @@ class Scheduler {
   std::string tasksText_;
   std::string tasksFailure_;
   std::string optionsFailure_;
+  std::string toldNext_;
   int minute_ = -1;
 };
 

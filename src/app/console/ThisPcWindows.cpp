@@ -1,4 +1,5 @@
 #include "app/console/ConsolePc.h"
+#include "app/console/Printable.h"
 #include "platform/win32/NtCalls.h"
 #include "platform/win32/Text.h"
 #include "platform/win32/Win32Platform.h"
@@ -23,7 +24,9 @@ class ThisPc : public ConsolePc {
   void save() override {}  // the system keeps what was changed
   std::vector<std::string> failures() const override { return {}; }
   std::string folder() const override { return {}; }
-  std::string toTerminal(std::string_view text) const override { return std::string(text); }
+  std::string toTerminal(std::string_view text) const override {
+    return printable(std::string(text), Letters::OneByte);
+  }
   std::string fromTerminal(std::string_view text) const override {
     return narrow(wideName(std::string(text)));
   }

@@ -4,16 +4,20 @@
 #include "app/Program.h"
 #include "app/console/Commands.h"
 #include "app/console/Store.h"
+#include "base/Text.h"
 #include "platform/folder/PcError.h"
 
 namespace zub {
 namespace {
 
-// The report lies in memory with CR LF; a terminal wants neither CR nor a blank line at its end.
-std::string withoutCarriageReturns(std::string text) {
-  std::erase(text, '\r');
-  while (text.ends_with('\n')) text.pop_back();
-  return text;
+// The report lies in memory with CR LF behind each line; a terminal wants no blank line at its end.
+void printLines(const CommandContext& context, std::string_view text) {
+  while (text.ends_with(CrLf)) text.remove_suffix(CrLf.size());
+  for (auto end = text.find(CrLf); end != std::string_view::npos; end = text.find(CrLf)) {
+    context.print(text.substr(0, end));
+    text.remove_prefix(end + CrLf.size());
+  }
+  context.print(text);
 }
 
 // What could not be saved. After a wash in the midst of the program it is tried again at the end.
@@ -28,7 +32,7 @@ std::optional<PcError> saved(ConsolePc& pc) {
 
 void printReport(const CommandContext& context, Program& program) {
   if (program.engine.clean.txtResult.empty()) return;
-  context.print(withoutCarriageReturns(program.engine.clean.txtResult));
+  printLines(context, program.engine.clean.txtResult);
   const frmAnimated::State& shown = program.engine.animated.peek().state;
   context.print("");
   context.print(shown.lblRemove.Caption);

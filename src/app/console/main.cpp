@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/console/Commands.h"
+#include "app/console/Printable.h"
 #include "base/RuntimeError.h"
 #include "platform/folder/FolderPc.h"
 
@@ -132,7 +133,7 @@ int main(int count, char** words) {
   } catch (const std::bad_alloc&) {
     std::fprintf(stderr, "%s: out of memory\n", programName);
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "%s: %s\n", programName, error.what());
+    std::fprintf(stderr, "%s: %s\n", programName, printableLines(error.what()).c_str());
   } catch (...) {
     std::fprintf(stderr, "%s: an unknown failure\n", programName);
   }
