@@ -20,9 +20,12 @@ constexpr std::array kinds{Kind{"", Picture::None}, Kind{"Removing registry entr
 
 }  // namespace
 
+// The window may still be there: a wait for the user behind the last wash, or the unseen rest of one whose display
+// was closed. Only the window stays; the board begins anew.
 void frmAnimated::StartClean() {
-  state.lblRemove.Caption.clear();
-  state.lblCurrent.Caption.clear();
+  const Form window = state.form;
+  state = State{};
+  state.form = window;
   state.form.Show();
   engine_.clean.CleanAll();
 }

@@ -77,6 +77,20 @@ TEST_CASE("a second instance ends by itself, and the first one stays as it is") 
   CHECK(first.main() == main);
 }
 
+TEST_CASE("an instance with other rights is seen by what it denies") {
+  const Story story;
+  ACL nobody;
+  SECURITY_DESCRIPTOR descriptor;
+  REQUIRE(InitializeAcl(&nobody, sizeof nobody, ACL_REVISION) != 0);
+  REQUIRE(InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION) != 0);
+  REQUIRE(SetSecurityDescriptorDacl(&descriptor, TRUE, &nobody, FALSE) != 0);
+  SECURITY_ATTRIBUTES denied{sizeof denied, &descriptor, FALSE};
+  const HANDLE other = CreateMutexA(&denied, FALSE, "Zubrane runs");
+  REQUIRE(other != nullptr);
+  CHECK(Zub().ends());
+  CloseHandle(other);
+}
+
 TEST_CASE("started with Windows, the program waits in the tray with its lists filled") {
   const Story story;
   const Zub zub("/STARTUP");

@@ -8,18 +8,6 @@ namespace {
 
 const std::string Explorer = "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
 
-// Enough work that a person can press a button in its midst: files that are shredded again and again.
-std::size_t seedLongWork() {
-  constexpr std::size_t Files = 60;
-  const std::string bytes(256 * 1024, 'x');
-  for (std::size_t file = 0; file < Files; ++file)
-    pc::put(pc::temp() / ("long" + std::to_string(file)), bytes);
-  pc::option("chkTempFolder");
-  pc::option("chkBleach");
-  pc::option("cmbShredder", "8");
-  return Files;
-}
-
 }  // namespace
 
 TEST_CASE("the items that are ticked are washed, and nothing beside them") {
@@ -61,7 +49,7 @@ TEST_CASE("the items that are ticked are washed, and nothing beside them") {
 
 TEST_CASE("Cancel closes the display, and the removal goes on") {
   const Story story;
-  const std::size_t files = seedLongWork();
+  const std::size_t files = pc::seedLongWork();
   const Zub zub;
   const Window main = zub.main();
   main.child("&Start Cleaning").click();

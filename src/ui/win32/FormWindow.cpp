@@ -139,7 +139,9 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       SetFocus(GetNextDlgTabItem(hwnd(), nullptr, FALSE));
       return 0;
     case WM_QUERYENDSESSION:
-      queryEnd();
+      // Whatever ends the wash or fails in it, the session may end. An installer that only asks the program to
+      // close ends none.
+      if ((lParam & ENDSESSION_CLOSEAPP) == 0) ui_.guard.run([this] { queryEnd(); });
       return TRUE;
     case WM_ENDSESSION:
       if (wParam != 0) raise(binding_.end);
