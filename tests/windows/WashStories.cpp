@@ -94,6 +94,27 @@ TEST_CASE("the report tells of the last wash") {
   CHECK(zub.hides(title::Report));
 }
 
+TEST_CASE("a report that was minimised and closed comes up again as it was") {
+  const Story story;
+  const Zub zub;
+  const Window main = zub.main();
+  const auto canBeMinimised = [](const Window& window) {
+    return (GetWindowLongA(window.handle(), GWL_STYLE) & WS_MINIMIZEBOX) != 0;
+  };
+  CHECK(canBeMinimised(main));
+  CHECK_FALSE(canBeMinimised(wash(zub)));
+  finish(zub);
+  main.child("&View Log").click();
+  const Window report = zub.window(title::Report);
+  CHECK_FALSE(canBeMinimised(report));
+  report.send(WM_SYSCOMMAND, SC_MINIMIZE);
+  REQUIRE(IsIconic(report.handle()) != 0);
+  report.send(WM_CLOSE);
+  CHECK(zub.hides(title::Report));
+  main.child("&View Log").click();
+  CHECK(soon([&] { return report.isVisible() && IsIconic(report.handle()) == 0; }));
+}
+
 TEST_CASE("the program closes a while after the wash where that is chosen") {
   const Story story;
   pc::option("chkCloseAfterWash");

@@ -49,6 +49,7 @@ void Win32Shell::start(std::string_view program) {
 }
 
 FolderPick Win32Shell::browseForFolder(std::string_view prompt) {
+  owner_();  // brings the windows up to their forms: the one that asks is to be disabled by now
   const std::string title(prompt);
   BROWSEINFOA browse{};
   browse.lpszTitle = title.c_str();
