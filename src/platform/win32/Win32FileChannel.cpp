@@ -21,7 +21,6 @@ constexpr DWORD Everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DEL
 constexpr ModeRow modes[] = {
     {GENERIC_READ | GENERIC_WRITE, 0, OPEN_ALWAYS},  // Binary
     {GENERIC_READ, Everything, OPEN_EXISTING},       // Input
-    {GENERIC_WRITE, 0, CREATE_ALWAYS},               // Output
 };
 
 }  // namespace

@@ -78,7 +78,9 @@ bool moveOverIn9x(const std::string& beside, const std::string& path) {
 
 bool putInPlace(const std::string& beside, const Target& target) {
   if (!target.exists()) return MoveFileA(beside.c_str(), target.path.c_str()) != 0;
-  if (SetFileAttributesA(beside.c_str(), target.attributes) == 0) return false;
+  const DWORD kept =
+      target.attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE);
+  if (kept != 0 && SetFileAttributesA(beside.c_str(), kept) == 0) return false;
   if (isFamily9x()) return moveOverIn9x(beside, target.path);
   return MoveFileExA(beside.c_str(), target.path.c_str(),
                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
