@@ -46,7 +46,8 @@ class FileSearch {
 };
 
 // What is opened to be written is refused while any other program has it open. What is only read is refused
-// while another program lets nobody read it, and others may go on reading, writing and removing it.
+// while another program lets nobody read it, and others may go on reading and writing it, and removing
+// it but on the 9x family.
 enum class OpenMode : std::uint8_t {
   Binary,  // read and write, not truncated, made where it is missing
   Input,   // read an existing file

@@ -219,7 +219,8 @@ TEST_CASE_TEMPLATE("files: what others hold open can be read as they share it, a
   CHECK(failure([&] { files.open(path, OpenMode::Input); }) == 0);
   CHECK(pc.hold(path, Sharing::Everything));
   pc.unlock(path);
-  CHECK(failure([&] { files.remove(path); }) == 0);
+  const bool family9x = pc.platform().restart.platformId(148) == 1;  // shares no removal
+  CHECK(failure([&] { files.remove(path); }) == (family9x ? 70 : 0));
 }
 
 TEST_CASE_TEMPLATE("files: each mode opens what it is for", Pc, CONTRACT_PCS) {
