@@ -44,6 +44,22 @@ struct Fenced {
 
 }  // namespace
 
+TEST_CASE("what is remembered of a folder's names hides nothing that the program makes or removes") {
+  TestPc pc;
+  Files& files = pc.platform().files;
+  pc.file("C:\\T\\A long name.txt");
+  CHECK_FALSE(files.fileExists("C:\\T\\new.txt"));
+  files.open("C:\\T\\NEW.TXT", OpenMode::Output)->close();
+  CHECK(files.fileExists("C:\\T\\new.txt"));
+  files.createFolder("C:\\T\\SUB");
+  CHECK(files.folderExists("C:\\T\\sub"));
+  CHECK(files.shortPath("C:\\T\\A long name.txt") == "C:\\T\\ALONGN~1.TXT");
+  files.resetAttributes("C:\\T\\alongn~1.txt");
+  files.remove("C:\\T\\alongn~1.txt");
+  CHECK_FALSE(files.fileExists("C:\\T\\ALONGN~1.TXT"));
+  CHECK_FALSE(files.fileExists("C:\\T\\a LONG name.txt"));
+}
+
 TEST_CASE("no path leads out of the folder") {
   Fenced fenced;
   Files& files = fenced.files();

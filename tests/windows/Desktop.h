@@ -60,6 +60,9 @@ class Window {
   HWND handle_;
 };
 
+// From pixels of 96 an inch to those of this screen.
+int scaled(int pixels);
+
 // The windows on the desktop that can be seen, of one process or (0) of all.
 std::vector<Window> windowsOf(DWORD process);
 // The control that has the keyboard.

@@ -116,3 +116,12 @@ TEST_CASE("started by the task scheduler, the program washes without its main wi
   CHECK(zub.runs());
   CHECK_FALSE(zub.shows(title::Main));
 }
+
+TEST_CASE("asked for its switches, the program tells them and ends") {
+  const Story story;
+  const Zub zub("/?");
+  const std::string told = answer(zub, title::Main);
+  for (const char* name : {"/STARTUP", "/SCHEDULER"}) CHECK(told.find(name) != std::string::npos);
+  CHECK(zub.ends());
+  CHECK_FALSE(pc::hasKey(pc::Store));  // nothing was begun
+}

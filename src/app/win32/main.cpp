@@ -1,6 +1,7 @@
 // zub.exe: the program on the PC that it runs on, with its windows.
 #include "app/Program.h"
 #include "app/Timers.h"
+#include "base/Text.h"
 #include "platform/win32/Win32Platform.h"
 #include "ui/MessageBox.h"
 #include "ui/frmAbout.h"
@@ -50,7 +51,23 @@ using namespace zub;
 
 }  // namespace
 
-int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
+// What the command line may hold. Asked for with other switches it says nothing: those are obeyed.
+bool tellsSwitches(const char* arguments) {
+  const std::string_view asked = trim(arguments);
+  if (asked != "/?" && asked != "-?") return false;
+  MessageBoxA(nullptr,
+              "zub.exe\tOpens the main window.\n\n"
+              "/STARTUP\tStarts in the tray, as with Windows, and cleans if \"Starts\" is ticked among the "
+              "options.\n\n"
+              "/SCHEDULER\tStarts in the tray and cleans at once.\n\n"
+              "The switches are written in capitals. zub-console.exe --help tells the commands of the "
+              "console program.",
+              "Zubrane", MB_OK | MB_ICONINFORMATION);
+  return true;
+}
+
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR arguments, int) {
+  if (tellsSwitches(arguments)) return 0;
   INITCOMMONCONTROLSEX controls{sizeof controls,
                                 ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
   InitCommonControlsEx(&controls);

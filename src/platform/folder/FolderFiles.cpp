@@ -8,7 +8,6 @@
 #include "platform/folder/FolderSearch.h"
 #include "platform/folder/HostFailure.h"
 #include "platform/folder/HostText.h"
-#include "platform/folder/ShortName.h"
 
 namespace zub {
 namespace {
@@ -20,24 +19,6 @@ void removeForced(HostDir& folder, const std::string& name) {
     error = folder.removeFile(name);
   }
   check(error);
-}
-
-// The 8.3 name of the entry that a path calls `part` and the host, if it knows it as told, `hostName`.
-std::string shortNameIn(HostList& listing, const std::string& hostName, const std::string& part) {
-  std::vector<std::string> names;
-  std::size_t place = std::string::npos;
-  HostEntry entry;
-  while (listing.next(entry)) {
-    if (entry.name == hostName) place = names.size();
-    names.push_back(ansiFromUtf8(entry.name));
-  }
-  check(listing.failure());
-  const std::vector<std::string> shorts = shortNames(names);
-  for (std::size_t i = 0; i < names.size() && place == std::string::npos; ++i) {
-    if (equalFolded(names[i], part) || equalFolded(shorts[i], part)) place = i;
-  }
-  if (place == std::string::npos) throw RuntimeError(ErrorNumber::FileNotFound);
-  return shorts[place];
 }
 
 bool isFolder(const FolderDisk::Place& place) {
@@ -160,6 +141,7 @@ std::unique_ptr<FileChannel> FolderFiles::open(std::string_view path, OpenMode m
   const HostOpen how = writes ? HostOpen::Make : HostOpen::Read;
   std::unique_ptr<HostFile> file;
   check(place.parent->openFile(place.name, how, file));
+  if (!place.exists) disk_.forgetNames();
   return std::make_unique<FolderChannel>(std::move(file), writes);
 }
 
@@ -170,6 +152,7 @@ void FolderFiles::replace(std::string_view path, std::string_view bytes) {
   checkWritable(parts, place);
   if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
   check(replaceHostFile(*place.parent, place.name, bytes));
+  if (!place.exists) disk_.forgetNames();
 }
 
 std::int64_t FolderFiles::openedLength(std::string_view path) {
@@ -212,6 +195,7 @@ void FolderFiles::createFolder(std::string_view path) {
   checkDrive(parts.drive);
   if (place.exists) throw RuntimeError(ErrorNumber::PathFileAccess);
   check(place.parent->makeDir(place.name));
+  disk_.forgetNames();
 }
 
 void FolderFiles::deleteFolder(std::string_view path) {
@@ -269,10 +253,8 @@ std::string FolderFiles::shortPath(std::string_view path) {
     FolderPath result{parts.drive, {}};
     FolderPath walked{parts.drive, {}};
     for (const std::string& part : parts.parts) {
-      std::unique_ptr<HostList> listing;
-      check(disk_.folder(walked).list(listing));
       walked.parts.push_back(part);
-      result.parts.push_back(shortNameIn(*listing, disk_.place(walked).name, part));
+      result.parts.push_back(disk_.shortName(walked));
     }
     return result.text();
   } catch (const RuntimeError&) {

@@ -108,7 +108,7 @@ PcFacts::PcFacts(std::string_view text)
     const std::string_view line =
         text.substr(0, text.find('\n') + 1 == 0 ? text.size() : text.find('\n') + 1);
     text.remove_prefix(line.size());
-    lines_.push_back({std::string(line), {}});
+    lines_.emplace_back(line);
     try {
       take(trimmed(line.substr(0, line.find('\n'))), number);
     } catch (const Refused& refused) {
@@ -138,12 +138,16 @@ void PcFacts::take(std::string_view line, int number) {
   if (fact == Facts.end()) throw Refused{"unknown name \"" + utf8From1252(name) + "\""};
   if (!fact->many && !seen_.insert(folded(name)).second) throw Refused{"the name can stand only once"};
   fact->take(*this, value);
-  if (fact->name == "hidden" || fact->name == "system") lines_.back().key = pathOf(value).key();
+  if (fact->name == "hidden" || fact->name == "system") {
+    attributeLines_.emplace(pathOf(value).key(), lines_.size() - 1);
+  }
 }
 
 void PcFacts::dropAttributes(const std::string& key) {
   if (hidden.erase(key) + system.erase(key) == 0) return;
-  std::erase_if(lines_, [&](const Line& line) { return line.key == key; });
+  const auto [first, last] = attributeLines_.equal_range(key);
+  for (auto line = first; line != last; ++line) lines_[line->second].clear();
+  attributeLines_.erase(first, last);
   changed_ = true;
 }
 
@@ -151,14 +155,17 @@ void PcFacts::addRemoveAtRestart(const FolderPath& path) {
   const std::string text = path.text();
   if (std::ranges::find(removeAtRestart, text) != removeAtRestart.end()) return;
   removeAtRestart.push_back(text);
-  if (!lines_.empty() && !lines_.back().text.ends_with('\n')) lines_.back().text += '\n';
-  lines_.push_back({"remove at restart = " + utf8From1252(text) + "\n", {}});
+  lines_.push_back("remove at restart = " + utf8From1252(text) + "\n");
   changed_ = true;
 }
 
 std::string PcFacts::text() const {
   std::string result;
-  for (const Line& line : lines_) result += line.text;
+  for (const std::string& line : lines_) {
+    // Only the last line that was read may lack its end.
+    if (!line.empty() && !result.empty() && !result.ends_with('\n')) result += '\n';
+    result += line;
+  }
   return result;
 }
 

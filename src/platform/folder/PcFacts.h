@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/Services.h"
@@ -47,14 +48,10 @@ class PcFacts {
   std::string text() const;
 
  private:
-  struct Line {
-    std::string text;  // with its end
-    std::string key;   // of a hidden or system fact
-  };
-
   void take(std::string_view line, int number);
 
-  std::vector<Line> lines_;
+  std::vector<std::string> lines_;  // with their ends; empty when taken away
+  std::unordered_multimap<std::string, std::size_t> attributeLines_;  // hidden and system, by FolderPath::key
   std::set<std::string> seen_;
   bool changed_ = false;
 };

@@ -5,11 +5,41 @@
 namespace zub {
 namespace {
 
-int screenDpi() {
+constexpr std::string_view Narrow = "Arial Narrow", Wide = "Arial";
+constexpr int NarrowOfWide = 82;  // hundredths
+
+HFONT create(std::string_view name, int height, int width, bool bold) {
+  return CreateFontA(-height, width, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                     OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_SWISS,
+                     std::string(name).c_str());
+}
+
+// What the system gives for a font, which it may lack.
+struct Given {
+  std::string face;
+  int averageWidth;
+};
+Given givenFor(HFONT font) {
   const HDC screen = GetDC(nullptr);
-  const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
+  const HGDIOBJ before = SelectObject(screen, font);
+  char face[LF_FACESIZE] = "";
+  GetTextFaceA(screen, sizeof face, face);
+  TEXTMETRICA metrics{};
+  GetTextMetricsA(screen, &metrics);
+  SelectObject(screen, before);
   ReleaseDC(nullptr, screen);
-  return dpi;
+  return {face, static_cast<int>(metrics.tmAveCharWidth)};
+}
+
+// A bare Windows has no narrow letters: the common ones are drawn as narrow, for as much text to a line.
+HFONT made(std::string_view name, int height, bool bold) {
+  const HFONT font = create(name, height, 0, bold);
+  if (name != Narrow || givenFor(font).face == Narrow) return font;
+  DeleteObject(font);
+  const HFONT wide = create(Wide, height, 0, bold);
+  const HFONT squeezed = create(Wide, height, MulDiv(givenFor(wide).averageWidth, NarrowOfWide, 100), bold);
+  DeleteObject(wide);
+  return squeezed;
 }
 
 }  // namespace
@@ -19,21 +49,15 @@ COLORREF plainColor(Color color) {
   return (color & SystemMark) != 0 ? GetSysColor(static_cast<int>(color & 0xFF)) : color;
 }
 
-Fonts::Fonts() : dpi_(screenDpi()) {}
-
 Fonts::~Fonts() {
   for (const auto& [key, font] : fonts_) DeleteObject(font);
   for (const auto& [color, brush] : brushes_) DeleteObject(brush);
 }
 
 HFONT Fonts::font(std::string_view name, float points, bool bold) {
-  const int height = static_cast<int>(std::lround(points * static_cast<float>(dpi_) / 72));
+  const int height = static_cast<int>(std::lround(points * static_cast<float>(scale_.dpi) / 72));
   HFONT& font = fonts_[{std::string(name), height, bold}];
-  if (font == nullptr) {
-    font = CreateFontA(-height, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-                       OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_SWISS,
-                       std::string(name).c_str());
-  }
+  if (font == nullptr) font = made(name, height, bold);
   return font;
 }
 

@@ -2,36 +2,26 @@
 #include "ui/win32/CommonControls.h"
 #include "ui/win32/FormPage.h"
 #include "ui/win32/FormWindow.h"
+#include "ui/win32/WindowFrame.h"
 
 namespace zub {
 namespace {
 
 constexpr const char* FormClass = "ZubraneForm";
 
-DWORD styleOf(layout::Border border) {
-  switch (border) {
-    case layout::Border::Fixed:
-      return WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_OVERLAPPED | WS_CLIPCHILDREN;
-    case layout::Border::Dialog:
-      return WS_CAPTION | WS_SYSMENU | WS_POPUP | WS_CLIPCHILDREN;
-    case layout::Border::None:
-      break;
-  }
-  return WS_POPUP | WS_CLIPCHILDREN;
-}
-
 }  // namespace
 
 FormWindow::FormWindow(Ui& ui, layout::WindowBinding binding, HWND owner)
     : OwnWindow(ui, plainColor(binding.window->background)), binding_(std::move(binding)), owner_(owner) {
   const layout::WindowSpec& window = *binding_.window;
-  const DWORD style = styleOf(window.border);
-  const DWORD extendedStyle =
-      WS_EX_CONTROLPARENT | (window.border == layout::Border::Dialog ? WS_EX_DLGMODALFRAME : DWORD{0});
-  RECT size{0, 0, ui.fonts.pixels(window.width), ui.fonts.pixels(window.height)};
-  AdjustWindowRectEx(&size, style, FALSE, extendedStyle);
-  OffsetRect(&size, -size.left, -size.top);
-  create({FormClass, std::string(window.title).c_str(), style, extendedStyle, size, owner});
+  const WindowFrame frame = frameOf(window.border);
+  const SIZE size = frame.outerSize(ui.fonts.pixels(window.width), ui.fonts.pixels(window.height));
+  create({FormClass,
+          std::string(window.title).c_str(),
+          frame.style,
+          frame.extendedStyle,
+          {0, 0, size.cx, size.cy},
+          owner});
   if (window.border == layout::Border::Dialog) showIcon();
   makeControls();
 }
@@ -40,8 +30,7 @@ FormWindow::~FormWindow() = default;
 
 // A dialog shows an icon of its own only, not that of its class.
 void FormWindow::showIcon() {
-  const HANDLE icon = LoadImageA(ui_.instance, MAKEINTRESOURCEA(ProgramIconId), IMAGE_ICON,
-                                 GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED);
+  const HICON icon = ui_.icon(GetSystemMetrics(SM_CXSMICON));
   SendMessageA(hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
 }
 
@@ -63,6 +52,8 @@ void FormWindow::makeControls() {
       makeView(spec);
   }
   if (!pages_.empty()) showPage(0);
+  // Newer systems hide where the keyboard is until a key is pressed.
+  SendMessageA(hwnd(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
 }
 
 void FormWindow::makePage(const layout::ControlSpec& spec) {

@@ -1,10 +1,11 @@
 #include "ui/win32/KitHost.h"
 
+#include "ui/win32/KitAccessible.h"
+
 namespace zub {
 namespace {
 
 constexpr UINT_PTR TimerId = 1;
-constexpr int DesignDpi = 96;
 
 std::int16_t shiftState() {
   const auto down = [](int key) { return GetKeyState(key) < 0; };
@@ -35,14 +36,18 @@ KitHost::KitHost(const ViewSite& site, Parts parts)
   parts_.control->shown();
 }
 
+KitHost::~KitHost() {
+  if (accessible_ == nullptr) return;
+  accessible_->disconnect();
+  accessible_->Release();
+}
+
 void KitHost::layOut() {
   RECT all;
   GetClientRect(hwnd(), &all);
-  const int dpi = parts_.stretched ? ui_.fonts.dpi() : DesignDpi;
   parts_.control->BackColor(background());
-  parts_.control->resize(MulDiv(static_cast<int>(all.right), DesignDpi, dpi),
-                         MulDiv(static_cast<int>(all.bottom), DesignDpi, dpi));
-  ui_.places.put(*parts_.control, {hwnd(), dpi});
+  parts_.control->resize(static_cast<int>(all.right), static_cast<int>(all.bottom));
+  ui_.places.put(*parts_.control, hwnd());
   isLaidOut_ = true;
 }
 
@@ -62,7 +67,33 @@ void KitHost::show() {
 
 void KitHost::refresh() {
   serveTimer();
-  if (changes(shownLook_, parts_.control->revision())) InvalidateRect(hwnd(), nullptr, FALSE);
+  if (!changes(shownLook_, parts_.control->revision())) return;
+  InvalidateRect(hwnd(), nullptr, FALSE);
+  if (accessible_ != nullptr) tellChanges();
+}
+
+LRESULT KitHost::handOutAccessible(WPARAM wParam) {
+  if (accessible_ == nullptr) {
+    accessible_ = KitAccessible::make(hwnd(), *parts_.control);
+    if (accessible_ == nullptr) return 0;
+    tellChanges();
+  }
+  return accessible_->handOut(wParam);
+}
+
+void KitHost::tellChanges() {
+  const controls::Control& control = *parts_.control;
+  std::vector<controls::Described> now = {control.described()};
+  for (int part = 0; part < control.parts(); ++part) now.push_back(control.describedPart(part));
+  for (std::size_t at = 0; at < told_.size() && at < now.size(); ++at) {
+    const auto child = static_cast<LONG>(at);
+    if (now[at].name != told_[at].name) tellAccessible(EVENT_OBJECT_NAMECHANGE, hwnd(), child);
+    if (now[at].checked != told_[at].checked) tellAccessible(EVENT_OBJECT_STATECHANGE, hwnd(), child);
+    if (!now[at].selected || told_[at].selected) continue;
+    tellAccessible(EVENT_OBJECT_SELECTION, hwnd(), child);
+    if (focused_) tellAccessible(EVENT_OBJECT_FOCUS, hwnd(), child);
+  }
+  told_ = std::move(now);
 }
 
 void KitHost::paint() {
@@ -73,10 +104,7 @@ void KitHost::paint() {
   controls::Surface surface = ui_.canvas.surface(control.width(), control.height());
   control.paint(surface);
   if (focused_) paintFocus(canvas);
-  RECT all;
-  GetClientRect(hwnd(), &all);
-  StretchBlt(dc, 0, 0, static_cast<int>(all.right), static_cast<int>(all.bottom), canvas, 0, 0,
-             control.width(), control.height(), SRCCOPY);
+  BitBlt(dc, 0, 0, control.width(), control.height(), canvas, 0, 0, SRCCOPY);
   EndPaint(hwnd(), &painting);
 }
 
@@ -98,11 +126,9 @@ void KitHost::serveTimer() {
     KillTimer(hwnd(), TimerId);
 }
 
-controls::Mouse KitHost::mouseAt(std::int16_t buttons, LPARAM place) const {
-  const float scale =
-      parts_.stretched ? static_cast<float>(DesignDpi) / static_cast<float>(ui_.fonts.dpi()) : 1.0F;
-  return {buttons, shiftState(), static_cast<float>(static_cast<short>(LOWORD(place))) * scale,
-          static_cast<float>(static_cast<short>(HIWORD(place))) * scale};
+controls::Mouse KitHost::mouseAt(std::int16_t buttons, LPARAM place) {
+  return {buttons, shiftState(), static_cast<float>(static_cast<short>(LOWORD(place))),
+          static_cast<float>(static_cast<short>(HIWORD(place)))};
 }
 
 bool KitHost::onMouse(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -128,6 +154,15 @@ bool KitHost::onMouse(UINT message, WPARAM wParam, LPARAM lParam) {
     return true;
   }
   return false;
+}
+
+// The control itself (0), or a part of it, numbered from 1.
+void KitHost::press(int part) {
+  if (part > 0 && part <= parts_.control->parts())
+    parts_.control->pressPart(part - 1);
+  else
+    parts_.control->press();
+  refresh();
 }
 
 void KitHost::onKey(UINT message, WPARAM wParam) {
@@ -174,9 +209,13 @@ LRESULT KitHost::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_GETDLGCODE:
       return parts_.dialogCode;
     case BM_CLICK:
-      parts_.control->press();
-      refresh();
+      press(static_cast<int>(wParam));
       return 0;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(lParam) == LONG{OBJID_CLIENT}) {
+        if (const LRESULT object = handOutAccessible(wParam); object != 0) return object;
+      }
+      break;
     default:
       break;
   }

@@ -1,4 +1,5 @@
 // The controls of the kit, each tied to the state that it shows.
+#include "engine/TaskTable.h"
 #include "ui/controls/Clock.h"
 #include "ui/controls/ListBox.h"
 #include "ui/controls/XPCheck.h"
@@ -73,6 +74,8 @@ KitHost::Parts iconList(const ViewSite& site) {
     state.checks->Check(row, list.Check(row));
     state.ClickCheck(row);
   };
+  for (const TaskRow& task : taskTable())
+    if (task.iconRow >= 0) list.ItemName(static_cast<std::int16_t>(task.iconRow), task.status);
   list.Initialise();
   KitHost::Parts parts;
   parts.control = std::move(control);
@@ -84,7 +87,6 @@ KitHost::Parts iconList(const ViewSite& site) {
   };
   parts.dialogCode = DLGC_WANTARROWS;
   parts.takesFocus = true;
-  parts.stretched = true;
   return parts;
 }
 
@@ -98,7 +100,6 @@ KitHost::Parts clock(const ViewSite& site) {
     if (changes(shown, display->text)) clock.SetText(shown);
     if (clock.colonIsVisible() != display->colon) clock.Blink();
   };
-  parts.stretched = true;
   return parts;
 }
 
@@ -107,7 +108,6 @@ KitHost::Parts closeButton(const ViewSite& site) {
   control->Click = site.click();
   KitHost::Parts parts;
   parts.control = std::move(control);
-  parts.stretched = true;
   return parts;
 }
 
@@ -120,7 +120,6 @@ KitHost::Parts picture(const ViewSite& site) {
   if (const auto* image = site.bound<const Image*>())
     parts.show = [&picture, image] { picture.picture(artOf(image->picture)); };
   if (const auto* shown = site.bound<const bool*>()) parts.visible = [shown] { return *shown; };
-  parts.stretched = true;
   return parts;
 }
 

@@ -98,14 +98,18 @@ class PlainListView : public RowsView {
 class CheckListView : public RowsView {
  public:
   explicit CheckListView(const ViewSite& site) : RowsView(site) {
-    create(WC_LISTVIEWA, WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS, {},
-           Framed);
+    create(WC_LISTVIEWA,
+           WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS |
+               LVS_SHAREIMAGELISTS,
+           {}, Framed);
     send(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
+    showBoxes();
     LVCOLUMNA column{};
     send(LVM_INSERTCOLUMNA, 0, reinterpret_cast<LPARAM>(&column));
   }
 
   LRESULT notify(NMHDR& notice) override {
+    if (notice.code == NM_SETFOCUS) showFocus();
     if (isShowing()) return 0;
     if (notice.code == LVN_ITEMCHANGED) itemChanged(reinterpret_cast<const NMLISTVIEW&>(notice));
     // A click on the row that is current already counts as well.
@@ -115,6 +119,13 @@ class CheckListView : public RowsView {
   }
 
  private:
+  // In place of the system's own boxes.
+  void showBoxes() {
+    const HIMAGELIST boxes = site_.ui.checks.list(site_.ui.kit, site_.ui.canvas);
+    const LRESULT own = send(LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(boxes));
+    if (own != 0) ImageList_Destroy(reinterpret_cast<HIMAGELIST>(own));
+  }
+
   static constexpr UINT checkState(bool checked) { return INDEXTOSTATEIMAGEMASK(checked ? 2U : 1U); }
 
   void itemChanged(const NMLISTVIEW& change) {
@@ -125,6 +136,12 @@ class CheckListView : public RowsView {
     if ((change.uNewState & ~change.uOldState & LVIS_SELECTED) == 0) return;
     servedByPress_ = GetKeyState(VK_LBUTTON) < 0;
     rowPicked(change.iItem);
+  }
+
+  // Where the keyboard is shows on a row only.
+  void showFocus() {
+    if (send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED) < 0)
+      setState(0, LVIS_FOCUSED, LVIS_FOCUSED);
   }
 
   void setState(int row, UINT state, UINT mask) {

@@ -52,7 +52,8 @@ class ProgramIconView : public NativeView {
   explicit ProgramIconView(const ViewSite& site) : NativeView(site) {
     backColor_ = site.ground;
     create("STATIC", SS_ICON | SS_CENTERIMAGE);
-    send(STM_SETICON, reinterpret_cast<WPARAM>(site.ui.icon()));
+    const int side = site.ui.fonts.pixels(32 * layout::TwipsPerPixel);
+    send(STM_SETICON, reinterpret_cast<WPARAM>(site.ui.icon(side)));
   }
 };
 

@@ -1,4 +1,5 @@
 // Labels and text boxes.
+#include <algorithm>
 #include <utility>
 
 #include "ui/win32/NativeViews.h"
@@ -43,6 +44,7 @@ class EditView : public NativeView {
     const DWORD use = site.spec.kind == layout::Kind::Content ? ES_READONLY : ES_WANTRETURN;
     create("EDIT", WS_TABSTOP | (severalLines_ ? Lines | use : ES_AUTOHSCROLL), {}, Framed);
     send(EM_LIMITTEXT, 0);
+    if (!severalLines_) centre();
   }
 
   void show() override {
@@ -73,6 +75,14 @@ class EditView : public NativeView {
   }
 
  private:
+  // The system sets the line at the upper edge.
+  void centre() {
+    RECT inner;
+    GetClientRect(hwnd(), &inner);
+    air_ = std::max(0, (static_cast<int>(inner.bottom) - site_.ui.text.measure({}, {}).height) / 2);
+    SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0, SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
+  }
+
   TextBox* box_;
   bool severalLines_;
   std::string shown_;
