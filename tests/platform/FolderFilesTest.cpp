@@ -49,7 +49,7 @@ TEST_CASE("what is remembered of a folder's names hides nothing that the program
   Files& files = pc.platform().files;
   pc.file("C:\\T\\A long name.txt");
   CHECK_FALSE(files.fileExists("C:\\T\\new.txt"));
-  files.open("C:\\T\\NEW.TXT", OpenMode::Output)->close();
+  files.open("C:\\T\\NEW.TXT", OpenMode::Binary)->close();
   CHECK(files.fileExists("C:\\T\\new.txt"));
   files.createFolder("C:\\T\\SUB");
   CHECK(files.folderExists("C:\\T\\sub"));
