@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/NameList.h"
 #include "engine/Trace.h"
 #include "platform/Registry.h"
 
@@ -28,17 +29,38 @@ class RegistryHelper : public TraceState {
   std::string TraceValue(const Trace& trace);
   std::string TraceValue(std::string_view Spec) { return TraceValue(Trace(Spec)); }
 
-  std::vector<std::string> lstKey;    // every subkey name met
-  std::vector<std::string> lstValue;  // every value name met
+  NameList lstKey;    // every subkey name met
+  NameList lstValue;  // every value name met
 
  private:
   static constexpr std::uint32_t MaxIndex = 16000;
 
+  // A walk by index over the subkeys or the values of a key.
+  struct Walk {
+    std::uint32_t end = 0;            // the index that it came to
+    bool refused = false;             // a call failed otherwise than with the end
+    std::vector<std::size_t> places;  // of the names met, in their list
+
+    std::uint32_t again() const { return refused ? 0 : end; }
+    bool complete() const { return !refused && end <= MaxIndex; }
+  };
+  using Enumerate = RegistryStatus (RegistryHelper::*)(RegistryKey key, std::uint32_t index,
+                                                       std::size_t& place);
+
   RegistryStatus counted(RegistryStatus result);
-  void collectNames(RegistryKey key);
-  int wipe(RegistryKey key);
+  RegistryStatus enumKey(RegistryKey key, std::uint32_t index, std::size_t& place);
+  RegistryStatus enumValue(RegistryKey key, std::uint32_t index, std::size_t& place);
+  Walk walk(RegistryKey key, Enumerate next, std::uint32_t from);
+  int wipe(RegistryKey key, Walk keys, Walk values);
 
   Engine& engine_;
+  // The key of the last call, and where a walk over it goes on if the next call opens it again.
+  struct {
+    Hive hive = Hive::None;
+    std::string path;
+    std::uint32_t keys = 0;
+    std::uint32_t values = 0;
+  } last_;
   std::array<char, 256> keyName_{};
   std::array<char, 256> valueName_{};
   std::array<std::uint8_t, 1024> data_{};

@@ -95,7 +95,13 @@ class PosixFile : public HostFile {
                                    static_cast<off_t>(offset + read));
       if (part < 0 && errno == EINTR) continue;
       if (part < 0) return errorOf(errno);
-      if (part == 0) break;
+      if (part == 0) {
+        // Some disks that fail tell nothing but an end.
+        std::uint64_t bytes = 0;
+        const HostError error = length(bytes);
+        if (error == HostError::None && bytes > offset + read) return HostError::DeviceFailure;
+        break;
+      }
       read += static_cast<std::size_t>(part);
     }
     done = read;

@@ -91,6 +91,7 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
 }
 
 HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_view bytes) {
+  removeLeftBeside(folder, name);
   Beside beside(folder, name);
   HostError error = beside.write(bytes);
   if (error == HostError::None) error = beside.putInPlace();

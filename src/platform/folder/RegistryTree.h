@@ -50,9 +50,12 @@ class NamedItems {
     if (map_.empty()) return false;
     const auto place = map_.find(name);
     if (place == map_.end()) return false;
+    if (place == place_) {
+      ++place_;
+    } else if (place_ != map_.end() && compareFolded(place->first, place_->first) < 0) {
+      --position_;
+    }
     map_.erase(place);
-    position_ = 0;
-    place_ = map_.end();
     return true;
   }
   // `position` is below size().
