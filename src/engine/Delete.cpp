@@ -43,9 +43,13 @@ bool Delete::DeleteFolder(std::string_view strPath, std::string_view strPattern)
 }
 
 void Delete::DeleteSubDir(std::string_view strPath, std::string_view strPattern) {
-  mousePointer = MousePointer::Hourglass;
+  const auto point = [this](MousePointer pointer) {
+    mousePointer = pointer;
+    engine_.animated->state.form.mousePointer = pointer;  // the window that is seen meanwhile
+  };
+  point(MousePointer::Hourglass);
   ListFilesFolder(strPath, strPattern);
-  mousePointer = MousePointer::Default;
+  point(MousePointer::Default);
 }
 
 void Delete::ListFilesFolder(std::string_view Path, std::string_view SearchStr) {

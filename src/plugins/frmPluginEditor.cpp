@@ -145,7 +145,10 @@ void frmPluginEditor::cmdFFRemove_Click() {
 void frmPluginEditor::cmdPathBrowse_Click() {
   CFolderBrowse picker(engine_.pc.shell);
   picker.Prompt("Find the Folder");
+  state.form.Enabled = false;  // the picker has no owner of its own to hold still
   picker.Browse();
+  state.form.Enabled = true;
+  state.form.Show();
   if (!picker.Path().empty()) state.txtPathFF.Text = picker.Path();
 }
 

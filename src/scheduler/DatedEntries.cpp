@@ -6,25 +6,28 @@
 namespace zub {
 namespace {
 
-// A failure of the facility ends the operation.
+// A failure of the facility ends the operation; whoever started it is to hear of it.
 template <class Operation>
-void guarded(Operation operation) {
+void withTheFacility(Operation operation) {
   try {
     operation();
-  } catch (const RuntimeError&) {
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.number(), "The task scheduler refuses: " + error.description());
   }
 }
 
 }  // namespace
 
 void DatedEntries::InitSchedulerTab() {
-  guarded([&] {
+  try {
     openDatedTask(pc_);
     const SystemTime now = pc_.clock.local();
     txtTime.Text = pc_.clock.timeText(now);
     txtDate.Text = pc_.clock.dateText(plusDays(now, 1));
     FillScheduleList();
-  });
+  } catch (const RuntimeError&) {
+    // Nobody has asked yet for what the facility refuses.
+  }
 }
 
 void DatedEntries::FillScheduleList() {
@@ -47,21 +50,21 @@ void DatedEntries::cmdAdd_Click() {
   if (!date) return;
   const auto time = ParseDateField(txtTime, "Wrong time format");
   if (!time) return;
-  guarded([&] {
+  withTheFacility([&] {
     addDatedWash(pc_, *date, *time);
     FillScheduleList();
   });
 }
 
 void DatedEntries::cmdRemoveScheduled_Click() {
-  guarded([&] {
+  withTheFacility([&] {
     if (const int row = lstSchedule.ListIndex(); row != -1) removeDatedWash(pc_, row + 1);
     FillScheduleList();
   });
 }
 
 void DatedEntries::cmdAdvancedScheduler_Click() {
-  guarded([&] { openDatedTask(pc_).showProperties(); });
+  withTheFacility([&] { openDatedTask(pc_).showProperties(); });
 }
 
 }  // namespace zub

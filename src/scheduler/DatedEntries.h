@@ -1,5 +1,6 @@
 // The dated entries of the scheduler tab. The list only mirrors the triggers of the program's task, row i being
-// trigger i + 1. Where the facility fails, the current operation ends there, and nothing is told.
+// trigger i + 1. Where the facility fails, the current operation ends there: the buttons throw
+// RuntimeError, the start is silent.
 #pragma once
 
 #include <optional>

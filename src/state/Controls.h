@@ -116,8 +116,10 @@ struct Form {
   MousePointer mousePointer = MousePointer::Default;
   unsigned shown = 0;  // raised by each Show: the view then brings the window up
 
+  // A window that is shown is not minimised.
   void Show() {
     Visible = true;
+    windowState = WindowState::Normal;
     ++shown;
   }
   void Hide() { Visible = false; }

@@ -103,7 +103,7 @@ void frmMain::Form_Load() {
   const bool hidden = ApplyStartMode();
   dated.InitSchedulerTab();
   lblHelp.Caption.clear();
-  restoreStandardList();
+  FillStandardList();
   if (!hidden) form.Show();
 }
 
@@ -127,8 +127,8 @@ bool frmMain::ApplyStartMode() {
   return withWindows || scheduled;
 }
 
-void frmMain::restoreStandardList() {
-  FillStandardList(options.standardlist, parts_.catalogue);
+void frmMain::FillStandardList() {
+  listStandardPlugins(options.standardlist, parts_.catalogue);
   INIFile(engine_.pc, options).GetInfo2();
 }
 

@@ -104,6 +104,12 @@ TEST_CASE("Cancel in the midst closes the display, and the wash goes on unseen t
   CHECK(unseen.Image5.picture == Picture::OpenMark);
   CHECK(unseen.Image12.picture == Picture::DoneMark);
   CHECK(pc.main().form.Visible);
+
+  // The next wash does not go on where the unseen rest has ended.
+  pc.pc.onDoEvents = {};
+  pc.main().cmdRemove_Click();
+  CHECK(unseen.form.Visible);
+  CHECK(unseen.lblCompleted.Caption == "3");
 }
 
 TEST_CASE("a process that ends in a turn of a wash leaves the rest, with its settings saved") {

@@ -107,6 +107,29 @@ check "a text was changed, or a file stays beside it" diff "$work/texts" <(cd "$
 check "a full disk ends with $?" [ $? -eq 2 ]
 tells "zub: the output could not be written"
 
+# A tree that is deeper than the files that may be open at once.
+deep=$(printf 'd/%.0s' {1..400})
+mkdir -p "$pc/C/WINDOWS/TEMP/$deep"
+touch "$pc/C/WINDOWS/TEMP/d/d/high.tmp" "$pc/C/WINDOWS/TEMP/$deep/low.tmp"
+(ulimit -n 60; "${program[@]}" --pc "$pc" wash >"$work/out" 2>"$work/err"; echo $? >"$work/status")
+check "the wash of a deep tree ends with $(cat "$work/status")" [ "$(cat "$work/status")" -eq 0 ]
+gone "$pc/C/WINDOWS/TEMP/d"
+
+# A folder of the shell whose text lacks its NUL loses its last letter: that is told, and only the other folder is washed.
+run 0 --pc "$pc" set chkDocHistory=1
+mkdir -p "$pc/C/Recent" "$pc/C/Recen"
+touch "$pc/C/Recent/kept.lnk" "$pc/C/Recen/old.lnk"
+cat >>"$pc/registry.reg" <<'END'
+[HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Explorer\Shell Folders]
+"Recent"=hex(1):43,3a,5c,52,65,63,65,6e,74
+"AppData"="C:\\Data"
+END
+run 0 --pc "$pc" wash
+tells 'zub: the shell'"'"'s folder "Recent" is stored without its end: a wash looks for C:\Recen'
+check "another folder is told" [ "$(grep -c "the shell" "$work/err")" -eq 1 ]
+here "$pc/C/Recent/kept.lnk"
+gone "$pc/C/Recen/old.lnk"
+
 # Settings whose key the user may not change.
 echo 'no rights = HKEY_CURRENT_USER\Software' >>"$pc/pc.txt"
 for words in "set chkBleach=1" wash; do

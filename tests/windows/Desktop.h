@@ -91,6 +91,7 @@ int count(const Window& list);
 std::string text(const Window& list, int row);
 int find(const Window& list, std::string_view text);  // waits for the row
 bool isChecked(const Window& list, int row);
+bool isHighlighted(const Window& list, int row);  // waits for it
 void click(const Window& list, int row);
 void clickCheck(const Window& list, int row);
 

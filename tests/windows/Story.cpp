@@ -22,7 +22,7 @@ void install() {
   const pc::fs::path source = setting("ZUB_SOURCE");
   pc::remove(pc::programs());
   pc::fs::create_directories(pc::programs());
-  for (const char* program : {"zub.exe", "zub-console.exe"})
+  for (const char* program : {"zub.exe", "zub-console.exe", "show_message_box.exe"})
     pc::fs::copy(pc::fs::path(setting("ZUB_PROGRAMS")) / program, pc::programs() / program);
   pc::fs::copy(source / "help", pc::programs() / "help", pc::fs::copy_options::recursive);
 }
@@ -89,11 +89,11 @@ Story::Story() {
   movePointer(1, 1);
 }
 
-Zub::Zub(const std::string& switches) {
+Zub::Zub(const std::string& switches, const std::string& program) {
   STARTUPINFOA startup{};
   startup.cb = sizeof startup;
   const std::string folder = pc::programs().string();
-  std::string command = "\"" + folder + "\\zub.exe\" " + switches;
+  std::string command = "\"" + folder + "\\" + program + "\" " + switches;
   REQUIRE(CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
                          &startup, &process_) != 0);
   AllowSetForegroundWindow(process_.dwProcessId);
@@ -153,6 +153,12 @@ Window Zub::trayWindow() const {
 
 void Zub::trayMessage(UINT mouseMessage) const {
   PostMessageA(trayWindow().handle(), WM_MOUSEMOVE, 0, static_cast<LPARAM>(mouseMessage));
+}
+
+void Zub::trayEntry(char letter) const {
+  trayMessage(WM_RBUTTONDOWN);
+  REQUIRE(soon([] { return Window(FindWindowA("#32768", nullptr)).isVisible(); }));
+  key(letter);
 }
 
 Zub::Handles Zub::handles() const {

@@ -8,7 +8,7 @@ namespace zub {
 
 Store::Store(const Platform& pc) : engine(pc, options), plugins(engine), catalogue(builtInCatalogue()) {
   plugins.RefreshPluginList();
-  FillStandardList(options.standardlist, catalogue);
+  listStandardPlugins(options.standardlist, catalogue);
   INIFile store(engine.pc, options);
   store.GetInfo();
   store.GetInfo2();

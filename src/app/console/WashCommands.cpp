@@ -3,6 +3,7 @@
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "app/console/OddFolders.h"
 #include "app/console/Store.h"
 #include "base/Text.h"
 #include "platform/folder/PcError.h"
@@ -52,6 +53,9 @@ struct Attached {
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
   context.needAlone();
+  for (const std::string& folder : oddFolders(context.pc.platform().registry)) {
+    context.tell(context.pc.toTerminal(folder));
+  }
   Program program(context.pc.platform());
   program.engine.clean.cleaners.ended = [&context] { saved(context.pc); };
   {

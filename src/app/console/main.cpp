@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
-#include <new>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -130,12 +129,8 @@ int main(int count, char** words) {
     return status;
   } catch (const UsageError& error) {
     std::fprintf(stderr, "%s: %s\nSee \"%s --help\".\n", programName, error.what(), programName);
-  } catch (const std::bad_alloc&) {
-    std::fprintf(stderr, "%s: out of memory\n", programName);
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "%s: %s\n", programName, printableLines(error.what()).c_str());
   } catch (...) {
-    std::fprintf(stderr, "%s: an unknown failure\n", programName);
+    std::fprintf(stderr, "%s: %s\n", programName, printableLines(textOfFailure()).c_str());
   }
   return exitStatus::Unusable;
 }

@@ -68,13 +68,15 @@ bool tellsSwitches(const char* arguments) {
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR arguments, int) {
   if (tellsSwitches(arguments)) return 0;
-  INITCOMMONCONTROLSEX controls{sizeof controls,
-                                ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
-  InitCommonControlsEx(&controls);
+  // One by one: a library that does not know a kind of classes refuses all that are asked for with it.
+  for (const DWORD classes : {ICC_WIN95_CLASSES, ICC_STANDARD_CLASSES}) {
+    const INITCOMMONCONTROLSEX controls{sizeof controls, classes};
+    InitCommonControlsEx(&controls);
+  }
   try {
     runProgram(instance);
-  } catch (const std::exception& failure) {
-    MessageBoxA(nullptr, failure.what(), "Zubrane", MB_OK | MB_ICONSTOP);
+  } catch (...) {
+    MessageBoxA(nullptr, textOfFailure(), "Zubrane", MB_OK | MB_ICONSTOP);
     return 1;
   }
 }

@@ -10,6 +10,10 @@ namespace {
 
 constexpr std::size_t MostFolders = 16;  // whose names are remembered
 
+// Of a deep path only some folders are held open: the last ones, and every so many of the others.
+constexpr std::size_t LastHeld = 32;
+constexpr std::size_t HeldStep = 256;
+
 }  // namespace
 std::unique_ptr<HostDir> FolderDisk::openDrive(char letter) {
   std::unique_ptr<HostDir> drive;
@@ -64,6 +68,22 @@ HostError FolderDisk::byAnyName(HostDir& folder, const FolderPath& path, std::si
   return error;
 }
 
+void FolderDisk::letGoBefore(std::size_t at) {
+  if (at >= LastHeld && (at - LastHeld) % HeldStep != 0) open_[at - LastHeld].dir.reset();
+}
+
+// Opens the last folder anew where it was let go, from the next one above it that is held.
+void FolderDisk::holdLast() {
+  std::size_t held = open_.size() - 1;
+  while (open_[held].dir == nullptr) --held;
+  for (std::size_t at = held + 1; at < open_.size(); ++at) {
+    const HostError error = open_[at - 1].dir->openDir(open_[at].hostName, open_[at].dir);
+    if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
+    check(error);
+    letGoBefore(at);
+  }
+}
+
 HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
   if (open_.empty() || open_[0].name[0] != path.drive) {
     open_.clear();
@@ -72,6 +92,7 @@ HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
   }
   std::size_t at = sharedParts(path, parts);
   open_.resize(at + 1);
+  holdLast();
   for (; at < parts; ++at) {
     HostDir& here = *open_.back().dir;
     const std::string& name = path.parts[at];
@@ -81,6 +102,7 @@ HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
     if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
     check(error);
     open_.push_back({name, std::move(hostName), std::move(next)});
+    letGoBefore(open_.size() - 1);
   }
   return *open_.back().dir;
 }

@@ -50,13 +50,15 @@ class FolderDisk {
 
  private:
   struct Open {
-    std::string name;      // as the path wrote it
-    std::string hostName;  // on the host
-    std::unique_ptr<HostDir> dir;
+    std::string name;              // as the path wrote it
+    std::string hostName;          // on the host
+    std::unique_ptr<HostDir> dir;  // null where it was let go
   };
 
   HostDir& walk(const FolderPath& path, std::size_t parts);
   HostDir& openOn(const FolderPath& path, std::size_t parts);
+  void letGoBefore(std::size_t at);
+  void holdLast();
   template <class Try>
   HostError byAnyName(HostDir& folder, const FolderPath& path, std::size_t at, std::string& hostName,
                       Try attempt);

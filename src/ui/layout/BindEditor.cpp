@@ -12,7 +12,6 @@ WindowBinding bindEditor(frmPluginEditor& form) {
   editor.form = [&form] { return &form.state.form; };
   editor.anew = true;
   editor.close = on(&frmPluginEditor::cmdCancel_Click);
-  editor.escape = on(&frmPluginEditor::cmdCancel_Click);
   editor.takesFocus = [&state]() -> const TextBox* {
     const auto box = std::exchange(state.focus, nullptr);
     return box != nullptr ? &(state.*box) : nullptr;

@@ -44,6 +44,7 @@ WindowBinding bindAbout(frmAbout& form) {
   WindowBinding about;
   about.window = &aboutWindow;
   about.form = [&form] { return &form.form; };
+  about.anew = true;
   about.close = [&form] { form.Unload(); };
   about.escape = [&form] { form.cmdOK_Click(); };
   about.controls = {

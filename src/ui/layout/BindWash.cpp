@@ -14,6 +14,7 @@ WindowBinding bindProgress(AutoLoad<frmAnimated>& form) {
   WindowBinding progress;
   progress.window = &progressWindow;
   progress.form = [&form]() -> Form* { return form.loaded() ? &form->state.form : nullptr; };
+  progress.anew = true;
   progress.close = on(&frmAnimated::Unload);
   progress.escape = on(&frmAnimated::cmdFinish_Click);
   progress.controls = {

@@ -58,7 +58,7 @@ struct WindowBinding {
   Handler resize;                              // behind a change of the window's state
   Handler queryEnd;                            // the Windows session is about to end
   Handler end;                                 // it ends
-  bool anew = false;                           // each showing is a load: it begins on the first page
+  bool anew = false;                           // each showing is a load: in the middle, on the first page
   std::function<const TextBox*()> takesFocus;  // the box that the form gave the focus since the last call
 };
 

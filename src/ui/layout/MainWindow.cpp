@@ -100,7 +100,7 @@ constexpr ControlSpec controls[] = {
 
 }  // namespace
 
-constexpr WindowSpec mainWindow{"Zubrane",     455 * TwipsPerPixel, 412 * TwipsPerPixel,
-                                Border::Fixed, colors::Window,      controls};
+constexpr WindowSpec mainWindow{"Zubrane",        455 * TwipsPerPixel, 412 * TwipsPerPixel,
+                                Border::Minimise, colors::Window,      controls};
 
 }  // namespace zub::layout

@@ -36,7 +36,6 @@ constexpr ControlSpec aboutControls[] = {
 };
 
 constexpr ControlSpec messageControls[] = {
-    {"", Kind::Picture, "Picture1", {0, 0, 5970, 2310}, "message-background", ""},
     {"", Kind::Label, "lblTitle", {855, 120, 1830, 210}, "Zubrone", ""},
     {"", Kind::CloseButton, "ZUBCloseButton1", {5445, 75, 435, 345}, "", ""},
     {"", Kind::Label, "lblMessage", {2490, 960, 990, 195}, "Are you sure?", "", Text::Centred},
@@ -55,6 +54,7 @@ constexpr WindowSpec reportWindow{"Log Report",  520 * TwipsPerPixel, 400 * Twip
 
 constexpr WindowSpec aboutWindow{"About ZUB", 6855, 3345, Border::Dialog, colors::White, aboutControls};
 
-constexpr WindowSpec messageWindow{"Zubrone", 5970, 2310, Border::None, colors::Page, messageControls};
+constexpr WindowSpec messageWindow{
+    "Zubrone", 5970, 2310, Border::None, colors::Page, messageControls, "message-background"};
 
 }  // namespace zub::layout

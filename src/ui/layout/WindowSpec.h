@@ -92,8 +92,9 @@ struct ControlSpec {
 };
 
 enum class Border : std::uint8_t {
-  Fixed,   // title, minimise and close box
-  Dialog,  // title and close box
+  Minimise,  // title, minimise and close box
+  Fixed,     // title and close box
+  Dialog,    // the same, with the edge of a dialog
   None,
 };
 
@@ -104,6 +105,7 @@ struct WindowSpec {
   Border border;
   Color background;
   std::span<const ControlSpec> controls;  // in Tab order
+  std::string_view backdrop = {};         // the name of a bitmap that fills the window; empty for none
 };
 
 const ControlSpec* find(const WindowSpec& window, std::string_view name);

@@ -77,7 +77,7 @@ void FormWindow::makeView(const layout::ControlSpec& spec) {
                       binding,
                       windowOf(spec.parent),
                       ui_.fonts.pixels(spec.place),
-                      plainColor(layout::groundOf(*binding_.window, spec)),
+                      groundUnder(spec),
                       [this](int page) { showPage(page); }};
   std::unique_ptr<View> view = makeKitView(site);
   if (!view) view = makeNativeView(site);
@@ -90,7 +90,29 @@ void FormWindow::makeView(const layout::ControlSpec& spec) {
   const LONG style = GetWindowLongA(view->hwnd(), GWL_STYLE);
   if (!continues) SetWindowLongA(view->hwnd(), GWL_STYLE, style | LONG{WS_GROUP});
   if (!spec.toolTip.empty()) addToolTip(view->hwnd(), spec.toolTip);
+  // The text box inside a combo box gets the pointer's messages itself.
+  if (spec.kind == layout::Kind::EditCombo && !spec.toolTip.empty())
+    addToolTip(GetWindow(view->hwnd(), GW_CHILD), spec.toolTip);
   views_.push_back(std::move(view));
+}
+
+// On a backdrop, the colour that it has at the control's corner: what is transparent lies on plain parts of it.
+COLORREF FormWindow::groundUnder(const layout::ControlSpec& spec) const {
+  const std::string_view backdrop = binding_.window->backdrop;
+  if (backdrop.empty()) return plainColor(layout::groundOf(*binding_.window, spec));
+  const std::uint32_t pixel = ui_.art[backdrop].pixel(spec.place.left / layout::TwipsPerPixel,
+                                                      spec.place.top / layout::TwipsPerPixel);
+  return rgb(pixel >> 16U & 0xFFU, pixel >> 8U & 0xFFU, pixel & 0xFFU);
+}
+
+void FormWindow::paintBackdrop(HDC dc) const {
+  const controls::Bitmap& picture = ui_.art[binding_.window->backdrop];
+  RECT all;
+  GetClientRect(hwnd(), &all);
+  const int width = static_cast<int>(all.right), height = static_cast<int>(all.bottom);
+  ui_.canvas.surface(width, height)
+      .copy(picture, {0, 0, picture.width(), picture.height()}, {0, 0, width, height});
+  BitBlt(dc, 0, 0, width, height, ui_.canvas.dc(), 0, 0, SRCCOPY);
 }
 
 void FormWindow::addToolTip(HWND control, std::string_view text) {
@@ -104,16 +126,19 @@ void FormWindow::addToolTip(HWND control, std::string_view text) {
   SendMessageA(toolTips_, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-// In the middle of the screen's free part, or of the owner.
+// In the middle of the screen, or of the owner; but not under the taskbar where the screen is hardly larger.
 void FormWindow::place() {
-  RECT middle{};
-  if (owner_ == nullptr || IsWindowVisible(owner_) == 0 || GetWindowRect(owner_, &middle) == 0)
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &middle, 0);
-  RECT size;
+  RECT middle{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+  if (owner_ != nullptr && IsWindowVisible(owner_) != 0) GetWindowRect(owner_, &middle);
+  RECT room = middle, size;
+  SystemParametersInfoA(SPI_GETWORKAREA, 0, &room, 0);
   GetWindowRect(hwnd(), &size);
-  const LONG left = (middle.left + middle.right - (size.right - size.left)) / 2;
-  const LONG top = (middle.top + middle.bottom - (size.bottom - size.top)) / 2;
-  SetWindowPos(hwnd(), nullptr, static_cast<int>(left), static_cast<int>(std::max(top, LONG{0})), 0, 0,
+  const auto put = [](LONG sum, LONG length, LONG from, LONG to) {
+    return static_cast<int>(std::max(from, std::min((sum - length) / 2, to - length)));
+  };
+  SetWindowPos(hwnd(), nullptr,
+               put(middle.left + middle.right, size.right - size.left, room.left, room.right),
+               put(middle.top + middle.bottom, size.bottom - size.top, room.top, room.bottom), 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

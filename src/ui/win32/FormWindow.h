@@ -24,11 +24,12 @@ class FormWindow : public OwnWindow {
 
   // The two halves of a turn: windows that come are shown before others go, so that the program keeps the
   // user's attention.
-  void showForm();
-  void hideForm();
-  // A key that works on the window as a whole: Esc, the keys of the tab headers. False:
-  // it goes its usual way.
-  bool takesKey(const MSG& key);
+  // `covered`: a modal window lies over this one, which gets no input then, whatever its form says.
+  void showForm(bool covered);
+  void hideForm(bool covered);
+  // Keys that work on the window as a whole: Esc, those of the tab headers and of the controls' order, access
+  // keys. False: the message goes its usual way.
+  bool takesMessage(MSG& message);
 
  protected:
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -40,16 +41,22 @@ class FormWindow : public OwnWindow {
   void makeView(const layout::ControlSpec& spec);
   void addToolTip(HWND control, std::string_view text);
   HWND windowOf(std::string_view parent) const;
+  COLORREF groundUnder(const layout::ControlSpec& spec) const;
+  void paintBackdrop(HDC dc) const;
   void place();
   void showPage(int page);
 
   bool isWanted() const;
+  void enable(const Form& form, bool covered);
+  void beginAnew(const Form& form);
   void appear(Form& form);
   void showControls();
   void takeFocus();
+  bool takesKey(const MSG& key);
   bool takesEscape(HWND control);
   bool turnPage(int direction);
 
+  void showPointer(const Form& form);
   void stateChanged(WPARAM how);
   void queryEnd();
   void drag();
@@ -67,6 +74,8 @@ class FormWindow : public OwnWindow {
   bool enabled_ = true;
   unsigned broughtUp_ = 0;
   bool placed_ = false;
+  bool grabbed_ = false;  // a button went down on the window's own ground
+  MousePointer pointer_ = MousePointer::Default;
 };
 
 }  // namespace zub

@@ -206,8 +206,17 @@ LRESULT KitHost::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       focused_ = message == WM_SETFOCUS;
       InvalidateRect(hwnd(), nullptr, FALSE);
       return 0;
-    case WM_GETDLGCODE:
-      return parts_.dialogCode;
+    case WM_SYSKEYDOWN:
+      if (!parts_.takesKeys) break;
+      onKey(WM_KEYDOWN, wParam);
+      if (wParam == VK_F10) return 0;  // by default it opens the window's menu
+      break;
+    case WM_GETDLGCODE: {
+      const auto* key = reinterpret_cast<const MSG*>(lParam);
+      const bool wanted =
+          parts_.takesKeys && key != nullptr && key->message == WM_KEYDOWN && wParam != VK_TAB;
+      return parts_.dialogCode | (wanted ? DLGC_WANTALLKEYS : 0);
+    }
     case BM_CLICK:
       press(static_cast<int>(wParam));
       return 0;

@@ -22,6 +22,7 @@ class KitHost : public OwnWindow, public View {
     LRESULT dialogCode = DLGC_STATIC;
     bool takesFocus = false;
     bool takesSpace = false;  // the bar is a click
+    bool takesKeys = false;   // all but Tab, and what is held down with Alt
   };
   KitHost(const ViewSite& site, Parts parts);
   ~KitHost() override;

@@ -85,8 +85,8 @@ KitHost::Parts iconList(const ViewSite& site) {
         list.Check(row, static_cast<std::int16_t>(state.checks->Check(row)));
     }
   };
-  parts.dialogCode = DLGC_WANTARROWS;
   parts.takesFocus = true;
+  parts.takesKeys = true;
   return parts;
 }
 

@@ -31,6 +31,11 @@ class RowsView : public NativeView {
   virtual void select(int row) = 0;
 
   bool isShowing() const { return showing_; }
+  // The highlight has left its row: the next show gives it to the current one, unless a row is picked first.
+  void rowLeft() {
+    current_ = -1;
+    stale_ = true;
+  }
   void rowPicked(int row) {
     if (row < 0 || row >= rows_->ListCount()) return;
     current_ = row;
@@ -113,8 +118,10 @@ class CheckListView : public RowsView {
     if (isShowing()) return 0;
     if (notice.code == LVN_ITEMCHANGED) itemChanged(reinterpret_cast<const NMLISTVIEW&>(notice));
     // A click on the row that is current already counts as well.
-    if (notice.code == NM_CLICK && !std::exchange(servedByPress_, false))
-      rowPicked(reinterpret_cast<const NMITEMACTIVATE&>(notice).iItem);
+    if (notice.code == NM_CLICK && !std::exchange(servedByPress_, false)) {
+      const int row = reinterpret_cast<const NMITEMACTIVATE&>(notice).iItem;
+      if (!highlight(row)) rowPicked(row);
+    }
     return 0;
   }
 
@@ -131,11 +138,22 @@ class CheckListView : public RowsView {
   void itemChanged(const NMLISTVIEW& change) {
     if ((change.uChanged & LVIF_STATE) == 0 || change.iItem < 0) return;
     const UINT mark = change.uNewState & LVIS_STATEIMAGEMASK;
-    if (mark != 0 && mark != (change.uOldState & LVIS_STATEIMAGEMASK))
+    if (mark != 0 && mark != (change.uOldState & LVIS_STATEIMAGEMASK)) {
       rowChecked(change.iItem, mark == checkState(true));
+      highlight(change.iItem);
+    }
+    if ((change.uOldState & ~change.uNewState & LVIS_SELECTED) != 0) rowLeft();
     if ((change.uNewState & ~change.uOldState & LVIS_SELECTED) == 0) return;
     servedByPress_ = GetKeyState(VK_LBUTTON) < 0;
     rowPicked(change.iItem);
+  }
+
+  // A click on a row's box is the control's own affair, and leaves the highlight where it was: it is moved to
+  // the row, which picks it. Whether it had to be.
+  bool highlight(int row) {
+    if (row < 0 || send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0) return false;
+    setState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    return true;
   }
 
   // Where the keyboard is shows on a row only.

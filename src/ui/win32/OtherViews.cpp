@@ -51,7 +51,7 @@ class ProgramIconView : public NativeView {
  public:
   explicit ProgramIconView(const ViewSite& site) : NativeView(site) {
     backColor_ = site.ground;
-    create("STATIC", SS_ICON | SS_CENTERIMAGE);
+    create("STATIC", SS_ICON | SS_CENTERIMAGE | SS_NOTIFY);
     const int side = site.ui.fonts.pixels(32 * layout::TwipsPerPixel);
     send(STM_SETICON, reinterpret_cast<WPARAM>(site.ui.icon(side)));
   }

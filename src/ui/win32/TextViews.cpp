@@ -13,7 +13,8 @@ class LabelView : public NativeView {
     backColor_ = site.ground;
     foreColor_ = site.spec.color;
     const DWORD align = site.spec.text == layout::Text::Centred ? SS_CENTER : SS_LEFT;
-    create("STATIC", align | SS_NOPREFIX, std::string(site.spec.caption));
+    // A label takes the mouse, so that only the window's bare ground is a handle to move it.
+    create("STATIC", align | SS_NOPREFIX | SS_NOTIFY, std::string(site.spec.caption));
   }
 
   void show() override {

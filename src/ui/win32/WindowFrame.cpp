@@ -27,6 +27,8 @@ SIZE WindowFrame::outerSize(int width, int height) const {
 WindowFrame frameOf(layout::Border border) {
   switch (border) {
     case layout::Border::Fixed:
+      return {WS_CAPTION | WS_SYSMENU | WS_OVERLAPPED | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
+    case layout::Border::Minimise:
       return {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_OVERLAPPED | WS_CLIPCHILDREN,
               WS_EX_CONTROLPARENT};
     case layout::Border::Dialog:

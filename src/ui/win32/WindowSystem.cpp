@@ -74,27 +74,20 @@ void WindowSystem::run() {
 }
 
 void WindowSystem::runModal(std::function<bool()> lasts) {
-  modal_ = {std::move(lasts), {}};
+  if (modal_.lasts) return;
+  modal_.lasts = std::move(lasts);
   for (const auto& window : windows_) {
-    if (IsWindowVisible(window->hwnd()) == 0 || IsWindowEnabled(window->hwnd()) == 0) continue;
-    modal_.disabled.push_back(window->hwnd());
-    EnableWindow(window->hwnd(), FALSE);
+    if (IsWindowVisible(window->hwnd()) != 0) modal_.below.push_back(window.get());
   }
-  while (modal_.lasts) {
+  showAll();
+  while (modal_.lasts()) {
+    wait();
     pump();
     serve();
     ui_.guard.throwIfEnded();
-    endModal();
-    if (modal_.lasts) wait();
   }
-  showAll();
-}
-
-// Before the modal window is hidden: the system then looks for an enabled window to bring to the front.
-void WindowSystem::endModal() {
-  if (!modal_.lasts || modal_.lasts()) return;
-  for (const HWND window : modal_.disabled) EnableWindow(window, TRUE);
   modal_ = {};
+  showAll();
 }
 
 void WindowSystem::pump() {
@@ -110,7 +103,7 @@ void WindowSystem::dispatch(MSG& message) {
   owesShow_ = true;
   const HWND top = message.hwnd != nullptr ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
   FormWindow* form = FormWindow::of(top);
-  if (form != nullptr && (form->takesKey(message) || IsDialogMessageA(top, &message) != 0)) return;
+  if (form != nullptr && form->takesMessage(message)) return;
   TranslateMessage(&message);
   DispatchMessageA(&message);
 }
@@ -123,7 +116,6 @@ void WindowSystem::serve() {
 void WindowSystem::showAll() {
   if (showing_) return;
   showing_ = true;
-  endModal();
   lastShow_ = now();
   owesShow_ = false;
   for (std::size_t at = 0; at < later_.size();) {
@@ -136,8 +128,12 @@ void WindowSystem::showAll() {
     windows_.push_back(std::make_unique<FormWindow>(ui_, std::move(later_[at].binding), owner));
     later_.erase(later_.begin() + static_cast<std::ptrdiff_t>(at));
   }
-  for (const auto& window : windows_) window->showForm();
-  for (const auto& window : windows_) window->hideForm();
+  const bool isModal = modal_.lasts && modal_.lasts();
+  const auto covered = [&](const std::unique_ptr<FormWindow>& window) {
+    return isModal && std::ranges::find(modal_.below, window.get()) != modal_.below.end();
+  };
+  for (const auto& window : windows_) window->showForm(covered(window));
+  for (const auto& window : windows_) window->hideForm(covered(window));
   showing_ = false;
 }
 

@@ -31,7 +31,8 @@ class WindowSystem : public EventLoop {
   void DoEvents() override;
   // The main loop. Throws EndOfProcess.
   [[noreturn]] void run();
-  // Runs the loop while the condition holds, with all windows disabled that are there now.
+  // Runs the loop while the condition holds. The windows that are there now get no input meanwhile. Does
+  // nothing where such a loop runs already.
   void runModal(std::function<bool()> lasts);
 
   // The program's window in front, for a dialog to lie over; null where none is visible. What the forms have
@@ -46,7 +47,7 @@ class WindowSystem : public EventLoop {
   };
   struct Modal {
     std::function<bool()> lasts;  // none: nothing is modal
-    std::vector<HWND> disabled;
+    std::vector<const FormWindow*> below;
   };
 
   std::uint64_t now() const;  // milliseconds
@@ -54,7 +55,6 @@ class WindowSystem : public EventLoop {
   void dispatch(MSG& message);
   void serve();  // timers, then the windows if their time has come
   void showAll();
-  void endModal();
   void wait();
 
   Ui& ui_;
