@@ -15,6 +15,9 @@ struct CatalogueRow {
   std::string name;             // compared exactly, with case; also the key of its saved tick
   std::string description;      // 1 to 300 characters
   std::vector<Action> actions;  // in the order of their run; at least one; ranges are expanded
+
+  // The description tells of a loss that nobody expects of a list of recent names.
+  bool warns() const;
 };
 
 // what() is "line N: REASON"; lines count from 1.

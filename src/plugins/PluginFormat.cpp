@@ -24,7 +24,7 @@ Action fileAction(std::string entry) {
 
 std::optional<Action> actionOf(const CodePage& codePage, PluginFile file, std::string_view line) {
   const bool files = file == PluginFile::Files;
-  std::string entry(trim(files ? codePage.upper(line) : std::string(line)));
+  std::string entry(trim(files ? codePage.toldPath(codePage.upper(line)) : std::string(line)));
   if (entry == NoEntriesUpper) return std::nullopt;
   if (files) return fileAction(std::move(entry));
   Action action;

@@ -6,7 +6,6 @@ plugins="C/Program Files/Zubrane/Plugins"
 run 0 new "$pc"
 run 0 --pc "$pc" plugins
 says 'Custom plugins in C:\Program Files\Zubrane\Plugins:'
-check "the catalogue has 84 rows" [ "$(grep -c '^  \[ \] ' "$work/out")" -eq 84 ]
 
 text "$plugins/Garden Planner.zb1" 'C:\Garden\Plan.bak' 'C:\Garden\*.tmp >plus subdirectories< ' 'C:\Gard?n\a.txt'
 text "$plugins/Garden Planner.zb2" 'HKey_Current_User\Software\Garden\Recent- Key*' 'HKey_Nobody\Software\Nothing- Key*'
@@ -15,6 +14,13 @@ for file in Plan.bak a.tmp Beds/b.tmp Beds/Roses.txt; do text "C/Garden/$file" x
 printf '\r\n[HKEY_CURRENT_USER\\Software\\Garden\\Recent]\r\n"1"="Plan"\r\n' >>"$pc/registry.reg"
 
 run 0 --pc "$pc" set "ZUBPlugin Garden Planner=1" "ZUBStandardPlugin Windows Paint=1"
+run 0 --pc "$pc" plugins
+silent err
+run 0 --pc "$pc" set "ZUBStandardPlugin GetRight 3.x=1" "ZUBStandardPlugin WinRAR (all versions)=1"
+check "not one row is warned of" [ "$(grep -c 'This plugin' "$work/err")" -eq 1 ]
+tells 'GetRight 3.x: This plugin cleans'
+run 0 --pc "$pc" set "ZUBStandardPlugin GetRight 3.x=0" "ZUBStandardPlugin WinRAR (all versions)=0"
+silent err
 run 0 --pc "$pc" plugins
 for row in '  [x] Garden Planner' '  [x] Windows Paint' '  [ ] WinRAR (all versions)'; do says "$row"; done
 

@@ -13,6 +13,10 @@
 //   bool hold(path, sharing);               has it open to read and write and shares that with others, until
 //                                           unlock; false where this PC does not know such a holder
 //   bool link(path, folder);                makes a link to a folder; false where this PC can make none
+//   void wide(name, folder);                an entry of the scratch folder whose name is any UTF-16
+//   bool hasWide(name);                     whether it is there, under exactly this name
+//   void wideKey(name);                     the same for a key below key()
+//   bool followsLinks();                    a path may go through a link
 //   bool deviates(name);                    this PC breaks the contract in a way that is listed by this name
 #pragma once
 
@@ -40,6 +44,10 @@ class FolderContractPc : public TestPc {
   std::string task() const { return "ZubraneTest"; }
   bool hold(const std::string&, Sharing) { return false; }
   bool link(const std::string& path, const std::string& target);
+  void wide(std::u16string_view name, bool folder);
+  bool hasWide(std::u16string_view name) const;
+  void wideKey(std::u16string_view name);
+  bool followsLinks() const { return false; }
   bool deviates(std::string_view) const { return false; }
 };
 

@@ -226,4 +226,29 @@ TEST_CASE_TEMPLATE("registry: the empty path deletes the open key itself", Pc, C
   CHECK_FALSE(scratch.has("Inner"));
 }
 
+TEST_CASE_TEMPLATE("registry: each told name leads back to its own key", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Registry& registry = pc.platform().registry;
+  for (const char16_t* name : {u"a", u"\u0101", u"\uFF0E\uFF3C", u"<0101>"}) pc.wideKey(name);
+  OpenKey key(registry);
+  REQUIRE(key.open(Hive::CurrentUser, pc.key(), access::All) == status::Success);
+  std::vector<std::string> names;
+  std::array<char, 256> name;
+  auto length = static_cast<std::uint32_t>(name.size());
+  while (registry.enumKey(key.get(), static_cast<std::uint32_t>(names.size()), name.data(), length) ==
+         status::Success) {
+    names.emplace_back(name.data());
+    length = static_cast<std::uint32_t>(name.size());
+  }
+  std::ranges::sort(names);
+  const std::vector<std::string> expected = {"<003C>0101>", "<0101>", "<FF0EFF3C>", "a"};
+  CHECK(names == expected);
+  for (const char* gone : {"<0101>", "<FF0EFF3C>", "<003C>0101>"})
+    CHECK(registry.deleteKey(key.get(), gone) == status::Success);
+  RegistryKey left = 0;
+  CHECK(registry.open(key.get(), "a", access::Read, left) == status::Success);
+  registry.close(left);
+  CHECK(registry.enumKey(key.get(), 1, name.data(), length) == status::NoMoreItems);
+}
+
 }  // namespace zub

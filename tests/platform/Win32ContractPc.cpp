@@ -28,7 +28,11 @@ std::string hostPath(const std::string& path) {
   return result;
 }
 
-bool isLink(const std::string& path) {
+std::wstring widePath(const std::string& folder, std::u16string_view name) {
+  return L"\\\\?\\" + wide(folder) + L'\\' + std::wstring(name.begin(), name.end());
+}
+
+bool isLinkAt(const std::string& path) {
   const DWORD attributes = GetFileAttributesA(path.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
 }
@@ -37,7 +41,7 @@ bool isLink(const std::string& path) {
 void onHost(const std::string& command, const std::string& path, bool linkAfterwards) {
   std::system(("start /unix " + command).c_str());
   const DWORD begin = GetTickCount();
-  while (isLink(path) != linkAfterwards && GetTickCount() - begin < 10000) SwitchToThread();
+  while (isLinkAt(path) != linkAfterwards && GetTickCount() - begin < 10000) SwitchToThread();
 }
 
 void deleteKeyTree(HKEY parent, const std::string& path) {
@@ -134,7 +138,31 @@ bool Win32ContractPc::link(const std::string& path, const std::string& target) {
   } else {
     std::system(("mklink /J " + path + ' ' + target + " >nul").c_str());
   }
-  return isLink(path);
+  return isLinkAt(path);
+}
+
+void Win32ContractPc::wide(std::u16string_view name, bool folder) {
+  const std::wstring path = widePath(folder_, name);
+  if (folder) {
+    REQUIRE(CreateDirectoryW(path.c_str(), nullptr) != 0);
+    return;
+  }
+  const HANDLE file =
+      CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+  REQUIRE(file != INVALID_HANDLE_VALUE);
+  CloseHandle(file);
+}
+
+bool Win32ContractPc::hasWide(std::u16string_view name) const {
+  return GetFileAttributesW(widePath(folder_, name).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+void Win32ContractPc::wideKey(std::u16string_view name) {
+  HKEY opened = nullptr;
+  const std::wstring path = zub::wide(key()) + L'\\' + std::wstring(name.begin(), name.end());
+  REQUIRE(RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &opened,
+                          nullptr) == ERROR_SUCCESS);
+  RegCloseKey(opened);
 }
 
 bool Win32ContractPc::deviates(std::string_view name) const {

@@ -31,6 +31,10 @@ class Win32ContractPc {
   bool hold(const std::string& path, Sharing sharing);
   void unlock(const std::string& path);
   bool link(const std::string& path, const std::string& target);
+  void wide(std::u16string_view name, bool folder);
+  bool hasWide(std::u16string_view name) const;
+  void wideKey(std::u16string_view name);
+  bool followsLinks() const { return true; }
   // Only Wine deviates, and only as its table says; a name that is not in the table is a fault of the test.
   bool deviates(std::string_view name) const;
 

@@ -11,7 +11,6 @@ struct WineDeviation {
 };
 
 inline constexpr WineDeviation wineDeviations[] = {
-    {"star dot", "\"*.\" is everything, not the names without an extension"},
     {"read-only", "its user root may write to read-only files"},
     {"missing drive", "a file on a drive that is not there is not found, not its path"},
     {"link",

@@ -72,6 +72,7 @@ class TestPc {
   // Faults: the call fails as told instead of doing its work, until `clearFaults`. Paths are compared without
   // case.
   enum class Call {
+    Find,
     ResetAttributes,
     OpenedLength,
     Open,

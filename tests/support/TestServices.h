@@ -64,7 +64,7 @@ class TestChannel : public FileChannel {
     channel_->write(bytes);
   }
   void close() override { channel_->close(); }
-  void closeOnDisk() override { channel_->closeOnDisk(); }
+  void sync() override { channel_->sync(); }
 
  private:
   std::unique_ptr<FileChannel> channel_;
@@ -77,7 +77,10 @@ class TestFiles : public Files {
   using Call = TestPc::Call;
   TestFiles(Files& files, const FileFaults& faults) : files_(files), faults_(faults) {}
 
-  std::unique_ptr<FileSearch> find(std::string_view path) override { return files_.find(path); }
+  std::unique_ptr<FileSearch> find(std::string_view path) override {
+    faults_.strike(Call::Find, path);
+    return files_.find(path);
+  }
   std::uint32_t attributes(std::string_view path) override { return files_.attributes(path); }
   bool fileExists(std::string_view path) override { return files_.fileExists(path); }
   bool folderExists(std::string_view path) override { return files_.folderExists(path); }

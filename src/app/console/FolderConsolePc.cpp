@@ -23,7 +23,7 @@ class FolderConsolePc : public ConsolePc {
   }
   std::string folder() const override { return folder_; }
   std::string toTerminal(std::string_view text) const override {
-    return printable(utf8From1252(text), Letters::Utf8);
+    return printable(utf8FromAnsi(text), Letters::Utf8);
   }
   std::string fromTerminal(std::string_view text) const override { return ansiFromUtf8(text); }
 

@@ -72,6 +72,7 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
   printReport(context, program);
   if (unsaved) throw *unsaved;
   needStoreSaved(program.engine.pc, program.options);
+  for (const std::string& folder : program.engine.unread) context.tell("not looked into: " + folder);
   if (program.engine.leftBehind == 0) return exitStatus::Done;
   context.tell(std::to_string(program.engine.leftBehind) + " files, folders or keys could not be removed");
   return exitStatus::LeftBehind;

@@ -14,7 +14,13 @@ constexpr std::size_t MostFolders = 16;  // whose names are remembered
 constexpr std::size_t LastHeld = 32;
 constexpr std::size_t HeldStep = 256;
 
+bool isLink(HostDir& folder, const std::string& name) {
+  HostStat stat;
+  return folder.stat(name, stat) == HostError::None && stat.kind == HostKind::Link;
+}
+
 }  // namespace
+
 std::unique_ptr<HostDir> FolderDisk::openDrive(char letter) {
   std::unique_ptr<HostDir> drive;
   const HostError error = root_.openDir(std::string(1, letter), drive);
@@ -54,7 +60,7 @@ template <class Try>
 HostError FolderDisk::byAnyName(HostDir& folder, const FolderPath& path, std::size_t at,
                                 std::string& hostName, Try attempt) {
   const std::string& name = path.parts[at];
-  hostName = utf8From1252(name);
+  hostName = utf8FromAnsi(name);
   HostError error = attempt();
   if (error != HostError::NotFound) return error;
   FolderNames& names = namesOf(folder, path, at);
@@ -64,7 +70,7 @@ HostError FolderDisk::byAnyName(HostDir& folder, const FolderPath& path, std::si
     if (error != HostError::NotFound) return error;
     names.drop(*found);
   }
-  hostName = utf8From1252(name);
+  hostName = utf8FromAnsi(name);
   return error;
 }
 
@@ -100,6 +106,8 @@ HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
     std::string hostName;
     const HostError error = byAnyName(here, path, at, hostName, [&] { return here.openDir(hostName, next); });
     if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
+    if (error == HostError::NotAFolder && isLink(here, hostName))
+      throw RuntimeError(ErrorNumber::PermissionDenied);
     check(error);
     open_.push_back({name, std::move(hostName), std::move(next)});
     letGoBefore(open_.size() - 1);
@@ -153,8 +161,8 @@ std::string FolderDisk::shortName(const FolderPath& path) {
 
 FolderPath FolderDisk::pathOf(const Place& place) const {
   FolderPath path{open_.front().name[0], {}};
-  for (std::size_t i = 1; i < open_.size(); ++i) path.parts.push_back(ansiFromUtf8(open_[i].hostName));
-  if (place.parent != nullptr) path.parts.push_back(ansiFromUtf8(place.name));
+  for (std::size_t i = 1; i < open_.size(); ++i) path.parts.push_back(toldNameFromUtf8(open_[i].hostName));
+  if (place.parent != nullptr) path.parts.push_back(toldNameFromUtf8(place.name));
   return path;
 }
 

@@ -13,16 +13,17 @@ namespace zub {
 namespace {
 
 // Some hosts do not remove a read-only file.
-void removeForced(HostDir& folder, const std::string& name) {
-  HostError error = folder.removeFile(name);
-  if (error == HostError::NoRights && folder.setReadOnly(name, false) == HostError::None) {
-    error = folder.removeFile(name);
-  }
-  check(error);
+HostError removeForced(HostDir& folder, const std::string& name) {
+  const HostError error = folder.removeFile(name);
+  if (error != HostError::NoRights || folder.setReadOnly(name, false) != HostError::None) return error;
+  return folder.removeFile(name);
 }
 
-bool isFolder(const FolderDisk::Place& place) {
-  return place.exists && place.stat.kind == HostKind::Folder;
+bool isFolder(const HostStat& stat) {
+  return stat.kind == HostKind::Folder;
+}
+bool isFolderOrLink(const HostStat& stat) {
+  return isFolder(stat) || stat.toFolder;
 }
 
 }  // namespace
@@ -51,16 +52,31 @@ FolderDisk::Place FolderFiles::placeOf(FolderPath& path) {
   return place;
 }
 
-FolderDisk::Place FolderFiles::look(std::string_view path) {
+FolderDisk::Place FolderFiles::filePlaceOf(FolderPath& path) {
+  const bool namesFolder = path.namesFolder;
+  Place place = placeOf(path);
+  const bool isFile = !place.exists || !isFolderOrLink(place.stat);
+  if (isFile && namesFolder) throw RuntimeError(ErrorNumber::PathNotFound);
+  return place;
+}
+
+std::optional<FolderDisk::Place> FolderFiles::look(std::string_view path) {
   seenPath_.clear();
-  return disk_.place(parse(path));
+  try {
+    const FolderPath parts = parse(path);
+    Place place = disk_.place(parts);
+    if (place.exists && (!parts.namesFolder || isFolderOrLink(place.stat))) return place;
+  } catch (const RuntimeError& failure) {
+    if (!nothingThere(failure.number())) throw;
+  }
+  return std::nullopt;
 }
 
 const FolderDisk::Place& FolderFiles::lookOn(std::string_view path) {
   if (seenPath_.empty() || seenPath_ != path) {
     seenPath_.clear();
     seenParts_ = parse(path);
-    seen_ = placeOf(seenParts_);
+    seen_ = filePlaceOf(seenParts_);
     if (!seen_.exists) throw RuntimeError(ErrorNumber::FileNotFound);
     seenPath_ = path;
   }
@@ -95,8 +111,9 @@ std::unique_ptr<FileSearch> FolderFiles::find(std::string_view path) {
         std::make_unique<FolderSearch>(std::move(listing), path.substr(behindFolder), parts, facts_);
     if (!search->any()) return nullptr;
     return search;
-  } catch (const RuntimeError&) {
-    return nullptr;
+  } catch (const RuntimeError& failure) {
+    if (nothingThere(failure.number())) return nullptr;
+    throw;
   }
 }
 
@@ -104,7 +121,7 @@ std::uint32_t FolderFiles::attributes(std::string_view path) {
   seenPath_.clear();
   try {
     FolderPath parts = parse(path);
-    const Place place = placeOf(parts);
+    const Place place = filePlaceOf(parts);
     return place.exists ? attributesOf(place.stat, parts, facts_) : attribute::Invalid;
   } catch (const RuntimeError&) {
     return attribute::Invalid;
@@ -132,7 +149,7 @@ void FolderFiles::resetAttributes(std::string_view path) {
 std::unique_ptr<FileChannel> FolderFiles::open(std::string_view path, OpenMode mode) {
   seenPath_.clear();
   FolderPath parts = parse(path);
-  const Place place = placeOf(parts);
+  const Place place = filePlaceOf(parts);
   const bool writes = mode != OpenMode::Input;
   if (writes) checkWritable(parts, place);
   if (!writes && !place.exists) throw RuntimeError(ErrorNumber::FileNotFound);
@@ -148,7 +165,7 @@ std::unique_ptr<FileChannel> FolderFiles::open(std::string_view path, OpenMode m
 void FolderFiles::replace(std::string_view path, std::string_view bytes) {
   seenPath_.clear();
   FolderPath parts = parse(path);
-  const Place place = placeOf(parts);
+  const Place place = filePlaceOf(parts);
   checkWritable(parts, place);
   if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
   check(replaceHostFile(*place.parent, place.name, bytes));
@@ -173,18 +190,19 @@ void FolderFiles::remove(std::string_view path) {
 
 bool FolderFiles::fileExists(std::string_view path) {
   try {
-    const Place place = look(path);
-    return place.exists && !isFolder(place);
+    const auto place = look(path);
+    return place && !isFolderOrLink(place->stat);
   } catch (const RuntimeError&) {
-    return false;
+    return true;
   }
 }
 
 bool FolderFiles::folderExists(std::string_view path) {
   try {
-    return isFolder(look(path));
+    const auto place = look(path);
+    return place && isFolderOrLink(place->stat);
   } catch (const RuntimeError&) {
-    return false;
+    return true;
   }
 }
 
@@ -204,45 +222,51 @@ void FolderFiles::deleteFolder(std::string_view path) {
   if (parsePath(path, facts_.current, parts) != PathFault::None)
     throw RuntimeError(ErrorNumber::PathNotFound);
   const Place place = placeOf(parts);
-  if (!isFolder(place)) throw RuntimeError(ErrorNumber::PathNotFound);
+  if (!place.exists || !isFolder(place.stat)) throw RuntimeError(ErrorNumber::PathNotFound);
   checkDrive(parts.drive);
   if (parts.parts.empty()) throw RuntimeError(ErrorNumber::PathFileAccess);
-  removeTree(*place.parent, place.name, parts);
+  check(removeTree(*place.parent, place.name, parts));
 }
 
 // Depth first. What comes in while the tree goes is left to another round, as long as a round gets on. The
 // folder is closed before it is removed, which some hosts need. `path` is the folder's own.
-void FolderFiles::removeTree(HostDir& parent, const std::string& name, FolderPath& path) {
+HostError FolderFiles::removeTree(HostDir& parent, const std::string& name, FolderPath& path) {
+  HostError kept = HostError::None;
   HostError error = HostError::NotEmpty;
-  for (bool removedSome = true; error == HostError::NotEmpty && removedSome;) {
-    removedSome = removeContent(parent, name, path);
+  for (bool removedSome = true; kept == HostError::None && error == HostError::NotEmpty && removedSome;) {
+    kept = removeContent(parent, name, path, removedSome);
     error = parent.removeDir(name);
   }
-  check(error);
-  if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
+  if (error == HostError::None && facts_.anyAttributes()) facts_.dropAttributes(path.key());
+  return kept != HostError::None ? kept : error;
 }
 
-bool FolderFiles::removeContent(HostDir& parent, const std::string& name, FolderPath& path) {
+HostError FolderFiles::removeContent(HostDir& parent, const std::string& name, FolderPath& path,
+                                     bool& removedSome) {
   std::unique_ptr<HostDir> folder;
   std::unique_ptr<HostList> listing;
-  check(parent.openDir(name, folder));
-  check(folder->list(listing));
-  bool removedSome = false;
+  removedSome = false;
+  HostError kept = parent.openDir(name, folder);
+  if (kept == HostError::None) kept = folder->list(listing);
+  if (kept != HostError::None) return kept;
   HostEntry entry;
   while (listing->next(entry)) {
-    path.parts.push_back(ansiFromUtf8(entry.name));
-    if (isLocked(path)) throw RuntimeError(ErrorNumber::PermissionDenied);
-    if (entry.stat.kind == HostKind::Folder) {
-      removeTree(*folder, entry.name, path);
-    } else {
-      removeForced(*folder, entry.name);
-      if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
-    }
+    path.parts.push_back(toldNameFromUtf8(entry.name));
+    const HostError error = removeEntry(*folder, entry, path);
     path.parts.pop_back();
-    removedSome = true;
+    if (error == HostError::None) removedSome = true;
+    if (kept == HostError::None) kept = error;
   }
-  check(listing->failure());
-  return removedSome;
+  return kept != HostError::None ? kept : listing->failure();
+}
+
+HostError FolderFiles::removeEntry(HostDir& folder, const HostEntry& entry, FolderPath& path) {
+  if (isLocked(path)) return HostError::InUse;
+  if (entry.stat.kind == HostKind::Folder) return removeTree(folder, entry.name, path);
+  const HostError error = removeForced(folder, entry.name);
+  if (error == HostError::NotFound) return HostError::None;  // gone meanwhile
+  if (error == HostError::None && facts_.anyAttributes()) facts_.dropAttributes(path.key());
+  return error;
 }
 
 std::string FolderFiles::shortPath(std::string_view path) {

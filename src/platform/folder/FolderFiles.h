@@ -1,6 +1,8 @@
 // Files and folders of a PC in a folder.
 #pragma once
 
+#include <optional>
+
 #include "platform/Files.h"
 #include "platform/folder/FolderDisk.h"
 #include "platform/folder/PcFacts.h"
@@ -34,16 +36,20 @@ class FolderFiles : public Files {
   FolderPath parse(std::string_view path) const;
   // Where the path leads. It becomes the path as the disk has it, by which the facts know a file.
   Place placeOf(FolderPath& path);
-  Place look(std::string_view path);
+  // The same for a file: a path that ends in a backslash leads to none.
+  Place filePlaceOf(FolderPath& path);
+  // Nothing where it is known that the path leads nowhere; throws where it cannot be looked at.
+  std::optional<Place> look(std::string_view path);
   // Removing a file asks three things of it, one after the other. What resetting its attributes has seen is
   // good for the two calls that follow on the same path.
   const Place& lookOn(std::string_view path);
   void checkWritable(const FolderPath& path, const Place& place) const;
   bool isLocked(const FolderPath& path) const;
   void checkDrive(char drive) const;
-  // Whether anything was there to remove.
-  bool removeContent(HostDir& parent, const std::string& name, FolderPath& path);
-  void removeTree(HostDir& parent, const std::string& name, FolderPath& path);
+  // Removes all that can go; why something stays, first of all.
+  HostError removeTree(HostDir& parent, const std::string& name, FolderPath& path);
+  HostError removeContent(HostDir& parent, const std::string& name, FolderPath& path, bool& removedSome);
+  HostError removeEntry(HostDir& folder, const HostEntry& entry, FolderPath& path);
 
   FolderDisk& disk_;
   PcFacts& facts_;

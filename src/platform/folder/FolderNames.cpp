@@ -19,7 +19,7 @@ FolderNames::FolderNames(HostDir& folder) {
   std::unique_ptr<HostList> listing;
   check(folder.list(listing));
   HostEntry entry;
-  while (listing->next(entry)) names_.emplace(folded(ansiFromUtf8(entry.name)), entry.name);
+  while (listing->next(entry)) names_.emplace(folded(toldNameFromUtf8(entry.name)), entry.name);
   check(listing->failure());
   holdFrom(begin);
 }
@@ -46,7 +46,7 @@ std::optional<std::string> FolderNames::shortName(const std::string& hostName) {
 }
 
 void FolderNames::drop(const std::string& hostName) {
-  names_.erase({folded(ansiFromUtf8(hostName)), hostName});
+  names_.erase({folded(toldNameFromUtf8(hostName)), hostName});
   const auto found = shorts_.find(hostName);
   if (found == shorts_.end()) return;
   byShort_.erase(folded(found->second));
@@ -57,7 +57,7 @@ void FolderNames::findShortNames() {
   if (!shorts_.empty()) return;
   const Clock::time_point begin = Clock::now();
   std::vector<std::string> names;
-  for (const auto& [key, hostName] : names_) names.push_back(ansiFromUtf8(hostName));
+  for (const auto& [key, hostName] : names_) names.push_back(toldNameFromUtf8(hostName));
   const std::vector<std::string> shorts = shortNames(names);
   std::size_t at = 0;
   for (const auto& [key, hostName] : names_) {

@@ -89,22 +89,28 @@ std::int32_t FolderShell::emptyRecycleBin(std::uint32_t) {
 
 bool FolderShell::emptyFolder(const std::string& folder) {
   bool emptied = true;
-  const auto search = files_.find(JoinPath(folder, "*"));
-  FoundFile found;
-  while (search && search->next(found)) {
-    const std::string path = JoinPath(folder, found.name);
-    try {
-      if ((found.attributes & attribute::Directory) != 0) {
-        files_.deleteFolder(path);
-      } else {
-        files_.resetAttributes(path);
-        files_.remove(path);
-      }
-    } catch (const RuntimeError&) {
-      emptied = false;
-    }
+  try {
+    const auto search = files_.find(JoinPath(folder, "*"));
+    FoundFile found;
+    while (search && search->next(found)) emptied &= emptyEntry(JoinPath(folder, found.name), found);
+  } catch (const RuntimeError&) {
+    return false;
   }
   return emptied;
+}
+
+bool FolderShell::emptyEntry(const std::string& path, const FoundFile& found) {
+  try {
+    if (isFolder(found.attributes)) {
+      files_.deleteFolder(path);
+    } else {
+      files_.resetAttributes(path);
+      files_.remove(path);
+    }
+  } catch (const RuntimeError&) {
+    return false;
+  }
+  return true;
 }
 
 void FolderShell::start(std::string_view) {

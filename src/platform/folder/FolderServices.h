@@ -65,6 +65,7 @@ class FolderShell : public Shell {
 
  private:
   bool emptyFolder(const std::string& folder);
+  bool emptyEntry(const std::string& path, const FoundFile& found);
 
   Files& files_;
   Drives& drives_;

@@ -35,6 +35,7 @@ enum class HostKind : std::uint8_t { File, Folder, Link, Other };
 
 struct HostStat {
   HostKind kind = HostKind::Other;
+  bool toFolder = false;   // of links only: a folder is behind it
   bool readOnly = false;   // of files only: no owner-write permission bit; on Windows the read-only attribute
   std::uint64_t size = 0;  // of files only, in bytes
 };

@@ -54,12 +54,19 @@ HostKind kindOf(mode_t mode) {
 }
 
 HostStat statOf(const struct stat& host) {
-  HostStat stat{kindOf(host.st_mode), false, 0};
+  HostStat stat;
+  stat.kind = kindOf(host.st_mode);
   if (stat.kind == HostKind::File) {
     stat.readOnly = (host.st_mode & S_IWUSR) == 0;
     stat.size = static_cast<std::uint64_t>(host.st_size);
   }
   return stat;
+}
+
+// The kind of what is behind a link is all that is ever asked of it.
+bool leadsToFolder(int folder, const char* name) {
+  struct stat behind {};
+  return ::fstatat(folder, name, &behind, 0) == 0 && S_ISDIR(behind.st_mode);
 }
 
 class Handle {
@@ -139,7 +146,11 @@ class PosixList : public HostList {
       if (!isPart(entry.name)) continue;
       entry.stat = {};
       entry.complete = false;
-      if (kindByType(found->d_type, entry.stat.kind)) return true;
+      if (kindByType(found->d_type, entry.stat.kind)) {
+        if (entry.stat.kind == HostKind::Link)
+          entry.stat.toFolder = leadsToFolder(::dirfd(folder_), entry.name.c_str());
+        return true;
+      }
       complete(entry);
       if (entry.complete) return true;
     }
@@ -156,6 +167,8 @@ class PosixList : public HostList {
       return;
     }
     entry.stat = statOf(host);
+    if (entry.stat.kind == HostKind::Link)
+      entry.stat.toFolder = leadsToFolder(::dirfd(folder_), entry.name.c_str());
     entry.complete = true;
   }
 
@@ -209,6 +222,7 @@ class PosixDir : public HostDir {
     struct stat host {};
     if (::fstatat(handle_.get(), name.c_str(), &host, AT_SYMLINK_NOFOLLOW) < 0) return errorOf(errno);
     found = statOf(host);
+    if (found.kind == HostKind::Link) found.toFolder = leadsToFolder(handle_.get(), name.c_str());
     return HostError::None;
   }
 

@@ -36,7 +36,7 @@ FolderPath pathOf(std::string_view value) {
   FolderPath path;
   const bool absolute = value.size() > 2 && value[1] == ':' && value[2] == '\\';
   if (!absolute || parsePath(value, FolderPath{}, path) != PathFault::None) {
-    throw Refused{"\"" + utf8From1252(value) + "\" is no path such as C:\\WINDOWS"};
+    throw Refused{"\"" + utf8FromAnsi(value) + "\" is no path such as C:\\WINDOWS"};
   }
   return path;
 }
@@ -44,7 +44,7 @@ FolderPath pathOf(std::string_view value) {
 char driveOf(std::string_view value) {
   const char letter =
       value.size() == 1 ? static_cast<char>(UpperCase1252[static_cast<unsigned char>(value[0])]) : '\0';
-  if (letter < 'A' || letter > 'Z') throw Refused{"\"" + utf8From1252(value) + "\" is no drive letter"};
+  if (letter < 'A' || letter > 'Z') throw Refused{"\"" + utf8FromAnsi(value) + "\" is no drive letter"};
   return letter;
 }
 
@@ -52,7 +52,7 @@ DriveType kindOf(std::string_view value) {
   for (const DriveKind& kind : DriveKinds) {
     if (equalFolded(kind.name, value)) return kind.type;
   }
-  throw Refused{"\"" + utf8From1252(value) +
+  throw Refused{"\"" + utf8FromAnsi(value) +
                 "\" is no kind of drive: fixed, removable, network, cdrom, ramdisk or unknown"};
 }
 
@@ -67,7 +67,7 @@ std::string registryPath(std::string_view value) {
   const bool known =
       std::ranges::any_of(HiveNames, [&](const auto& row) { return equalFolded(row.name, hive); });
   if (!known || value.ends_with('\\')) {
-    throw Refused{"\"" + utf8From1252(value) + "\" is no path such as HKEY_LOCAL_MACHINE\\Software"};
+    throw Refused{"\"" + utf8FromAnsi(value) + "\" is no path such as HKEY_LOCAL_MACHINE\\Software"};
   }
   return std::string(value);
 }
@@ -135,7 +135,7 @@ void PcFacts::take(std::string_view line, int number) {
     return;
   }
   const auto fact = std::ranges::find_if(Facts, [&](const Fact& row) { return equalFolded(row.name, name); });
-  if (fact == Facts.end()) throw Refused{"unknown name \"" + utf8From1252(name) + "\""};
+  if (fact == Facts.end()) throw Refused{"unknown name \"" + utf8FromAnsi(name) + "\""};
   if (!fact->many && !seen_.insert(folded(name)).second) throw Refused{"the name can stand only once"};
   fact->take(*this, value);
   if (fact->name == "hidden" || fact->name == "system") {
@@ -155,7 +155,7 @@ void PcFacts::addRemoveAtRestart(const FolderPath& path) {
   const std::string text = path.text();
   if (std::ranges::find(removeAtRestart, text) != removeAtRestart.end()) return;
   removeAtRestart.push_back(text);
-  lines_.push_back("remove at restart = " + utf8From1252(text) + "\n");
+  lines_.push_back("remove at restart = " + utf8FromAnsi(text) + "\n");
   changed_ = true;
 }
 

@@ -1,4 +1,4 @@
-// The PC's own files. Names that the ANSI code page cannot write go by their short form, where they have one.
+// The PC's own files.
 #pragma once
 
 #include "platform/Files.h"

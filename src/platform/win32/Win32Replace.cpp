@@ -1,6 +1,8 @@
 #include "platform/win32/Win32Replace.h"
 
 #include "base/RuntimeError.h"
+#include "platform/win32/SystemPath.h"
+#include "platform/win32/Text.h"
 #include "platform/win32/Win32Error.h"
 #include "platform/win32/Win32FileChannel.h"
 
@@ -16,23 +18,25 @@ struct Target {
 
 // The name as the disk has it: `path` may write it in another case or in 8.3, which it would then get.
 std::string asOnDisk(const std::string& path) {
-  WIN32_FIND_DATAA found;
-  const HANDLE search = FindFirstFileA(path.c_str(), &found);
+  WIN32_FIND_DATAW found;
+  const HANDLE search = SystemPath(path).findItself(found);
   if (search == INVALID_HANDLE_VALUE) throwLastError();
   FindClose(search);
-  return path.substr(0, path.find_last_of("\\/:") + 1) + found.cFileName;
+  return path.substr(0, path.find_last_of("\\/:") + 1) + toldName(found.cFileName);
 }
 
-Target targetOf(const std::string& path) {
-  const DWORD attributes = GetFileAttributesA(path.c_str());
+Target targetOf(const std::string& text) {
+  const SystemPath path(text);
+  if (path.namesFolder()) throw RuntimeError(ErrorNumber::PathNotFound);
+  const DWORD attributes = path.attributes();
   if (attributes == INVALID_FILE_ATTRIBUTES) {
     if (GetLastError() != ERROR_FILE_NOT_FOUND) throwLastError();
-    return {path, attributes};
+    return {text, attributes};
   }
   constexpr DWORD refused = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
   if ((attributes & refused) != 0) throw RuntimeError(ErrorNumber::PathFileAccess);
-  Win32FileChannel(openFile(path.c_str(), OpenMode::Binary, false)).close();  // nobody else has it open
-  return {asOnDisk(path), attributes};
+  Win32FileChannel(openFile(path, OpenMode::Binary, false)).close();  // nobody else has it open
+  return {asOnDisk(text), attributes};
 }
 
 bool isTaken(DWORD failure) {
@@ -49,8 +53,7 @@ std::string nameBeside(const std::string& path, unsigned attempt, const char* en
 HANDLE makeBeside(const std::string& path, std::string& beside) {
   for (unsigned attempt = 0;; ++attempt) {
     beside = nameBeside(path, attempt, ".new");
-    const HANDLE file =
-        CreateFileA(beside.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = SystemPath(beside).open(GENERIC_WRITE, 0, CREATE_NEW, FILE_ATTRIBUTE_NORMAL);
     if (file != INVALID_HANDLE_VALUE) return file;
     if (!isTaken(GetLastError())) throwLastError();
   }
@@ -58,30 +61,29 @@ HANDLE makeBeside(const std::string& path, std::string& beside) {
 
 // The 9x family moves nothing over an existing file: that one steps aside, and back again where the new one
 // does not come.
-bool moveOverIn9x(const std::string& beside, const std::string& path) {
+bool moveOverIn9x(const SystemPath& beside, const std::string& place) {
+  const SystemPath path(place);
   unsigned attempt = 0;
-  std::string aside = nameBeside(path, attempt, ".old");
-  while (MoveFileA(path.c_str(), aside.c_str()) == 0) {
+  SystemPath aside(nameBeside(place, attempt, ".old"));
+  while (!path.moveTo(aside)) {
     if (!isTaken(GetLastError())) return false;
-    aside = nameBeside(path, ++attempt, ".old");
+    aside = SystemPath(nameBeside(place, ++attempt, ".old"));
   }
-  const bool moved = MoveFileA(beside.c_str(), path.c_str()) != 0;
+  const bool moved = beside.moveTo(path);
   const DWORD failure = GetLastError();
   if (moved) {
-    DeleteFileA(aside.c_str());
+    aside.removeFile();
   } else {
-    MoveFileA(aside.c_str(), path.c_str());
+    aside.moveTo(path);
   }
   SetLastError(failure);
   return moved;
 }
 
-bool putInPlace(const std::string& beside, const Target& target) {
-  if (!target.exists()) return MoveFileA(beside.c_str(), target.path.c_str()) != 0;
-  if (SetFileAttributesA(beside.c_str(), target.attributes) == 0) return false;
-  if (isFamily9x()) return moveOverIn9x(beside, target.path);
-  return MoveFileExA(beside.c_str(), target.path.c_str(),
-                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+bool putInPlace(const SystemPath& beside, const Target& target) {
+  if (!target.exists()) return beside.moveTo(SystemPath(target.path));
+  if (!beside.setAttributes(target.attributes)) return false;
+  return isNtFamily() ? beside.moveOver(SystemPath(target.path)) : moveOverIn9x(beside, target.path);
 }
 
 }  // namespace
@@ -93,10 +95,11 @@ void replaceFile(const std::string& path, std::string_view bytes) {
   try {
     Win32FileChannel channel(file);
     channel.write(bytes);
-    channel.closeOnDisk();
-    if (!putInPlace(beside, target)) throwLastError();
+    channel.sync();
+    channel.close();
+    if (!putInPlace(SystemPath(beside), target)) throwLastError();
   } catch (const RuntimeError&) {
-    DeleteFileA(beside.c_str());
+    SystemPath(beside).removeFile();
     throw;
   }
 }

@@ -1,23 +1,21 @@
-#include "platform/folder/Wildcard.h"
-
-#include "platform/folder/CodePage1252.h"
+#include "platform/Wildcard.h"
 
 namespace zub {
 
-Wildcard::Wildcard(std::string_view pattern) {
+Wildcard::Wildcard(std::u16string_view pattern) {
   pattern = pattern.substr(0, pattern.find_last_not_of(' ') + 1);
-  everything_ = pattern == "*" || pattern == "*.*";
+  everything_ = pattern == u"*" || pattern == u"*.*";
   const bool dotAtEnd = pattern.ends_with('.');
-  pattern = pattern.substr(0, pattern.find_last_not_of(". ") + 1);
-  withoutExtension_ = dotAtEnd && pattern.find('.') == std::string_view::npos;
-  pattern_ = folded(pattern);
+  pattern = pattern.substr(0, pattern.find_last_not_of(u". ") + 1);
+  withoutExtension_ = dotAtEnd && pattern.find('.') == std::u16string_view::npos;
+  pattern_ = pattern;
 }
 
-bool Wildcard::matches(std::string_view name) const {
+bool Wildcard::matches(std::u16string_view name) const {
   if (everything_) return true;
-  if (pattern_.empty() || (withoutExtension_ && name.find('.') != std::string_view::npos)) return false;
+  if (pattern_.empty() || (withoutExtension_ && name.find('.') != std::u16string_view::npos)) return false;
 
-  constexpr std::size_t none = std::string::npos;
+  constexpr std::size_t none = std::u16string::npos;
   std::size_t p = 0;
   std::size_t n = 0;
   std::size_t afterStar = none;  // where the pattern goes on behind the last star
@@ -25,7 +23,7 @@ bool Wildcard::matches(std::string_view name) const {
   while (true) {
     const bool nameEnds = n == name.size();
     if (p == pattern_.size() && nameEnds) return true;
-    const char want = p < pattern_.size() ? pattern_[p] : '\0';
+    const char16_t want = p < pattern_.size() ? pattern_[p] : u'\0';
     if (want == '*') {
       afterStar = ++p;
       starEnd = n;
@@ -41,9 +39,7 @@ bool Wildcard::matches(std::string_view name) const {
       ++p;
       continue;
     }
-    if (p < pattern_.size() && !nameEnds &&
-        (want == '?' ||
-         static_cast<unsigned char>(want) == UpperCase1252[static_cast<unsigned char>(name[n])])) {
+    if (p < pattern_.size() && !nameEnds && (want == '?' || want == name[n])) {
       ++p;
       ++n;
       continue;
