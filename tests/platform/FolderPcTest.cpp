@@ -119,7 +119,7 @@ TEST_CASE("a save changes only what the program changed") {
     CHECK(folder.registry() == handMade);
     CHECK(folder.text("pc.txt") == facts);
 
-    pc.files.open("C:\\h", OpenMode::Output)->close();
+    pc.files.open("C:\\h", OpenMode::Binary)->close();
     pc.files.resetAttributes("C:\\h");
     pc.files.createFolder("C:\\tree");
     pc.files.deleteFolder("C:\\tree");
