@@ -1,4 +1,8 @@
 // The keyboard alone, and the window moved by its background.
+#include <windows.h>
+// Behind it.
+#include <commctrl.h>
+
 #include "windows/IconList.h"
 #include "windows/Story.h"
 
@@ -60,6 +64,15 @@ TEST_CASE("space ticks a box, arrows turn the tabs, access keys press") {
   CHECK(zub.hides(title::Progress));
   zub.close();
   CHECK(pc::storedOption("chkIECache") == "1");
+}
+
+TEST_CASE("a list of boxes that has just got the keyboard shows it on its first row") {
+  const Story story;
+  const Zub zub;
+  openTab(zub.main(), "Custom Plugins");
+  key(VK_TAB);
+  REQUIRE(soon([] { return focus().className() == WC_LISTVIEWA; }));
+  CHECK(soon([] { return focus().send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED) == 0; }));
 }
 
 TEST_CASE("a letter without Alt is no access key, and the icon list goes back to its first item at any key") {

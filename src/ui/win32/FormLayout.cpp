@@ -96,11 +96,12 @@ COLORREF FormWindow::backdropUnder(const layout::ControlSpec& spec) const {
 
 void FormWindow::paintBackdrop(HDC dc) const {
   const controls::Bitmap& picture = ui_.art[window_.face.backdrop];
-  ui_.canvas.surface(picture.width(), picture.height()).draw(picture, {0, 0});
   RECT all;
   GetClientRect(hwnd(), &all);
-  StretchBlt(dc, 0, 0, static_cast<int>(all.right), static_cast<int>(all.bottom), ui_.canvas.dc(), 0, 0,
-             picture.width(), picture.height(), SRCCOPY);
+  const int width = static_cast<int>(all.right), height = static_cast<int>(all.bottom);
+  ui_.canvas.surface(width, height)
+      .copy(picture, {0, 0, picture.width(), picture.height()}, {0, 0, width, height});
+  BitBlt(dc, 0, 0, width, height, ui_.canvas.dc(), 0, 0, SRCCOPY);
 }
 
 void FormWindow::addToolTip(HWND control, std::string_view text) {

@@ -91,7 +91,6 @@ bool FormWindow::takesKey(const MSG& key) {
   }
 }
 
-// A list that hangs open keeps the key.
 // At once, not when the mouse next moves.
 void FormWindow::showPointer(const Form& form) {
   if (!changes(pointer_, form.mousePointer)) return;
@@ -102,6 +101,7 @@ void FormWindow::showPointer(const Form& form) {
     SendMessageA(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
 }
 
+// A list that hangs open keeps the key.
 bool FormWindow::takesEscape(HWND control) {
   const auto hangsOpen = [](HWND window) { return SendMessageA(window, CB_GETDROPPEDSTATE, 0, 0) == TRUE; };
   if (!window_.escape || hangsOpen(control) || hangsOpen(GetParent(control))) return false;
