@@ -69,6 +69,10 @@ class TestPc {
   std::function<void(int turn)> onDoEvents;
   int turns = 0;
 
+  // Hears each call to the PC before it is made, in words such as "remove C:\\a.tmp". What only computes (texts of
+  // dates, upper case) and the steady clock are not told.
+  std::function<void(const std::string& call)> onCall;
+
   // Faults: the call fails as told instead of doing its work, until `clearFaults`. Paths are compared without
   // case.
   enum class Call {

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "base/Text.h"
+#include "platform/StoredData.h"
 
 namespace zub {
 namespace {
@@ -186,7 +187,7 @@ RegistryStatus FolderRegistry::set(RegistryKey key, std::string_view name, std::
   if (to.status != status::Success) return to.status;
   if ((to.rights & access::SetValue) == 0) return status::AccessDenied;
   name = StripAtNull(name);
-  RegistryValue value{type, std::string(data.begin(), data.end())};
+  RegistryValue value{type, storedData({data.begin(), data.end()}, type, rules_.family->cutsTexts)};
   RegistryValue* present = to.node->values.find(name);
   if (present != nullptr && *present == value) return status::Success;
   (present != nullptr ? *present : to.node->values[name]) = std::move(value);
@@ -211,7 +212,7 @@ RegistryStatus FolderRegistry::deleteKey(RegistryKey key, std::string_view path)
   RegistryNode* node = findBelow(from.node, parts);
   if (node == nullptr) return status::FileNotFound;
   const bool isHive = node->parent == nullptr;
-  if (isHive || (!rules_.deletesTrees && !node->keys.empty()) || !treeWritable(*node)) {
+  if (isHive || (!rules_.family->deletesTrees && !node->keys.empty()) || !treeWritable(*node)) {
     return status::AccessDenied;
   }
   for (Slot& slot : slots_) {

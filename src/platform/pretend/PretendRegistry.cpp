@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "base/Text.h"
+#include "platform/StoredData.h"
 
 namespace zub {
 namespace {
@@ -78,8 +79,8 @@ class PretendRegistry::BeneathKey {
   RegistryStatus opened_;
 };
 
-PretendRegistry::PretendRegistry(Registry& beneath, const CodePage& codePage, bool deletesTrees)
-    : beneath_(beneath), codePage_(codePage), deletesTrees_(deletesTrees) {
+PretendRegistry::PretendRegistry(Registry& beneath, const CodePage& codePage, bool is9x)
+    : beneath_(beneath), codePage_(codePage), is9x_(is9x) {
   for (const HiveName& row : HiveNames) {
     auto& node = hives_.emplace_back(std::make_unique<Node>());
     node->hive = beneath.hive(row.hive);
@@ -275,7 +276,8 @@ RegistryStatus PretendRegistry::set(RegistryKey key, std::string_view name, std:
   const RegistryStatus loaded = loadContent(*to.slot.node);
   if (loaded != status::Success) return loaded;
   name = StripAtNull(name);
-  to.slot.node->content->values.make(upper(name), name) = Data{type, std::string(data.begin(), data.end())};
+  to.slot.node->content->values.make(upper(name), name) = 
+      Data{type, storedData({data.begin(), data.end()}, type, is9x_)};
   return status::Success;
 }
 
@@ -321,7 +323,7 @@ RegistryStatus PretendRegistry::mayDelete(Node& node) {
   const RegistryStatus loaded = loadContent(node);
   if (loaded != status::Success) return loaded;
   NamedEntries<bool>& keys = node.content->keys;
-  if (!deletesTrees_ && keys.size() > 0) return status::AccessDenied;
+  if (!is9x_ && keys.size() > 0) return status::AccessDenied;
   for (std::size_t i = 0; i < keys.size(); ++i) {
     const RegistryStatus below = mayDelete(child(node, keys.at(i).name));
     if (below != status::Success) return below;

@@ -19,8 +19,8 @@ namespace zub {
 
 class PretendRegistry : public Registry {
  public:
-  // `deletesTrees`: a key goes with its subkeys, as on the 9x family.
-  PretendRegistry(Registry& beneath, const CodePage& codePage, bool deletesTrees);
+  // `is9x`: a key goes with its subkeys, and a text ends at its first NUL.
+  PretendRegistry(Registry& beneath, const CodePage& codePage, bool is9x);
 
   RegistryKey hive(Hive which) const override { return beneath_.hive(which); }
   RegistryStatus open(RegistryKey parent, std::string_view path, std::uint32_t rights,
@@ -102,7 +102,7 @@ class PretendRegistry : public Registry {
 
   Registry& beneath_;
   const CodePage& codePage_;
-  bool deletesTrees_;
+  bool is9x_;
   std::vector<std::unique_ptr<Node>> hives_;
   std::unordered_map<RegistryKey, Slot> open_;
   std::uint64_t removals_ = 0;
