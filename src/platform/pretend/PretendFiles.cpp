@@ -269,9 +269,7 @@ std::unique_ptr<FileChannel> PretendFiles::open(std::string_view path, OpenMode 
     if (!spot.own->content) throw RuntimeError(ErrorNumber::PathFileAccess);
     return std::make_unique<PretendChannel>(spot.own->content);
   }
-  Own& own = writable(path, spot);
-  if (mode == OpenMode::Output) own.content->clear();
-  return std::make_unique<PretendChannel>(own.content);
+  return std::make_unique<PretendChannel>(writable(path, spot).content);
 }
 
 void PretendFiles::replace(std::string_view path, std::string_view bytes) {
