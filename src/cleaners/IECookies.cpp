@@ -1,10 +1,11 @@
 #include "cleaners/IECookies.h"
 
+#include <cstddef>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "base/Text.h"
 #include "cleaners/IECookieIndex.h"
-#include "cleaners/UnclaimedFiles.h"
 #include "engine/Engine.h"
 #include "engine/FileLister.h"
 #include "engine/ShellFolder.h"
@@ -15,6 +16,38 @@ namespace {
 std::string keepFile(const std::string& folder) {
   return folder + "ZUBKeep.inf";
 }
+
+// The files of a folder that no record of its index has claimed yet.
+class UnclaimedFiles {
+ public:
+  UnclaimedFiles(const CodePage& codePage, const std::vector<std::string>& names)
+      : codePage_(codePage), names_(names), claimed_(names.size()) {
+    for (std::size_t file = names.size(); file-- > 0;) ofName_[codePage.upper(names[file])].push_back(file);
+  }
+
+  // Takes the first file of this name, without regard to case, off the files; false where none is left.
+  bool claim(std::string_view name) {
+    const auto files = ofName_.find(codePage_.upper(name));
+    if (files == ofName_.end() || files->second.empty()) return false;
+    claimed_[files->second.back()] = true;
+    files->second.pop_back();
+    return true;
+  }
+
+  // The files that are left, in their order.
+  template <class Use>
+  void forEach(Use use) const {
+    for (std::size_t file = 0; file < names_.size(); ++file) {
+      if (!claimed_[file]) use(names_[file]);
+    }
+  }
+
+ private:
+  const CodePage& codePage_;
+  const std::vector<std::string>& names_;
+  std::unordered_map<std::string, std::vector<std::size_t>> ofName_;  // the last file first
+  std::vector<bool> claimed_;
+};
 
 void listIndexed(const Platform& pc, const std::string& indexFile, UnclaimedFiles& files, CookieRows& rows) {
   try {

@@ -70,11 +70,11 @@ class FileSearch {
 };
 
 // What is opened to be written is refused while any other program has it open. What is only read is refused
-// while another program lets nobody read it, and others may go on reading, writing and removing it.
+// while another program lets nobody read it, and others may go on reading and writing it, and removing
+// it but on the 9x family.
 enum class OpenMode : std::uint8_t {
   Binary,  // read and write, not truncated, made where it is missing
   Input,   // read an existing file
-  Output,  // write, emptied or made
 };
 
 // An open file. Closed by its destructor at the latest, which swallows failures.
@@ -112,7 +112,7 @@ class Files {
   // Writes a file whole, made where it is missing: the bytes are written beside it (under a name of this
   // process, "Cookies.txt.1234.new") and take its place once they have reached the disk. At every moment
   // the file is the old one or the new one; where that fails, the old one. It keeps its name and attributes.
-  // Fails as opening for Output does, and for a link (75). The 9x family cannot do it in one step: there the
+  // Fails as opening for Binary does, and for a link (75). The 9x family cannot do it in one step: there the
   // old file lies beside for a moment ("Cookies.txt.1234.old"), and a kill in that moment leaves both there.
   virtual void replace(std::string_view path, std::string_view bytes) = 0;
 

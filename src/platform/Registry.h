@@ -60,7 +60,20 @@ inline constexpr std::uint32_t All = 0x3F;  // query, set, create, enumerate, no
 inline constexpr std::uint32_t Read = 131135;
 }  // namespace access
 
-enum class ValueType : std::uint32_t { None = 0, Text = 1, ExpandText = 2, Binary = 3, Number = 4 };
+enum class ValueType : std::uint32_t {
+  None = 0,
+  Text = 1,
+  ExpandText = 2,
+  Binary = 3,
+  Number = 4,
+  SeveralTexts = 7
+};
+
+inline bool isText(std::uint32_t type) {
+  return type == static_cast<std::uint32_t>(ValueType::Text) ||
+         type == static_cast<std::uint32_t>(ValueType::ExpandText) ||
+         type == static_cast<std::uint32_t>(ValueType::SeveralTexts);
+}
 
 class Registry {
  public:
@@ -84,6 +97,9 @@ class Registry {
   // The data of one value as stored, with no NUL added. MoreData sets `dataLength` to the length needed.
   virtual RegistryStatus query(RegistryKey key, std::string_view name, std::uint32_t& type,
                                std::uint8_t* data, std::uint32_t& dataLength) = 0;
+  // Stores the bytes as they stand, but texts as the system does, to which they are handed over with a NUL
+  // behind them: the NT family stores that NUL too where a text has bytes and does not end in one; the 9x
+  // family stores a text of the type Text up to its first NUL, and that NUL.
   virtual RegistryStatus set(RegistryKey key, std::string_view name, std::uint32_t type,
                              std::span<const std::uint8_t> data) = 0;
   virtual RegistryStatus deleteValue(RegistryKey key, std::string_view name) = 0;

@@ -54,7 +54,7 @@ struct TimedPc : ConsolePc {
   void tasks(const char* text) { writeHostFile(*openHostDir(path), "tasks.txt", text); }
   bool washesAt(std::uint16_t hour, std::uint16_t minute, std::uint16_t second) {
     Files& files = pc->platform().files;
-    files.open(Trace, OpenMode::Output);
+    files.open(Trace, OpenMode::Binary);
     clock.now.wHour = hour;
     clock.now.wMinute = minute;
     clock.now.wSecond = second;

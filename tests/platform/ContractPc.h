@@ -64,6 +64,11 @@ struct FolderPcNt : FolderContractPc {
 #define CONTRACT_PCS FolderPc9x, FolderPcNt
 #endif
 
+template <class Pc>
+bool isNt(Pc& pc) {
+  return pc.platform().restart.platformId(148) == 2;
+}
+
 // The number of the error that the call fails with; 0 where it does not fail.
 template <class Call>
 int failure(Call call) {

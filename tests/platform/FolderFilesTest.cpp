@@ -50,7 +50,7 @@ TEST_CASE("what is remembered of a folder's names hides nothing that the program
   Files& files = pc.platform().files;
   pc.file("C:\\T\\A long name.txt");
   CHECK_FALSE(files.fileExists("C:\\T\\new.txt"));
-  files.open("C:\\T\\NEW.TXT", OpenMode::Output)->close();
+  files.open("C:\\T\\NEW.TXT", OpenMode::Binary)->close();
   CHECK(files.fileExists("C:\\T\\new.txt"));
   files.createFolder("C:\\T\\SUB");
   CHECK(files.folderExists("C:\\T\\sub"));
@@ -106,7 +106,7 @@ TEST_CASE("paths that mean the same file") {
     CAPTURE(path);
     CHECK(files.fileExists(path));
     CHECK(files.openedLength(path) == 5);
-    CHECK(files.shortPath(path) == "C:\\WINDOWS\\MYFOLD~1\\file.txt");
+    CHECK(files.shortPath(path) == "C:\\WINDOWS\\MYFOLD~1\\FILE.TXT");
   }
 }
 
@@ -116,12 +116,12 @@ TEST_CASE("names that no file can have") {
   for (const char* path : {"C:\\a?b", "C:\\a*", "C:\\a:b", "C:\\a|b", "C:\\<", "C:\\con", "C:\\NUL.txt",
                            "C:\\com1.x", "C:\\x\\lpt9", "C:\\ \\a", "C:\\...", "C:\\a\tb", ""}) {
     CAPTURE(path);
-    CHECK(failure([&] { files.open(path, OpenMode::Output); }) == 52);
+    CHECK(failure([&] { files.open(path, OpenMode::Binary); }) == 52);
     CHECK(failure([&] { files.resetAttributes(path); }) == 53);
     CHECK(files.attributes(path) == attribute::Invalid);
   }
-  CHECK(failure([&] { files.open("C:\\" + std::string(300, 'n'), OpenMode::Output); }) == 52);
-  CHECK(failure([&] { files.open("C:\\com10", OpenMode::Output); }) == 0);
+  CHECK(failure([&] { files.open("C:\\" + std::string(300, 'n'), OpenMode::Binary); }) == 52);
+  CHECK(failure([&] { files.open("C:\\com10", OpenMode::Binary); }) == 0);
 }
 
 TEST_CASE("facts about files and drives") {
@@ -191,7 +191,7 @@ TEST_CASE("a link is a file of length 0 in every place and its target stays") {
   CHECK(failure([&] { files.remove("D:\\secret"); }) == 76);
   CHECK(failure([&] { files.find("C:\\folder\\*"); }) == 70);
   CHECK(failure([&] { files.remove("C:\\folder\\secret"); }) == 70);
-  CHECK(failure([&] { files.open("C:\\folder\\new", OpenMode::Output); }) == 70);
+  CHECK(failure([&] { files.open("C:\\folder\\new", OpenMode::Binary); }) == 70);
   CHECK(failure([&] { files.createFolder("C:\\folder\\new"); }) == 70);
   CHECK(failure([&] { files.deleteFolder("C:\\folder"); }) == 76);
   for (const char* path : {"C:\\folder", "C:\\file", "C:\\broken"}) {
@@ -226,7 +226,7 @@ TEST_CASE("a link swapped in while a search runs is not followed") {
   Files& files = fenced.files();
   const std::string c = fenced.temp.path() + "/pc/C";
   files.createFolder("C:\\walk");
-  for (const char* name : {"secret", "other"}) files.open(std::string("C:\\walk\\") + name, OpenMode::Output);
+  for (const char* name : {"secret", "other"}) files.open(std::string("C:\\walk\\") + name, OpenMode::Binary);
 
   const auto search = files.find("C:\\walk\\*");
   FoundFile found;
@@ -244,7 +244,7 @@ TEST_CASE("a link swapped in while a search runs is not followed") {
 TEST_CASE("a folder replaced behind a kept handle is found anew") {
   Fenced fenced;
   fenced.files().createFolder("C:\\a");
-  fenced.files().open("C:\\a\\old", OpenMode::Output);
+  fenced.files().open("C:\\a\\old", OpenMode::Binary);
   REQUIRE(fenced.drive->rename("a", "b") == HostError::None);
   writeHostFile(*fenced.folder("a"), "new", "x");
   CHECK(fenced.files().fileExists("C:\\a\\new"));

@@ -100,7 +100,7 @@ TEST_CASE("facts are read whatever their case, blanks and line ends") {
   const PcFacts facts(
       "\xEF\xBB\xBF Family=NT\r\n# x\n  Current = C:\\Eigene Dateien\\\xC3\x84\nDrive  d = CDROM\nlocked = "
       "C:\\A\nlocked = c:\\b");
-  CHECK(facts.nt);
+  CHECK(facts.family == &familyNt);
   CHECK(facts.current.text() == "C:\\Eigene Dateien\\\xC4");
   CHECK(facts.drives.at('D') == DriveType::CdRom);
   CHECK(facts.locked == std::set<std::string>{"C:\\A", "C:\\B"});
@@ -119,7 +119,7 @@ TEST_CASE("a save changes only what the program changed") {
     CHECK(folder.registry() == handMade);
     CHECK(folder.text("pc.txt") == facts);
 
-    pc.files.open("C:\\h", OpenMode::Output)->close();
+    pc.files.open("C:\\h", OpenMode::Binary)->close();
     pc.files.resetAttributes("C:\\h");
     pc.files.createFolder("C:\\tree");
     pc.files.deleteFolder("C:\\tree");
@@ -229,17 +229,23 @@ TEST_CASE("a profile key is set and all other lines stay") {
         "[rename]\r\nNUL=C:\\X\r\nb=2\r\n");
 }
 
-TEST_CASE("the bins of fixed drives are emptied and stay") {
-  TestPc pc({"drive D = removable"});
-  for (const char* file : {"C:\\Recycled\\INFO2", "C:\\Recycled\\Dc0\\x", "D:\\RECYCLED\\kept", "C:\\kept"})
-    pc.file(file);
-  pc.readOnly("C:\\Recycled\\INFO2");
-  FolderShell shell(pc.platform().files, pc.platform().drives);
-  CHECK(shell.emptyRecycleBin(7) == 0);
-  CHECK_FALSE(pc.platform().files.find("C:\\Recycled\\*"));
-  CHECK(pc.hasFolder("C:\\Recycled"));
-  CHECK(pc.hasFile("D:\\RECYCLED\\kept"));
-  CHECK(pc.hasFile("C:\\kept"));
+TEST_CASE("the bins of fixed drives are emptied and stay; those of single users are the NT family's") {
+  for (const Family* family : {&family9x, &familyNt}) {
+    CAPTURE(std::string(family->name));
+    TestPc pc({"drive D = removable"});
+    for (const char* file : {"C:\\Recycled\\INFO2", "C:\\Recycled\\Dc0\\x", "C:\\Recycler\\S-1-5\\x",
+                             "C:\\$Recycle.Bin\\S-1-5\\x", "D:\\RECYCLED\\kept", "C:\\kept"})
+      pc.file(file);
+    pc.readOnly("C:\\Recycled\\INFO2");
+    FolderShell shell(pc.platform().files, pc.platform().drives, *family);
+    CHECK(shell.emptyRecycleBin(7) == 0);
+    CHECK_FALSE(pc.platform().files.find("C:\\Recycled\\*"));
+    CHECK(pc.hasFolder("C:\\Recycled"));
+    for (const char* userBin : {"C:\\Recycler\\S-1-5", "C:\\$Recycle.Bin\\S-1-5"})
+      CHECK(pc.hasFolder(userBin) == (family == &family9x));
+    CHECK(pc.hasFile("D:\\RECYCLED\\kept"));
+    CHECK(pc.hasFile("C:\\kept"));
+  }
 }
 
 TEST_CASE("keys without rights") {

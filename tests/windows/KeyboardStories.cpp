@@ -1,4 +1,8 @@
 // The keyboard alone, and the window moved by its background.
+#include <windows.h>
+// Behind it.
+#include <commctrl.h>
+
 #include "windows/IconList.h"
 #include "windows/Story.h"
 
@@ -62,6 +66,15 @@ TEST_CASE("space ticks a box, arrows turn the tabs, access keys press") {
   CHECK(pc::storedOption("chkIECache") == "1");
 }
 
+TEST_CASE("a list of boxes that has just got the keyboard shows it on its first row") {
+  const Story story;
+  const Zub zub;
+  openTab(zub.main(), "Custom Plugins");
+  key(VK_TAB);
+  REQUIRE(soon([] { return focus().className() == WC_LISTVIEWA; }));
+  CHECK(soon([] { return focus().send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED) == 0; }));
+}
+
 TEST_CASE("a letter without Alt is no access key, and the icon list goes back to its first item at any key") {
   const Story story;
   const Zub zub;
@@ -86,9 +99,12 @@ TEST_CASE("Ctrl and Tab turn the pages, and the headers can be clicked as before
   const Story story;
   const Zub zub;
   const Window main = zub.main();
-  openTab(main, "Main");
+  main.child("Cache").tick();  // the keyboard is in the page, not on the headers
   chord({VK_CONTROL, VK_TAB});
   main.child("Create A New Plugin");
+  openTab(main, "Main");
+  main.child("Cache").tick();
+  chord({VK_CONTROL, VK_TAB});
   chord({VK_CONTROL, VK_SHIFT, VK_TAB});
   main.child("Downloaded Programs");
   chord({VK_CONTROL, VK_SHIFT, VK_TAB});  // on to the last

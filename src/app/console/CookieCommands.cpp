@@ -77,6 +77,9 @@ void change(const CommandContext& context, const Wanted& wanted, std::vector<Lis
 
 std::vector<List> internetExplorerLists(Engine& engine) {
   const std::string folder = cookiesFolder(engine);
+  if (folder == "\\") {
+    throw RuntimeError(ErrorNumber::PathNotFound, "the registry of this PC names no folder of cookies");
+  }
   List list;
   readIECookies(engine.pc, folder, list.rows);
   list.save = [&engine, folder](const CookieRows& rows) { saveIEKeepList(engine.pc, folder, rows); };

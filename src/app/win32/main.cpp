@@ -27,14 +27,14 @@ using namespace zub;
   tray.attach(program.icon);
   program.icon.windows[frmIcon::MessageWindow] = [&messageBox]() -> Form& { return messageBox.form; };
 
-  const HWND main = windows.add(layout::bindMain(program.main)).hwnd();
-  windows.addLater(layout::bindProgress(program.engine.animated));
-  windows.addLater(layout::bindReport(program.engine.clean));
-  windows.addLater(layout::bindEditor(*program.editor));
-  windows.addLater(layout::bindCookies(*program.ieCookies));
-  windows.addLater(layout::bindCookies(*program.nsCookies));
-  windows.addLater(layout::bindAbout(about), [main] { return main; });
-  windows.addLater(layout::bindMessageBox(messageBox), [main] { return main; });
+  const HWND main = windows.add(layout::mainWindow(program.main)).hwnd();
+  windows.addLater(layout::progressWindow(program.engine.animated));
+  windows.addLater(layout::reportWindow(program.engine.clean));
+  windows.addLater(layout::editorWindow(*program.editor));
+  windows.addLater(layout::cookieWindow(*program.ieCookies));
+  windows.addLater(layout::cookieWindow(*program.nsCookies));
+  windows.addLater(layout::aboutWindow(about), [main] { return main; });
+  windows.addLater(layout::messageWindow(messageBox), [main] { return main; });
   program.main.showAbout = [&] {
     about.Form_Load();
     about.form.Show();

@@ -154,9 +154,16 @@ std::string FolderDisk::shortName(const FolderPath& path) {
   if (!found.exists) throw RuntimeError(ErrorNumber::FileNotFound);
   if (found.parent == nullptr) return {};
   const std::size_t last = path.parts.size() - 1;
-  if (const auto name = namesOf(*found.parent, path, last).shortName(found.name)) return *name;
+  // Some hosts find a name without regard to case, and then do not tell their own.
+  const auto told = [&] {
+    FolderNames& names = namesOf(*found.parent, path, last);
+    if (const auto name = names.shortName(found.name)) return name;
+    const auto own = names.find(path.parts[last]);
+    return own ? names.shortName(*own) : std::nullopt;
+  };
+  if (const auto name = told()) return *name;
   names_.clear();  // it came later
-  return namesOf(*found.parent, path, last).shortName(found.name).value_or(path.parts.back());
+  return told().value_or(path.parts[last]);
 }
 
 FolderPath FolderDisk::pathOf(const Place& place) const {

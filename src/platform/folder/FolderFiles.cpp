@@ -155,7 +155,7 @@ std::unique_ptr<FileChannel> FolderFiles::open(std::string_view path, OpenMode m
   if (!writes && !place.exists) throw RuntimeError(ErrorNumber::FileNotFound);
   if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
   if (isLocked(parts)) throw RuntimeError(ErrorNumber::PermissionDenied);
-  const HostOpen how = !writes ? HostOpen::Read : mode == OpenMode::Output ? HostOpen::Empty : HostOpen::Make;
+  const HostOpen how = writes ? HostOpen::Make : HostOpen::Read;
   std::unique_ptr<HostFile> file;
   check(place.parent->openFile(place.name, how, file));
   if (!place.exists) disk_.forgetNames();
@@ -280,7 +280,7 @@ std::string FolderFiles::shortPath(std::string_view path) {
       walked.parts.push_back(part);
       result.parts.push_back(disk_.shortName(walked));
     }
-    return result.text();
+    return facts_.family->raisesShortNames ? folded(result.text()) : result.text();
   } catch (const RuntimeError&) {
     return {};
   }

@@ -74,7 +74,7 @@ FolderPc::FolderPc(Opened opened, std::string commandLine, DamagedTasks damaged)
       textsRead_(opened.texts.mark()),
       tree_(readRegistry(opened.texts.registry)),
       facts_(opened.texts.facts.value_or("")),
-      rules_{!facts_.nt, facts_.noRights},
+      rules_{facts_.family, facts_.noRights},
       watched_(watched(*root_, failures_)),
       disk_(*watched_, facts_),
       registry(tree_, rules_),
@@ -82,7 +82,7 @@ FolderPc::FolderPc(Opened opened, std::string commandLine, DamagedTasks damaged)
       drives(disk_, facts_),
       folders(facts_),
       restart(files, facts_),
-      shell(files, drives),
+      shell(files, drives, *facts_.family),
       process(*root_, std::move(commandLine), [this] { return isOutdated(); }),
       tasks(*root_, damaged) {}
 

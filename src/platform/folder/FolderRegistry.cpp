@@ -64,6 +64,16 @@ RegistryStatus copyData(const RegistryValue& value, std::uint32_t& type, std::ui
   return status::Success;
 }
 
+std::string stored(const Family& family, std::uint32_t type, std::string data) {
+  if (!family.cutsTexts) {
+    if (isText(type) && !data.empty() && data.back() != '\0') data += '\0';
+  } else if (type == static_cast<std::uint32_t>(ValueType::Text)) {
+    data = StripAtNull(data);
+    data += '\0';
+  }
+  return data;
+}
+
 bool isWithin(const RegistryNode* node, const RegistryNode* tree) {
   while (node != nullptr && node != tree) node = node->parent;
   return node != nullptr;
@@ -191,7 +201,7 @@ RegistryStatus FolderRegistry::set(RegistryKey key, std::string_view name, std::
   if (to.status != status::Success) return to.status;
   if ((to.rights & right::SetValue) == 0) return status::AccessDenied;
   name = StripAtNull(name);
-  RegistryValue value{type, std::string(data.begin(), data.end())};
+  RegistryValue value{type, stored(*rules_.family, type, {data.begin(), data.end()})};
   RegistryValue* present = to.node->values.find(name);
   if (present != nullptr && *present == value) return status::Success;
   (present != nullptr ? *present : to.node->values[name]) = std::move(value);
@@ -216,7 +226,7 @@ RegistryStatus FolderRegistry::deleteKey(RegistryKey key, std::string_view path)
   RegistryNode* node = findBelow(from.node, parts);
   if (node == nullptr) return status::FileNotFound;
   const bool isHive = node->parent == nullptr;
-  if (isHive || (!rules_.deletesTrees && !node->keys.empty()) || !treeWritable(*node)) {
+  if (isHive || (!rules_.family->deletesTrees && !node->keys.empty()) || !treeWritable(*node)) {
     return status::AccessDenied;
   }
   for (Slot& slot : slots_) {

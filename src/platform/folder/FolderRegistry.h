@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/Registry.h"
+#include "platform/folder/Family.h"
 #include "platform/folder/RegistryTree.h"
 
 namespace zub {
@@ -20,7 +21,7 @@ inline constexpr RegistryStatus TooManyOpen = 4;
 class FolderRegistry : public Registry {
  public:
   struct Rules {
-    bool deletesTrees = true;           // a key goes with its subkeys
+    const Family* family;
     std::vector<std::string> noRights;  // paths of keys that, with all below, can only be read
   };
 

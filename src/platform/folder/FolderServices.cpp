@@ -1,7 +1,6 @@
 #include "platform/folder/FolderServices.h"
 
 #include <algorithm>
-#include <array>
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
@@ -74,15 +73,14 @@ void FolderRestart::writeProfile(std::string_view section, std::string_view key,
 std::uint32_t FolderRestart::platformId(std::uint32_t recordSize) {
   const bool tellsItsSize = recordSize == VersionRecord || recordSize == LongVersionRecord;
   if (!tellsItsSize) return 0;
-  return facts_.nt ? 2 : 1;
+  return facts_.family->platformId;
 }
 
 std::int32_t FolderShell::emptyRecycleBin(std::uint32_t) {
-  static constexpr std::array<std::string_view, 3> Bins = {"Recycled", "Recycler", "$Recycle.Bin"};
   bool emptied = true;
   for (const std::string& drive : drives_.list()) {
     if (drives_.type(drive) != DriveType::Fixed) continue;
-    for (const std::string_view bin : Bins) emptied &= emptyFolder(JoinPath(drive, bin));
+    for (const std::string_view bin : family_.recycleBins) emptied &= emptyFolder(JoinPath(drive, bin));
   }
   return emptied ? 0 : Failed;
 }

@@ -54,7 +54,8 @@ class FolderRestart : public Restart {
 // The shell of a PC that nobody sits at: there is nothing to open and nobody to ask.
 class FolderShell : public Shell {
  public:
-  FolderShell(Files& files, Drives& drives) : files_(files), drives_(drives) {}
+  FolderShell(Files& files, Drives& drives, const Family& family)
+      : files_(files), drives_(drives), family_(family) {}
 
   // Empties the bin folders of the fixed drives and leaves the folders themselves.
   std::int32_t emptyRecycleBin(std::uint32_t flags) override;
@@ -69,6 +70,7 @@ class FolderShell : public Shell {
 
   Files& files_;
   Drives& drives_;
+  const Family& family_;
 };
 
 class FolderProcess : public Process {

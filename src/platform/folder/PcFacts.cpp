@@ -56,9 +56,10 @@ DriveType kindOf(std::string_view value) {
                 "\" is no kind of drive: fixed, removable, network, cdrom, ramdisk or unknown"};
 }
 
-bool isNt(std::string_view value) {
-  if (equalFolded(value, "nt")) return true;
-  if (equalFolded(value, "9x")) return false;
+const Family* familyOf(std::string_view value) {
+  for (const Family* family : {&family9x, &familyNt}) {
+    if (equalFolded(value, family->name)) return family;
+  }
   throw Refused{"the family is 9x or nt"};
 }
 
@@ -79,7 +80,7 @@ struct Fact {
 };
 
 constexpr std::array<Fact, 11> Facts{{
-    {"family", false, [](PcFacts& pc, std::string_view value) { pc.nt = isNt(value); }},
+    {"family", false, [](PcFacts& pc, std::string_view value) { pc.family = familyOf(value); }},
     {"windows", false, [](PcFacts& pc, std::string_view value) { pc.windows = pathOf(value); }},
     {"temp", false, [](PcFacts& pc, std::string_view value) { pc.temp = pathOf(value); }},
     {"program", false, [](PcFacts& pc, std::string_view value) { pc.program = pathOf(value); }},

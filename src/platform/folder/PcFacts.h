@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/Services.h"
+#include "platform/folder/Family.h"
 #include "platform/folder/FolderPath.h"
 
 namespace zub {
@@ -23,7 +24,7 @@ class PcFacts {
   // or a fact that can stand once stands twice.
   explicit PcFacts(std::string_view text);
 
-  bool nt = false;
+  const Family* family = &family9x;
   FolderPath windows;
   FolderPath temp;
   FolderPath program;

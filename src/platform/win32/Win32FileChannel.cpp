@@ -22,7 +22,6 @@ constexpr DWORD Everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DEL
 constexpr ModeRow modes[] = {
     {GENERIC_READ | GENERIC_WRITE, 0, OPEN_ALWAYS},  // Binary
     {GENERIC_READ, Everything, OPEN_EXISTING},       // Input
-    {GENERIC_WRITE, 0, CREATE_ALWAYS},               // Output
 };
 
 // A file that its disk keeps in another way, deduplicated or in a cloud: by a reparse point that is no link.

@@ -3,7 +3,6 @@
 #include <array>
 #include <cstring>
 #include <string>
-#include <vector>
 
 #include "platform/win32/Text.h"
 
@@ -14,10 +13,6 @@ static_assert(status::NoMoreItems == ERROR_NO_MORE_ITEMS && status::MoreData == 
 
 HKEY handleOf(RegistryKey key) {
   return reinterpret_cast<HKEY>(key);
-}
-
-bool isText(std::uint32_t type) {
-  return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ;
 }
 
 // The most that a name of a value has, in characters, with its NUL.
@@ -122,14 +117,9 @@ RegistryStatus Win32Registry::query(RegistryKey key, std::string_view name, std:
 
 RegistryStatus Win32Registry::set(RegistryKey key, std::string_view name, std::uint32_t type,
                                   std::span<const std::uint8_t> data) {
-  const DWORD size = static_cast<DWORD>(data.size());
-  const std::string valueName(name);
-  if (!isText(type)) return RegSetValueExA(handleOf(key), valueName.c_str(), 0, type, data.data(), size);
-  // The NT family looks behind a text that does not end in a NUL and stores one more byte if it finds a NUL
-  // there. It finds none in this copy.
-  std::vector<std::uint8_t> bytes(data.begin(), data.end());
-  bytes.push_back('.');
-  return RegSetValueExA(handleOf(key), valueName.c_str(), 0, type, bytes.data(), size);
+  const std::string bytes(data.begin(), data.end());
+  return RegSetValueExA(handleOf(key), std::string(name).c_str(), 0, type,
+                        reinterpret_cast<const BYTE*>(bytes.c_str()), static_cast<DWORD>(data.size()));
 }
 
 RegistryStatus Win32Registry::deleteValue(RegistryKey key, std::string_view name) {

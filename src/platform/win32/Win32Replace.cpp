@@ -82,7 +82,9 @@ bool moveOverIn9x(const SystemPath& beside, const std::string& place) {
 
 bool putInPlace(const SystemPath& beside, const Target& target) {
   if (!target.exists()) return beside.moveTo(SystemPath(target.path));
-  if (!beside.setAttributes(target.attributes)) return false;
+  const DWORD kept =
+      target.attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE);
+  if (kept != 0 && !beside.setAttributes(kept)) return false;
   return isNtFamily() ? beside.moveOver(SystemPath(target.path)) : moveOverIn9x(beside, target.path);
 }
 

@@ -135,8 +135,9 @@ void ListBox::paint(Surface& surface) const {
 Box ListBox::focusPlace() const {
   const Box window = pixels(PicContainer), place = picturePlace(selected_);
   const int air = pixels(TwipsPerPixel);
-  return common(window, {window.left + place.left - air, window.top + panel().top + place.top - air,
-                         place.width + 2 * air, place.height + 2 * air});
+  const Box seen = common(window, {window.left + place.left - air, window.top + panel().top + place.top - air,
+                                   place.width + 2 * air, place.height + 2 * air});
+  return seen.height > 0 ? seen : window;
 }
 
 int ListBox::partAt(float x, float y) const {

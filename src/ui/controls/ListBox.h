@@ -40,7 +40,7 @@ class ListBox : public Control {
   void ItemName(std::int16_t index, std::string_view name);
 
   void paint(Surface& surface) const override;
-  Box focusPlace() const override;  // around the selected item
+  Box focusPlace() const override;  // around the selected item; around all where it is out of sight
 
   Described described() const override { return {.role = Role::List, .name = "Items"}; }
   int parts() const override { return Items; }

@@ -5,41 +5,38 @@
 namespace zub {
 namespace {
 
-constexpr std::string_view Narrow = "Arial Narrow", Wide = "Arial";
-constexpr int NarrowOfWide = 82;  // hundredths
-
-HFONT create(std::string_view name, int height, int width, bool bold) {
-  return CreateFontA(-height, width, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+HFONT create(std::string_view name, int height, bool bold) {
+  return CreateFontA(-height, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
                      OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_SWISS,
                      std::string(name).c_str());
 }
 
-// What the system gives for a font, which it may lack.
-struct Given {
-  std::string face;
-  int averageWidth;
-};
-Given givenFor(HFONT font) {
+// For a font that it lacks, the system gives another.
+bool isWhatWasAsked(HFONT font, std::string_view name) {
   const HDC screen = GetDC(nullptr);
   const HGDIOBJ before = SelectObject(screen, font);
   char face[LF_FACESIZE] = "";
   GetTextFaceA(screen, sizeof face, face);
-  TEXTMETRICA metrics{};
-  GetTextMetricsA(screen, &metrics);
   SelectObject(screen, before);
   ReleaseDC(nullptr, screen);
-  return {face, static_cast<int>(metrics.tmAveCharWidth)};
+  return lstrcmpiA(face, std::string(name).c_str()) == 0;
 }
 
-// A bare Windows has no narrow letters: the common ones are drawn as narrow, for as much text to a line.
-HFONT made(std::string_view name, int height, bool bold) {
-  const HFONT font = create(name, height, 0, bold);
-  if (name != Narrow || givenFor(font).face == Narrow) return font;
-  DeleteObject(font);
-  const HFONT wide = create(Wide, height, 0, bold);
-  const HFONT squeezed = create(Wide, height, MulDiv(givenFor(wide).averageWidth, NarrowOfWide, 100), bold);
-  DeleteObject(wide);
-  return squeezed;
+// A bare Windows has no narrow letters. Those that stand in for them are as narrow, where they are drawn well in
+// that height; the last is wider, which the places of the texts have room for.
+HFONT narrow(int height, bool bold) {
+  constexpr int Any = 10000;
+  constexpr struct {
+    std::string_view name;
+    int tallest;  // in pixels
+  } Choices[] = {{"Arial Narrow", Any}, {"Small Fonts", 11}, {"Liberation Sans Narrow", Any}};
+  for (const auto& [name, tallest] : Choices) {
+    if (height > tallest) continue;
+    const HFONT font = create(name, height, bold);
+    if (isWhatWasAsked(font, name)) return font;
+    DeleteObject(font);
+  }
+  return create("Arial", height, bold);
 }
 
 }  // namespace
@@ -57,7 +54,7 @@ Fonts::~Fonts() {
 HFONT Fonts::font(std::string_view name, float points, bool bold) {
   const int height = static_cast<int>(std::lround(points * static_cast<float>(scale_.dpi) / 72));
   HFONT& font = fonts_[{std::string(name), height, bold}];
-  if (font == nullptr) font = made(name, height, bold);
+  if (font == nullptr) font = name == "Arial Narrow" ? narrow(height, bold) : create(name, height, bold);
   return font;
 }
 

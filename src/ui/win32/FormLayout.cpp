@@ -11,19 +11,23 @@ constexpr const char* FormClass = "ZubraneForm";
 
 }  // namespace
 
-FormWindow::FormWindow(Ui& ui, layout::WindowBinding binding, HWND owner)
-    : OwnWindow(ui, plainColor(binding.window->background)), binding_(std::move(binding)), owner_(owner) {
-  const layout::WindowSpec& window = *binding_.window;
-  const WindowFrame frame = frameOf(window.border);
-  const SIZE size = frame.outerSize(ui.fonts.pixels(window.width), ui.fonts.pixels(window.height));
+FormWindow::FormWindow(Ui& ui, layout::WindowSpec window, HWND owner)
+    : OwnWindow(ui, plainColor(window.face.background)), window_(std::move(window)), owner_(owner) {
+  const layout::Face& face = window_.face;
+  const WindowFrame frame = frameOf(face.border);
+  const SIZE size = frame.outerSize(ui.fonts.pixels(face.width), ui.fonts.pixels(face.height));
   create({FormClass,
-          std::string(window.title).c_str(),
+          std::string(face.title).c_str(),
           frame.style,
           frame.extendedStyle,
           {0, 0, size.cx, size.cy},
           owner});
-  if (window.border == layout::Border::Dialog) showIcon();
-  makeControls();
+  if (face.border == layout::Border::Dialog) showIcon();
+  makeToolTips();
+  makeControls(window_.controls, hwnd(), face.background);
+  if (!pages_.empty()) showPage(0);
+  // Newer systems hide where the keyboard is until a key is pressed.
+  SendMessageA(hwnd(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
 }
 
 FormWindow::~FormWindow() = default;
@@ -41,77 +45,63 @@ FormWindow* FormWindow::of(HWND window) {
   return reinterpret_cast<FormWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
 }
 
-void FormWindow::makeControls() {
+void FormWindow::makeToolTips() {
   toolTips_ =
       CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT,
                       CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, hwnd(), nullptr, ui_.instance, nullptr);
-  for (const layout::ControlSpec& spec : binding_.window->controls) {
-    if (spec.kind == layout::Kind::Page)
-      makePage(spec);
-    else
-      makeView(spec);
-  }
-  if (!pages_.empty()) showPage(0);
-  // Newer systems hide where the keyboard is until a key is pressed.
-  SendMessageA(hwnd(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
 }
 
-void FormWindow::makePage(const layout::ControlSpec& spec) {
+void FormWindow::makeControls(const layout::Controls& controls, HWND holder, Color ground) {
+  layout::Kind before = layout::Kind::Page;
+  for (const layout::ControlSpec& spec : controls) {
+    // One group each for the arrow keys, but for option buttons that follow each other.
+    const bool continues = spec.kind == layout::Kind::Radio && before == layout::Kind::Radio;
+    before = spec.kind;
+    if (spec.kind == layout::Kind::Page) {
+      makeControls(spec.inside, makePage(spec), colors::Page);
+    } else {
+      const COLORREF under = window_.face.backdrop.empty() ? plainColor(ground) : backdropUnder(spec);
+      makeControls(spec.inside, makeView(spec, holder, under, continues), ground);
+    }
+  }
+}
+
+HWND FormWindow::makePage(const layout::ControlSpec& spec) {
   pages_.push_back(std::make_unique<FormPage>(ui_, hwnd(), ui_.fonts.pixels(spec.place)));
-  holders_[spec.name] = pages_.back()->hwnd();
+  return pages_.back()->hwnd();
 }
 
-HWND FormWindow::windowOf(std::string_view parent) const {
-  const auto holder = holders_.find(parent);
-  return holder != holders_.end() ? holder->second : hwnd();
-}
-
-void FormWindow::makeView(const layout::ControlSpec& spec) {
-  const layout::Binding* binding = nullptr;
-  for (const layout::Binding& one : binding_.controls) {
-    if (one.control == spec.name) binding = &one;
-  }
-  const ViewSite site{ui_,
-                      *binding_.window,
-                      spec,
-                      binding,
-                      windowOf(spec.parent),
-                      ui_.fonts.pixels(spec.place),
-                      groundUnder(spec),
-                      [this](int page) { showPage(page); }};
+HWND FormWindow::makeView(const layout::ControlSpec& spec, HWND holder, COLORREF ground, bool continues) {
+  const ViewSite site{
+      ui_, window_, spec, holder, ui_.fonts.pixels(spec.place), ground, [this](int page) { showPage(page); }};
   std::unique_ptr<View> view = makeKitView(site);
   if (!view) view = makeNativeView(site);
-  if (spec.kind == layout::Kind::Group) holders_[spec.name] = view->hwnd();
-  if (spec.kind == layout::Kind::Tabs) tabs_ = view->hwnd();
+  const HWND control = view->hwnd();
+  if (spec.kind == layout::Kind::Tabs) tabs_ = control;
   if (TextBox* box = site.bound<TextBox*>()) boxes_[box] = view.get();
-  // One group each for the arrow keys, but for option buttons that follow each other.
-  const bool continues = spec.kind == layout::Kind::Radio && &spec != binding_.window->controls.data() &&
-                         (&spec)[-1].kind == layout::Kind::Radio;
-  const LONG style = GetWindowLongA(view->hwnd(), GWL_STYLE);
-  if (!continues) SetWindowLongA(view->hwnd(), GWL_STYLE, style | LONG{WS_GROUP});
-  if (!spec.toolTip.empty()) addToolTip(view->hwnd(), spec.toolTip);
+  if (!continues) SetWindowLongA(control, GWL_STYLE, GetWindowLongA(control, GWL_STYLE) | LONG{WS_GROUP});
+  if (!spec.toolTip.empty()) addToolTip(control, spec.toolTip);
   // The text box inside a combo box gets the pointer's messages itself.
-  if (spec.kind == layout::Kind::EditCombo && !spec.toolTip.empty())
-    addToolTip(GetWindow(view->hwnd(), GW_CHILD), spec.toolTip);
+  if (spec.kind == layout::Kind::EditCombo) addToolTip(GetWindow(control, GW_CHILD), spec.toolTip);
   views_.push_back(std::move(view));
+  return control;
 }
 
-// On a backdrop, the colour that it has at the control's corner: what is transparent lies on plain parts of it.
-COLORREF FormWindow::groundUnder(const layout::ControlSpec& spec) const {
-  const std::string_view backdrop = binding_.window->backdrop;
-  if (backdrop.empty()) return plainColor(layout::groundOf(*binding_.window, spec));
-  const std::uint32_t pixel = ui_.art[backdrop].pixel(spec.place.left / layout::TwipsPerPixel,
-                                                      spec.place.top / layout::TwipsPerPixel);
+// The colour that it has at the control's corner: what is transparent lies on plain parts of it.
+COLORREF FormWindow::backdropUnder(const layout::ControlSpec& spec) const {
+  const std::uint32_t pixel = ui_.art[window_.face.backdrop].pixel(spec.place.left / layout::TwipsPerPixel,
+                                                                   spec.place.top / layout::TwipsPerPixel);
   return rgb(pixel >> 16U & 0xFFU, pixel >> 8U & 0xFFU, pixel & 0xFFU);
 }
 
 void FormWindow::paintBackdrop(HDC dc) const {
-  const controls::Bitmap& picture = ui_.art[binding_.window->backdrop];
-  ui_.canvas.surface(picture.width(), picture.height()).draw(picture, {0, 0});
+  const controls::Bitmap& picture = ui_.art[window_.face.backdrop];
   RECT all;
   GetClientRect(hwnd(), &all);
-  StretchBlt(dc, 0, 0, static_cast<int>(all.right), static_cast<int>(all.bottom), ui_.canvas.dc(), 0, 0,
-             picture.width(), picture.height(), SRCCOPY);
+  const int width = static_cast<int>(all.right), height = static_cast<int>(all.bottom);
+  ui_.canvas.surface(width, height)
+      .copy(picture, {0, 0, picture.width(), picture.height()}, {0, 0, width, height});
+  BitBlt(dc, 0, 0, width, height, ui_.canvas.dc(), 0, 0, SRCCOPY);
 }
 
 void FormWindow::addToolTip(HWND control, std::string_view text) {

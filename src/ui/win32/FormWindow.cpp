@@ -7,7 +7,7 @@
 namespace zub {
 
 bool FormWindow::isWanted() const {
-  const Form* form = binding_.form();
+  const Form* form = window_.form();
   return form != nullptr && form->Visible;
 }
 
@@ -17,7 +17,7 @@ void FormWindow::enable(const Form& form, bool covered) {
 
 void FormWindow::showForm(bool covered) {
   if (!isWanted()) return;
-  Form& form = *binding_.form();
+  Form& form = *window_.form();
   if (!visible_) beginAnew(form);
   enable(form, covered);
   showControls();
@@ -29,7 +29,7 @@ void FormWindow::showForm(bool covered) {
 void FormWindow::beginAnew(const Form& form) {
   for (const auto& view : views_) view->forget();
   broughtUp_ = form.shown - 1;
-  if (!binding_.anew) return;
+  if (!window_.anew) return;
   placed_ = false;
   lastFocus_ = nullptr;
   if (tabs_ == nullptr) return;
@@ -56,7 +56,7 @@ void FormWindow::hideForm(bool covered) {
   if (isWanted()) return;
   if (std::exchange(visible_, false)) ShowWindow(hwnd(), SW_HIDE);
   // A main window that a wash disables is hidden first.
-  const Form* form = binding_.form();
+  const Form* form = window_.form();
   if (form != nullptr) enable(*form, covered);
 }
 
@@ -65,7 +65,7 @@ void FormWindow::showControls() {
 }
 
 void FormWindow::takeFocus() {
-  const TextBox* box = binding_.takesFocus ? binding_.takesFocus() : nullptr;
+  const TextBox* box = window_.takesFocus ? window_.takesFocus() : nullptr;
   if (const auto view = boxes_.find(box); view != boxes_.end()) SetFocus(view->second->hwnd());
   if (GetActiveWindow() != hwnd()) return;
   // The control that had the keyboard may have gone or been disabled.
@@ -91,7 +91,6 @@ bool FormWindow::takesKey(const MSG& key) {
   }
 }
 
-// A list that hangs open keeps the key.
 // At once, not when the mouse next moves.
 void FormWindow::showPointer(const Form& form) {
   if (!changes(pointer_, form.mousePointer)) return;
@@ -102,10 +101,11 @@ void FormWindow::showPointer(const Form& form) {
     SendMessageA(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
 }
 
+// A list that hangs open keeps the key.
 bool FormWindow::takesEscape(HWND control) {
   const auto hangsOpen = [](HWND window) { return SendMessageA(window, CB_GETDROPPEDSTATE, 0, 0) == TRUE; };
-  if (!binding_.escape || hangsOpen(control) || hangsOpen(GetParent(control))) return false;
-  ui_.guard.run([this] { raise(binding_.escape); });
+  if (!window_.escape || hangsOpen(control) || hangsOpen(GetParent(control))) return false;
+  ui_.guard.run([this] { raise(window_.escape); });
   return true;
 }
 
@@ -121,16 +121,16 @@ bool FormWindow::turnPage(int direction) {
 }
 
 void FormWindow::stateChanged(WPARAM how) {
-  Form* form = binding_.form();
+  Form* form = window_.form();
   if (form == nullptr || (how != SIZE_MINIMIZED && how != SIZE_RESTORED)) return;
   form->windowState = how == SIZE_MINIMIZED ? WindowState::Minimised : WindowState::Normal;
-  raise(binding_.resize);
+  raise(window_.resize);
 }
 
 void FormWindow::queryEnd() {
-  if (!binding_.queryEnd) return;
+  if (!window_.queryEnd) return;
   const ShutdownReason reason(hwnd(), L"The wash at the end of the session is running.");
-  binding_.queryEnd();
+  window_.queryEnd();
 }
 
 // As if the title bar had been grabbed.
@@ -142,11 +142,11 @@ void FormWindow::drag() {
 LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_ERASEBKGND:
-      if (binding_.window->backdrop.empty()) break;
+      if (window_.face.backdrop.empty()) break;
       paintBackdrop(reinterpret_cast<HDC>(wParam));
       return 1;
     case WM_CLOSE:
-      if (enabled_) raise(binding_.close);
+      if (enabled_) raise(window_.close);
       return 0;
     case WM_SIZE:
       if (visible_) stateChanged(wParam);
@@ -159,7 +159,7 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (grabbed_) drag();
       return 0;
     case WM_SETCURSOR: {
-      const Form* form = binding_.form();
+      const Form* form = window_.form();
       if (form == nullptr || form->mousePointer != MousePointer::Hourglass) break;
       SetCursor(LoadCursorA(nullptr, IDC_WAIT));
       return TRUE;
@@ -179,7 +179,7 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if ((lParam & ENDSESSION_CLOSEAPP) == 0) ui_.guard.run([this] { queryEnd(); });
       return TRUE;
     case WM_ENDSESSION:
-      if (wParam != 0) raise(binding_.end);
+      if (wParam != 0) raise(window_.end);
       return 0;
     default:
       break;

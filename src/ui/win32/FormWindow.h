@@ -15,8 +15,8 @@ namespace zub {
 
 class FormWindow : public OwnWindow {
  public:
-  // `owner` may be null. The binding's objects outlive the window.
-  FormWindow(Ui& ui, layout::WindowBinding binding, HWND owner);
+  // `owner` may be null.
+  FormWindow(Ui& ui, layout::WindowSpec window, HWND owner);
   ~FormWindow() override;
 
   // The window of a handle; null for a window that is none of these.
@@ -36,12 +36,13 @@ class FormWindow : public OwnWindow {
 
  private:
   void showIcon();
-  void makeControls();
-  void makePage(const layout::ControlSpec& spec);
-  void makeView(const layout::ControlSpec& spec);
+  void makeToolTips();
+  void makeControls(const layout::Controls& controls, HWND holder, Color ground);
+  HWND makePage(const layout::ControlSpec& spec);
+  // `continues`: the arrow keys go on to it from the control before.
+  HWND makeView(const layout::ControlSpec& spec, HWND holder, COLORREF ground, bool continues);
   void addToolTip(HWND control, std::string_view text);
-  HWND windowOf(std::string_view parent) const;
-  COLORREF groundUnder(const layout::ControlSpec& spec) const;
+  COLORREF backdropUnder(const layout::ControlSpec& spec) const;
   void paintBackdrop(HDC dc) const;
   void place();
   void showPage(int page);
@@ -61,12 +62,11 @@ class FormWindow : public OwnWindow {
   void queryEnd();
   void drag();
 
-  layout::WindowBinding binding_;
+  const layout::WindowSpec window_;
   HWND owner_;
   HWND toolTips_ = nullptr;
   HWND tabs_ = nullptr;
   HWND lastFocus_ = nullptr;
-  std::map<std::string_view, HWND> holders_;  // pages and groups by name
   std::vector<std::unique_ptr<FormPage>> pages_;
   std::vector<std::unique_ptr<View>> views_;
   std::map<const TextBox*, View*> boxes_;

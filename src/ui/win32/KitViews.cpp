@@ -17,7 +17,7 @@ using layout::Kind;
 KitHost::Parts button(const ViewSite& site) {
   auto control = std::make_unique<controls::XPCmdButton>(site.ui.kit);
   controls::XPCmdButton& button = *control;
-  button.Caption(std::string(site.spec.caption));
+  button.Caption(site.caption());
   button.Click = site.click();
   KitHost::Parts parts;
   parts.control = std::move(control);
@@ -36,7 +36,7 @@ KitHost::Parts button(const ViewSite& site) {
 KitHost::Parts check(const ViewSite& site) {
   auto control = std::make_unique<controls::XPCheck>(site.ui.kit);
   controls::XPCheck& box = *control;
-  box.Caption(std::string(site.spec.caption));
+  box.Caption(site.caption());
   CheckOption& option = *site.bound<CheckOption*>();
   KitHost::Parts parts;
   parts.control = std::move(control);
@@ -58,7 +58,7 @@ KitHost::Parts check(const ViewSite& site) {
 
 KitHost::Parts group(const ViewSite& site) {
   auto control = std::make_unique<controls::XPGroupBox>(site.ui.kit);
-  control->Caption(std::string(site.spec.caption));
+  control->Caption(site.caption());
   KitHost::Parts parts;
   parts.control = std::move(control);
   if (const auto* state = site.bound<const Group*>()) parts.visible = [state] { return state->Visible; };

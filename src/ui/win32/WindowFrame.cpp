@@ -5,10 +5,6 @@
 namespace zub {
 namespace {
 
-constexpr const layout::WindowSpec* Windows[] = {
-    &layout::mainWindow,     &layout::progressWindow,       &layout::reportWindow, &layout::editorWindow,
-    &layout::ieCookieWindow, &layout::netscapeCookieWindow, &layout::aboutWindow,  &layout::messageWindow};
-
 int screenDpi() {
   const HDC screen = GetDC(nullptr);
   const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
@@ -46,7 +42,7 @@ int fittingDpi() {
   RECT room;
   if (SystemParametersInfoA(SPI_GETWORKAREA, 0, &room, 0) == 0) return wanted;
   int dpi = wanted;
-  for (const layout::WindowSpec* window : Windows) {
+  for (const layout::Face* window : layout::faces::All) {
     const SIZE frame = frameOf(window->border).outerSize(0, 0);
     const auto width = static_cast<int>(room.right - room.left - frame.cx);
     const auto height = static_cast<int>(room.bottom - room.top - frame.cy);

@@ -47,13 +47,13 @@ std::uint64_t WindowSystem::now() const {
   return static_cast<std::uint64_t>(seconds * 1000 + count.QuadPart % frequency_ * 1000 / frequency_);
 }
 
-FormWindow& WindowSystem::add(layout::WindowBinding binding) {
-  windows_.push_back(std::make_unique<FormWindow>(ui_, std::move(binding), nullptr));
+FormWindow& WindowSystem::add(layout::WindowSpec window) {
+  windows_.push_back(std::make_unique<FormWindow>(ui_, std::move(window), nullptr));
   return *windows_.back();
 }
 
-void WindowSystem::addLater(layout::WindowBinding binding, std::function<HWND()> owner) {
-  later_.push_back({std::move(binding), std::move(owner)});
+void WindowSystem::addLater(layout::WindowSpec window, std::function<HWND()> owner) {
+  later_.push_back({std::move(window), std::move(owner)});
 }
 
 // Called for each KiB that is shredded: all that most calls cost is a look at the system's coarse clock.
@@ -119,13 +119,13 @@ void WindowSystem::showAll() {
   lastShow_ = now();
   owesShow_ = false;
   for (std::size_t at = 0; at < later_.size();) {
-    const Form* form = later_[at].binding.form();
+    const Form* form = later_[at].window.form();
     if (form == nullptr || !form->Visible) {
       ++at;
       continue;
     }
     const HWND owner = later_[at].owner ? later_[at].owner() : nullptr;
-    windows_.push_back(std::make_unique<FormWindow>(ui_, std::move(later_[at].binding), owner));
+    windows_.push_back(std::make_unique<FormWindow>(ui_, std::move(later_[at].window), owner));
     later_.erase(later_.begin() + static_cast<std::ptrdiff_t>(at));
   }
   const bool isModal = modal_.lasts && modal_.lasts();

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/Services.h"
-#include "ui/layout/Bindings.h"
+#include "ui/layout/WindowSpec.h"
 #include "ui/win32/FormWindow.h"
 
 namespace zub {
@@ -23,9 +23,9 @@ class WindowSystem : public EventLoop {
   std::function<void(std::uint64_t now)> serveTimers;
 
   // A window that is made at once, hidden.
-  FormWindow& add(layout::WindowBinding binding);
+  FormWindow& add(layout::WindowSpec window);
   // A window that is made when its form is first visible; `owner` answers the window that it lies over.
-  void addLater(layout::WindowBinding binding, std::function<HWND()> owner = {});
+  void addLater(layout::WindowSpec window, std::function<HWND()> owner = {});
 
   // Throws EndOfProcess where the process ends in it. Does nothing if the last turn was a moment ago.
   void DoEvents() override;
@@ -42,7 +42,7 @@ class WindowSystem : public EventLoop {
  private:
   class Heart;
   struct Later {
-    layout::WindowBinding binding;
+    layout::WindowSpec window;
     std::function<HWND()> owner;
   };
   struct Modal {

@@ -21,8 +21,8 @@ Canvas black(int width, int height) {
 
 }  // namespace
 
-TEST_CASE("a bitmap file is read as it stands, or not at all") {
-  const std::vector<unsigned char> good = bitmapFile(3, 2, counted);
+TEST_CASE("a picture file is read as it stands, or not at all") {
+  const std::vector<unsigned char> good = pictureFile(3, 2, counted);
   const Bitmap picture(good);
   REQUIRE(picture.width() == 3);
   REQUIRE(picture.height() == 2);
@@ -35,17 +35,11 @@ TEST_CASE("a bitmap file is read as it stands, or not at all") {
     unsigned char byte;
   } faults[] = {
       {"another mark", 0, 'X'},
-      {"pixels begin in the header", 10, 53},
-      {"pixels begin past the end", 13, 1},
-      {"another header", 14, 12},
-      {"no width", 18, 0},
-      {"too wide", 19, 0x20},
-      {"wider than its pixels", 18, 4},
-      {"top row first", 25, 0xFF},
-      {"two planes", 26, 2},
-      {"24 bits", 28, 24},
-      {"packed", 30, 1},
-      {"higher than its pixels", 22, 3},
+      {"no width", 7, 0},
+      {"no height", 11, 0},
+      {"too wide", 6, 0x20},
+      {"wider than its pixels", 7, 4},
+      {"higher than its pixels", 11, 3},
   };
   for (const auto& [fault, place, byte] : faults) {
     CAPTURE(fault);
@@ -58,7 +52,7 @@ TEST_CASE("a bitmap file is read as it stands, or not at all") {
 }
 
 TEST_CASE("copying stretches to the mean of what lies under a pixel, and clips at both ends") {
-  const std::vector<unsigned char> file = bitmapFile(4, 2, counted);
+  const std::vector<unsigned char> file = pictureFile(4, 2, counted);
   const Bitmap picture(file);
   const struct {
     const char* what;
@@ -87,7 +81,7 @@ TEST_CASE("copying stretches to the mean of what lies under a pixel, and clips a
 }
 
 TEST_CASE("the lines of a frame grow in whole steps, its middle takes the rest") {
-  const std::vector<unsigned char> file = bitmapFile(3, 3, counted);
+  const std::vector<unsigned char> file = pictureFile(3, 3, counted);
   const struct {
     int dpi, side;
     const char* drawing;
@@ -111,7 +105,7 @@ TEST_CASE("opacity mixes each colour by itself") {
       {0x00FFFFFF, 0x204060}, {0xFF102030, 0x102030}, {0x80FFFFFF, 0x90A0B0}, {0x40000000, 0x183048}};
   for (const auto& [over, result] : cases) {
     const std::uint32_t color = over;
-    const std::vector<unsigned char> file = bitmapFile(1, 1, [color](int, int) { return color; });
+    const std::vector<unsigned char> file = pictureFile(1, 1, [color](int, int) { return color; });
     Canvas canvas(1, 1);
     canvas.surface().clear(rgb(0x20, 0x40, 0x60));
     canvas.surface().draw(Bitmap(file), {});
@@ -120,7 +114,7 @@ TEST_CASE("opacity mixes each colour by itself") {
 }
 
 TEST_CASE("a part of a surface has its own corner and never paints outside") {
-  const std::vector<unsigned char> file = bitmapFile(4, 2, counted);
+  const std::vector<unsigned char> file = pictureFile(4, 2, counted);
   Canvas canvas = black(6, 4);
   Surface window = canvas.surface().within({1, 1, 4, 2});
   Surface panel = window.within({0, -1, 4, 6});

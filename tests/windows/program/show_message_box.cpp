@@ -6,7 +6,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
   zub::Ui ui(instance);
   zub::WindowSystem windows(ui);
   zub::MessageBox box;
-  windows.addLater(zub::layout::bindMessageBox(box));
+  windows.addLater(zub::layout::messageWindow(box));
   box.form.Show();
   windows.run();
 }
