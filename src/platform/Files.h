@@ -89,6 +89,12 @@ class FileChannel {
   virtual void sync() = 0;  // what was written has reached the disk, in its old place
 };
 
+enum class Removal : std::uint8_t {
+  File,          // which nobody else has open
+  EvenReadOnly,  // a file as it goes with its folder
+  EmptyFolder,   // what it holds is left aside
+};
+
 class Files {
  public:
   virtual ~Files() = default;
@@ -108,6 +114,8 @@ class Files {
   virtual std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) = 0;
   // The same as opening for Binary, taking the length and closing, but does not make a missing file: 53.
   virtual std::int64_t openedLength(std::string_view path) = 0;
+  // Whether a file or folder could be removed now: fails as its removal would, and changes nothing. A file's length.
+  virtual std::int64_t removable(std::string_view path, Removal how) = 0;
   virtual void remove(std::string_view path) = 0;
   // Writes a file whole, made where it is missing: the bytes are written beside it (under a name of this
   // process, "Cookies.txt.1234.new") and take its place once they have reached the disk. At every moment

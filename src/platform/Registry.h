@@ -50,11 +50,19 @@ inline constexpr RegistryStatus Success = 0;
 inline constexpr RegistryStatus FileNotFound = 2;  // no such key or value
 inline constexpr RegistryStatus AccessDenied = 5;
 inline constexpr RegistryStatus InvalidHandle = 6;
-inline constexpr RegistryStatus MoreData = 234;  // the buffer is too small
+inline constexpr RegistryStatus InvalidParameter = 87;  // a key that cannot be
+inline constexpr RegistryStatus BadPath = 161;          // an empty part in the path
+inline constexpr RegistryStatus MoreData = 234;         // the buffer is too small
 inline constexpr RegistryStatus NoMoreItems = 259;
+inline constexpr RegistryStatus KeyDeleted = 1018;  // the open key was deleted meanwhile
 }  // namespace status
 
 namespace access {
+inline constexpr std::uint32_t QueryValue = 1;
+inline constexpr std::uint32_t SetValue = 2;
+inline constexpr std::uint32_t CreateSubKey = 4;
+inline constexpr std::uint32_t EnumerateSubKeys = 8;
+inline constexpr std::uint32_t Delete = 0x10000;
 inline constexpr std::uint32_t Write = 0x20006;
 inline constexpr std::uint32_t All = 0x3F;  // query, set, create, enumerate, notify, link
 inline constexpr std::uint32_t Read = 131135;

@@ -26,6 +26,7 @@
 #include <string_view>
 
 #include "base/RuntimeError.h"
+#include "platform/PretendContractPc.h"
 #include "platform/Sharing.h"
 #include "support/TestPc.h"
 #ifdef _WIN32
@@ -58,10 +59,13 @@ struct FolderPcNt : FolderContractPc {
   FolderPcNt() : FolderContractPc("nt") {}
 };
 
+using Pretending9x = Pretending<FolderPc9x>;
+using PretendingNt = Pretending<FolderPcNt>;
 #ifdef _WIN32
-#define CONTRACT_PCS FolderPc9x, FolderPcNt, Win32ContractPc
+using PretendingWin32 = Pretending<Win32ContractPc>;
+#define CONTRACT_PCS FolderPc9x, FolderPcNt, Win32ContractPc, Pretending9x, PretendingNt, PretendingWin32
 #else
-#define CONTRACT_PCS FolderPc9x, FolderPcNt
+#define CONTRACT_PCS FolderPc9x, FolderPcNt, Pretending9x, PretendingNt
 #endif
 
 template <class Pc>

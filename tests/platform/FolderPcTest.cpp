@@ -4,10 +4,10 @@
 
 #include "base/Text.h"
 #include "platform/ContractPc.h"
+#include "platform/ProfileText.h"
 #include "platform/folder/FolderPc.h"
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
-#include "platform/folder/ProfileText.h"
 #include "platform/folder/RegistryText.h"
 #include "support/TempFolder.h"
 
@@ -221,12 +221,13 @@ TEST_CASE("one program works on a PC at a time, on what it has read") {
 
 TEST_CASE("a profile key is set and all other lines stay") {
   const std::string rename = "[rename]\r\nnul=C:\\X\r\n";
-  CHECK(withProfileKey("", "rename", "nul", "C:\\X") == rename);
-  CHECK(withProfileKey("[a]\nk=1", "rename", "nul", "C:\\X") == "[a]\nk=1\r\n" + rename);
-  CHECK(withProfileKey("; c\n[Rename]\nx=y\n\n[z]\nnul=1\n", "rename", "nul", "C:\\X") ==
-        "; c\n[Rename]\nx=y\nnul=C:\\X\r\n\n[z]\nnul=1\n");
-  CHECK(withProfileKey("[rename]\r\n NUL = C:\\Y\r\nb=2\r\n", "rename", "nul", "C:\\X") ==
-        "[rename]\r\nNUL=C:\\X\r\nb=2\r\n");
+  const auto changed = [](std::string_view text) {
+    return withProfileKey(text, "rename", "nul", "C:\\X", CodePage1252{});
+  };
+  CHECK(changed("") == rename);
+  CHECK(changed("[a]\nk=1") == "[a]\nk=1\r\n" + rename);
+  CHECK(changed("; c\n[Rename]\nx=y\n\n[z]\nnul=1\n") == "; c\n[Rename]\nx=y\nnul=C:\\X\r\n\n[z]\nnul=1\n");
+  CHECK(changed("[rename]\r\n NUL = C:\\Y\r\nb=2\r\n") == "[rename]\r\nNUL=C:\\X\r\nb=2\r\n");
 }
 
 TEST_CASE("the bins of fixed drives are emptied and stay; those of single users are the NT family's") {

@@ -160,6 +160,10 @@ class TestFiles : public Files {
     faults_.strike(Call::OpenedLength, path);
     return files_.openedLength(path);
   }
+  std::int64_t removable(std::string_view path, Removal how) override {
+    faults_.strike(Call::Remove, path);
+    return files_.removable(path, how);
+  }
   void remove(std::string_view path) override {
     log_({"remove ", path});
     faults_.strike(Call::Remove, path);
@@ -297,6 +301,7 @@ class TestDesk : public Clock, public Shell, public Process, public EventLoop, p
     pc_.recycleFlags.push_back(flags);
     return pc_.recycleResult;
   }
+  std::vector<std::string> recycleBins() override { return {}; }
   void updateRecycleBinIcon() override {
     log_({"refresh the icon of the bin"});
     ++pc_.recycleIconUpdates;

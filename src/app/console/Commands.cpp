@@ -11,6 +11,11 @@ namespace {
 
 constexpr std::array commandTable{
     Command{"wash", "", "start the program, press \"Start Cleaning\", press \"Finish\", end", washCommand},
+    Command{"preview", "[--list]",
+            "tell what a wash would remove now, and remove nothing; with --list each thing on a line: its "
+            "kind, a tab, "
+            "its path, for a value a tab and its name",
+            previewCommand},
     Command{"start", "[/STARTUP] [/SCHEDULER]",
             "start the program with these switches, to the end of its washes", startCommand},
     Command{"options", "", "list what the settings store keeps", optionsCommand},
@@ -62,6 +67,13 @@ void CommandContext::print(std::string_view text) const {
   const std::string line = pc.toTerminal(text);
   std::fwrite(line.data(), 1, line.size(), stdout);
   std::fputc('\n', stdout);
+}
+
+void CommandContext::printRow(std::initializer_list<std::string_view> fields) const {
+  std::string row;
+  for (const std::string_view field : fields) row += (row.empty() ? "" : "\t") + pc.toTerminal(field);
+  row += '\n';
+  std::fwrite(row.data(), 1, row.size(), stdout);
 }
 
 void CommandContext::tell(const std::string& failure) const {

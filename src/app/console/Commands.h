@@ -1,6 +1,7 @@
 // The commands of the console program. Each returns the exit status; UsageError and PcError end in status 2.
 #pragma once
 
+#include <initializer_list>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -40,7 +41,9 @@ struct CommandContext {
   // it. Keeps others out until the PC is closed.
   void needAlone() const;
   void needNoArguments(std::string_view command) const;
-  void print(std::string_view text) const;      // to standard output, with a line end
+  void print(std::string_view text) const;  // to standard output, with a line end
+  // The fields of a row for other programs, with tabs between.
+  void printRow(std::initializer_list<std::string_view> fields) const;
   void tell(const std::string& failure) const;  // to standard error, behind the program's name
 };
 
@@ -61,6 +64,7 @@ int runCommand(CommandContext& context, int (*command)(CommandContext& context))
 int rowNumber(std::string_view word);
 
 int washCommand(CommandContext& context);
+int previewCommand(CommandContext& context);
 int startCommand(CommandContext& context);
 int optionsCommand(CommandContext& context);
 int setCommand(CommandContext& context);

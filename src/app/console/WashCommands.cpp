@@ -4,22 +4,12 @@
 #include "app/Program.h"
 #include "app/console/Commands.h"
 #include "app/console/OddFolders.h"
+#include "app/console/Report.h"
 #include "app/console/Store.h"
-#include "base/Text.h"
 #include "platform/folder/PcError.h"
 
 namespace zub {
 namespace {
-
-// The report lies in memory with CR LF behind each line; a terminal wants no blank line at its end.
-void printLines(const CommandContext& context, std::string_view text) {
-  while (text.ends_with(CrLf)) text.remove_suffix(CrLf.size());
-  for (auto end = text.find(CrLf); end != std::string_view::npos; end = text.find(CrLf)) {
-    context.print(text.substr(0, end));
-    text.remove_prefix(end + CrLf.size());
-  }
-  context.print(text);
-}
 
 // What could not be saved. After a wash in the midst of the program it is tried again at the end.
 std::optional<PcError> saved(ConsolePc& pc) {
@@ -30,25 +20,6 @@ std::optional<PcError> saved(ConsolePc& pc) {
   }
   return std::nullopt;
 }
-
-void printReport(const CommandContext& context, Program& program) {
-  if (program.engine.clean.txtResult.empty()) return;
-  printLines(context, program.engine.clean.txtResult);
-  const frmAnimated::State& shown = program.engine.animated.peek().state;
-  context.print("");
-  context.print(shown.lblRemove.Caption);
-  context.print(shown.StatusBar1[1]);
-  context.print(program.options.lblLastRemoval.Caption);
-}
-
-// The loop serves the program for as long as this lives.
-struct Attached {
-  Attached(ConsoleLoop& served, Program& program) : loop(served) { loop.attach(program); }
-  Attached(const Attached&) = delete;
-  Attached& operator=(const Attached&) = delete;
-  ~Attached() { loop.detach(); }
-  ConsoleLoop& loop;
-};
 
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
@@ -72,10 +43,7 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
   printReport(context, program);
   if (unsaved) throw *unsaved;
   needStoreSaved(program.engine.pc, program.options);
-  for (const std::string& folder : program.engine.unread) context.tell("not looked into: " + folder);
-  if (program.engine.leftBehind == 0) return exitStatus::Done;
-  context.tell(std::to_string(program.engine.leftBehind) + " files, folders or keys could not be removed");
-  return exitStatus::LeftBehind;
+  return tellLeftBehind(context, program, "could not be removed");
 }
 
 }  // namespace

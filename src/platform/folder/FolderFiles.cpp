@@ -1,6 +1,7 @@
 #include "platform/folder/FolderFiles.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/RuntimeError.h"
 #include "platform/folder/CodePage1252.h"
@@ -18,6 +19,21 @@ HostError removeForced(HostDir& folder, const std::string& name) {
   if (error != HostError::NoRights || folder.setReadOnly(name, false) != HostError::None) return error;
   return folder.removeFile(name);
 }
+
+// What lies at one path.
+class OneEntry : public FileSearch {
+ public:
+  explicit OneEntry(FoundFile entry) : entry_(std::move(entry)) {}
+  bool next(FoundFile& found) override {
+    if (std::exchange(told_, true)) return false;
+    found = entry_;
+    return true;
+  }
+
+ private:
+  FoundFile entry_;
+  bool told_ = false;
+};
 
 bool isFolder(const HostStat& stat) {
   return stat.kind == HostKind::Folder;
@@ -103,18 +119,30 @@ std::unique_ptr<FileSearch> FolderFiles::find(std::string_view path) {
   seenPath_.clear();
   const auto behindFolder = path.find_last_of("\\/:") + 1;
   const std::string_view folder = path.substr(0, behindFolder);
+  const std::string_view pattern = path.substr(behindFolder);
   try {
+    if (!pattern.empty() && pattern.find_first_of("*?") == std::string_view::npos) return findEntry(path);
     const FolderPath parts = folder.empty() ? facts_.current : parse(folder);
     std::unique_ptr<HostList> listing;
     check(disk_.folder(parts).list(listing));
-    auto search =
-        std::make_unique<FolderSearch>(std::move(listing), path.substr(behindFolder), parts, facts_);
+    auto search = std::make_unique<FolderSearch>(std::move(listing), pattern, parts, facts_);
     if (!search->any()) return nullptr;
     return search;
   } catch (const RuntimeError& failure) {
     if (nothingThere(failure.number())) return nullptr;
     throw;
   }
+}
+
+std::unique_ptr<FileSearch> FolderFiles::findEntry(std::string_view path) {
+  const FolderPath parts = parse(path);
+  const Place place = disk_.place(parts);
+  if (!place.exists || parts.parts.empty()) return nullptr;
+  const FolderPath told = disk_.pathOf(place);
+  FoundFile found{told.parts.back(), attributesOf(place.stat, told, facts_)};
+  found.nFileSizeHigh = static_cast<std::uint32_t>(place.stat.size >> 32);
+  found.nFileSizeLow = static_cast<std::uint32_t>(place.stat.size);
+  return std::make_unique<OneEntry>(std::move(found));
 }
 
 std::uint32_t FolderFiles::attributes(std::string_view path) {
@@ -186,6 +214,16 @@ void FolderFiles::remove(std::string_view path) {
   if (error == HostError::None && facts_.anyAttributes()) facts_.dropAttributes(seenParts_.key());
   if (error == HostError::NotFound) disk_.forget();
   check(error);
+}
+
+std::int64_t FolderFiles::removable(std::string_view path, Removal how) {
+  const Place& place = lookOn(path);
+  checkDrive(seenParts_.drive);
+  if (isFolder(place.stat) != (how == Removal::EmptyFolder)) throw RuntimeError(ErrorNumber::PathFileAccess);
+  if (isLocked(seenParts_)) throw RuntimeError(ErrorNumber::PermissionDenied);
+  if (place.stat.readOnly && how == Removal::File) throw RuntimeError(ErrorNumber::PathFileAccess);
+  check(place.parent->mayRemove(place.name));
+  return static_cast<std::int64_t>(place.stat.size);
 }
 
 bool FolderFiles::fileExists(std::string_view path) {

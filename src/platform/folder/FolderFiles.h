@@ -19,6 +19,7 @@ class FolderFiles : public Files {
   void resetAttributes(std::string_view path) override;
   std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override;
   std::int64_t openedLength(std::string_view path) override;
+  std::int64_t removable(std::string_view path, Removal how) override;
   void remove(std::string_view path) override;
   void replace(std::string_view path, std::string_view bytes) override;
   bool fileExists(std::string_view path) override;
@@ -33,6 +34,8 @@ class FolderFiles : public Files {
  private:
   using Place = FolderDisk::Place;
 
+  // The one entry that a path without a wildcard names.
+  std::unique_ptr<FileSearch> findEntry(std::string_view path);
   FolderPath parse(std::string_view path) const;
   // Where the path leads. It becomes the path as the disk has it, by which the facts know a file.
   Place placeOf(FolderPath& path);

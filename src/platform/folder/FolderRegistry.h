@@ -12,9 +12,6 @@
 namespace zub {
 
 namespace status {
-inline constexpr RegistryStatus InvalidParameter = 87;  // a key that cannot be
-inline constexpr RegistryStatus BadPath = 161;          // an empty part in the path
-inline constexpr RegistryStatus KeyDeleted = 1018;
 inline constexpr RegistryStatus TooManyOpen = 4;
 }  // namespace status
 

@@ -4,11 +4,11 @@
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
-#include "platform/FileReader.h"
+#include "platform/FolderContent.h"
+#include "platform/ProfileText.h"
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/HostFailure.h"
 #include "platform/folder/PcError.h"
-#include "platform/folder/ProfileText.h"
 
 namespace zub {
 namespace {
@@ -56,18 +56,8 @@ void FolderRestart::deleteAtRestart(std::string_view file) {
 
 void FolderRestart::writeProfile(std::string_view section, std::string_view key, std::string_view value,
                                  std::string_view file) {
-  const bool hasFolder = file.find_first_of("\\/:") != std::string_view::npos;
-  const std::string path = hasFolder ? std::string(file) : JoinPath(facts_.windows.text(), file);
-  try {
-    std::string text;
-    if (files_.fileExists(path)) {
-      FileReader reader(files_, path);
-      for (int c = reader.get(); c != -1; c = reader.get()) text += static_cast<char>(c);
-    }
-    const std::string changed = withProfileKey(text, section, key, value);
-    if (changed != text) files_.replace(path, changed);
-  } catch (const RuntimeError&) {
-  }
+  static const CodePage1252 codePage;
+  writeProfileKey(files_, codePage, facts_.windows.text(), file, {section, key, value});
 }
 
 std::uint32_t FolderRestart::platformId(std::uint32_t recordSize) {
@@ -76,39 +66,17 @@ std::uint32_t FolderRestart::platformId(std::uint32_t recordSize) {
   return facts_.family->platformId;
 }
 
-std::int32_t FolderShell::emptyRecycleBin(std::uint32_t) {
-  bool emptied = true;
+std::vector<std::string> FolderShell::recycleBins() {
+  std::vector<std::string> folders;
   for (const std::string& drive : drives_.list()) {
     if (drives_.type(drive) != DriveType::Fixed) continue;
-    for (const std::string_view bin : family_.recycleBins) emptied &= emptyFolder(JoinPath(drive, bin));
+    for (const std::string_view bin : family_.recycleBins) folders.push_back(JoinPath(drive, bin));
   }
-  return emptied ? 0 : Failed;
+  return folders;
 }
 
-bool FolderShell::emptyFolder(const std::string& folder) {
-  bool emptied = true;
-  try {
-    const auto search = files_.find(JoinPath(folder, "*"));
-    FoundFile found;
-    while (search && search->next(found)) emptied &= emptyEntry(JoinPath(folder, found.name), found);
-  } catch (const RuntimeError&) {
-    return false;
-  }
-  return emptied;
-}
-
-bool FolderShell::emptyEntry(const std::string& path, const FoundFile& found) {
-  try {
-    if (isFolder(found.attributes)) {
-      files_.deleteFolder(path);
-    } else {
-      files_.resetAttributes(path);
-      files_.remove(path);
-    }
-  } catch (const RuntimeError&) {
-    return false;
-  }
-  return true;
+std::int32_t FolderShell::emptyRecycleBin(std::uint32_t) {
+  return emptyFolders(files_, recycleBins()) ? 0 : Failed;
 }
 
 void FolderShell::start(std::string_view) {

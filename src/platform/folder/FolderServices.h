@@ -59,15 +59,13 @@ class FolderShell : public Shell {
 
   // Empties the bin folders of the fixed drives and leaves the folders themselves.
   std::int32_t emptyRecycleBin(std::uint32_t flags) override;
+  std::vector<std::string> recycleBins() override;
   void updateRecycleBinIcon() override {}
   void open(std::string_view) override {}
   void start(std::string_view program) override;
   FolderPick browseForFolder(std::string_view) override { return {}; }
 
  private:
-  bool emptyFolder(const std::string& folder);
-  bool emptyEntry(const std::string& path, const FoundFile& found);
-
   Files& files_;
   Drives& drives_;
   const Family& family_;

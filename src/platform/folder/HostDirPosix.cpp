@@ -252,6 +252,19 @@ class PosixDir : public HostDir {
     return errorOf(failure);
   }
 
+  HostError mayRemove(const std::string& name) override {
+    if (!isPart(name)) return HostError::BadName;
+    if (::faccessat(handle_.get(), ".", W_OK | X_OK, AT_EACCESS) < 0) return errorOf(errno);
+    struct stat folder {};
+    struct stat entry {};
+    if (::fstat(handle_.get(), &folder) < 0) return errorOf(errno);
+    if ((folder.st_mode & S_ISVTX) == 0 || ::geteuid() == 0 || ::geteuid() == folder.st_uid)
+      return HostError::None;
+    // In such a folder everybody removes only what is his.
+    if (::fstatat(handle_.get(), name.c_str(), &entry, AT_SYMLINK_NOFOLLOW) < 0) return errorOf(errno);
+    return entry.st_uid == ::geteuid() ? HostError::None : HostError::NoRights;
+  }
+
   HostError removeDir(const std::string& name) override {
     if (!isPart(name)) return HostError::BadName;
     if (::unlinkat(handle_.get(), name.c_str(), AT_REMOVEDIR) == 0) return HostError::None;

@@ -108,6 +108,7 @@ class WatchedDir : public HostDir {
     return error;
   }
   HostError removeFile(const std::string& name) override { return folder_.removeFile(name); }
+  HostError mayRemove(const std::string& name) override { return folder_.mayRemove(name); }
   HostError removeDir(const std::string& name) override { return folder_.removeDir(name); }
   HostError makeDir(const std::string& name) override { return watch_.note(name, folder_.makeDir(name)); }
   HostError setReadOnly(const std::string& name, bool readOnly) override {

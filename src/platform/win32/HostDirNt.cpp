@@ -71,6 +71,7 @@ class HostDirNt : public HostDir {
   HostError stat(const std::string& name, HostStat& result) override;
   HostError openFile(const std::string& name, HostOpen mode, std::unique_ptr<HostFile>& file) override;
   HostError removeFile(const std::string& name) override;
+  HostError mayRemove(const std::string& name) override;
   HostError removeDir(const std::string& name) override;
   HostError makeDir(const std::string& name) override;
   HostError setReadOnly(const std::string& name, bool readOnly) override;
@@ -178,6 +179,12 @@ HostError HostDirNt::removeFile(const std::string& name) {
   if (file.error != HostError::None) return file.error;
   if (file.stat.kind == HostKind::Folder) return HostError::NotAFile;
   return file.handle.get() != nullptr ? removeOpened(file.handle) : HostError::NoRights;
+}
+
+HostError HostDirNt::mayRemove(const std::string& name) {
+  const Opened entry = openKnown(name, RemoveRights, FILE_OPEN, 0);
+  if (entry.error != HostError::None) return entry.error;
+  return entry.handle.get() != nullptr ? HostError::None : HostError::NoRights;
 }
 
 HostError HostDirNt::removeDir(const std::string& name) {

@@ -149,6 +149,24 @@ std::int64_t Win32Files::openedLength(std::string_view path) {
   return Win32FileChannel(openFile(filePath(path), OpenMode::Binary, false)).length();
 }
 
+// The 9x family asks for no right to remove, and opens no folder.
+std::int64_t Win32Files::removable(std::string_view path, Removal how) {
+  const bool asFolder = how == Removal::EmptyFolder;
+  const SystemPath place = asFolder ? SystemPath(path) : filePath(path);
+  const std::uint32_t bits = attributesOf(place);
+  if (bits == attribute::Invalid) throwLastError();
+  const bool readOnly = (bits & attribute::ReadOnly) != 0 && how == Removal::File;
+  if (isFolder(bits) != asFolder || readOnly) throw RuntimeError(ErrorNumber::PathFileAccess);
+  if (asFolder && !isNtFamily()) return 0;
+  constexpr DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const DWORD sharing = how == Removal::File || !isNtFamily() ? 0 : everything;
+  const DWORD rights = isNtFamily() ? DELETE | FILE_READ_ATTRIBUTES : GENERIC_READ;
+  const DWORD flags = isNtFamily() ? FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS : 0;
+  const HANDLE opened = place.open(rights, sharing, OPEN_EXISTING, flags);
+  if (opened == INVALID_HANDLE_VALUE) throwLastError();
+  return asFolder ? (CloseHandle(opened), 0) : Win32FileChannel(opened).length();
+}
+
 void Win32Files::remove(std::string_view path) {
   removeEntry(filePath(path));
 }

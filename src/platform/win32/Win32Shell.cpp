@@ -2,6 +2,7 @@
 
 #include "base/RuntimeError.h"
 #include "platform/win32/LoadedCall.h"
+#include "platform/win32/RecycleBins.h"
 
 namespace zub {
 namespace {
@@ -20,6 +21,10 @@ std::string expanded(const std::string& text) {
 std::int32_t Win32Shell::emptyRecycleBin(std::uint32_t flags) {
   const auto call = loadedCall<HRESULT(WINAPI*)(HWND, LPCSTR, DWORD)>("shell32.dll", "SHEmptyRecycleBinA");
   return call != nullptr ? call(nullptr, "", flags) : E_NOTIMPL;
+}
+
+std::vector<std::string> Win32Shell::recycleBins() {
+  return recycleBinFolders();
 }
 
 void Win32Shell::updateRecycleBinIcon() {

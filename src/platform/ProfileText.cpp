@@ -1,9 +1,10 @@
-#include "platform/folder/ProfileText.h"
+#include "platform/ProfileText.h"
 
 #include <vector>
 
+#include "base/RuntimeError.h"
 #include "base/Text.h"
-#include "platform/folder/CodePage1252.h"
+#include "platform/FileReader.h"
 
 namespace zub {
 namespace {
@@ -16,20 +17,25 @@ bool isSection(std::string_view line) {
   return trim(withoutEnd(line)).starts_with('[');
 }
 
-bool isSectionOf(std::string_view line, std::string_view section) {
+// Empty for a line that begins no section.
+std::string_view sectionOf(std::string_view line) {
   const std::string_view text = trim(withoutEnd(line));
-  return text.starts_with('[') && equalFolded(text.substr(1, text.find(']') - 1), section);
+  return text.starts_with('[') ? text.substr(1, text.find(']') - 1) : std::string_view{};
 }
 
-bool isKey(std::string_view line, std::string_view key) {
+// Empty for a line that sets no key.
+std::string_view keyOf(std::string_view line) {
   const auto equals = line.find('=');
-  return equals != std::string_view::npos && equalFolded(trim(line.substr(0, equals)), key);
+  return equals == std::string_view::npos ? std::string_view{} : trim(line.substr(0, equals));
 }
 
 }  // namespace
 
 std::string withProfileKey(std::string_view text, std::string_view section, std::string_view key,
-                           std::string_view value) {
+                           std::string_view value, const CodePage& codePage) {
+  const auto equal = [&codePage](std::string_view a, std::string_view b) {
+    return codePage.upper(a) == codePage.upper(b);
+  };
   std::vector<std::string> lines;
   while (!text.empty()) {
     const auto end = text.find('\n');
@@ -43,13 +49,13 @@ std::string withProfileKey(std::string_view text, std::string_view section, std:
   const std::string entry = std::string(key) + setting;
 
   std::size_t place = 0;
-  while (place < lines.size() && !isSectionOf(lines[place], section)) ++place;
+  while (place < lines.size() && !equal(sectionOf(lines[place]), section)) ++place;
   if (place == lines.size()) {
     lines.push_back("[" + std::string(section) + "]" + std::string(CrLf));
     lines.push_back(entry);
   } else {
     std::size_t behindLast = ++place;
-    while (place < lines.size() && !isSection(lines[place]) && !isKey(lines[place], key)) {
+    while (place < lines.size() && !isSection(lines[place]) && !equal(keyOf(lines[place]), key)) {
       if (!trim(withoutEnd(lines[place])).empty()) behindLast = place + 1;
       ++place;
     }
@@ -62,6 +68,22 @@ std::string withProfileKey(std::string_view text, std::string_view section, std:
   std::string result;
   for (const std::string& line : lines) result += line;
   return result;
+}
+
+void writeProfileKey(Files& files, const CodePage& codePage, const std::string& windows,
+                     std::string_view file, const ProfileKey& entry) {
+  const bool hasFolder = file.find_first_of("\\/:") != std::string_view::npos;
+  const std::string path = hasFolder ? std::string(file) : JoinPath(windows, file);
+  try {
+    std::string text;
+    if (files.fileExists(path)) {
+      FileReader reader(files, path);
+      for (int c = reader.get(); c != -1; c = reader.get()) text += static_cast<char>(c);
+    }
+    const std::string changed = withProfileKey(text, entry.section, entry.key, entry.value, codePage);
+    if (changed != text) files.replace(path, changed);
+  } catch (const RuntimeError&) {
+  }
 }
 
 }  // namespace zub
