@@ -1,5 +1,7 @@
 #include "plugins/PluginCheck.h"
 
+#include <algorithm>
+
 #include "engine/Engine.h"
 #include "platform/FileReader.h"
 
@@ -39,12 +41,13 @@ std::vector<CheckedLine> PluginCheck::readFile(std::string_view path, PluginFile
   return lines;
 }
 
-std::vector<CheckedLine> PluginCheck::readStream(std::istream& stream, PluginFile which) {
+std::vector<CheckedLine> PluginCheck::readText(std::string_view text, PluginFile which) {
   begin(which);
   std::vector<CheckedLine> lines;
-  std::string line;
-  while (std::getline(stream, line)) {
-    if (line.ends_with('\r')) line.pop_back();
+  while (!text.empty()) {
+    std::string_view line = text.substr(0, text.find('\n'));
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+    if (line.ends_with('\r')) line.remove_suffix(1);
     lines.push_back(next(line));
   }
   return lines;

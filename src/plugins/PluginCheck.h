@@ -1,7 +1,6 @@
 // Says line by line what a custom plugin's files do in a run, and what in them can never work.
 #pragma once
 
-#include <istream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,7 +29,7 @@ class PluginCheck {
   // A whole file of the PC. Fails as Files::open does.
   std::vector<CheckedLine> readFile(std::string_view path, PluginFile which);
   // A file from elsewhere.
-  std::vector<CheckedLine> readStream(std::istream& stream, PluginFile which);
+  std::vector<CheckedLine> readText(std::string_view text, PluginFile which);
 
  private:
   enum class Reading : std::uint8_t { GoesOn, ListEnded, PluginStopped };

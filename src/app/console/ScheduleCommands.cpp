@@ -1,5 +1,5 @@
+#include <algorithm>
 #include <optional>
-#include <sstream>
 
 #include "app/console/Commands.h"
 #include "base/RuntimeError.h"
@@ -11,8 +11,12 @@ namespace {
 std::vector<std::string> wordsOf(const std::vector<std::string>& arguments) {
   std::vector<std::string> words;
   for (const std::string& argument : arguments) {
-    std::istringstream text(argument);
-    for (std::string word; text >> word;) words.push_back(word);
+    constexpr const char* Blanks = " \t\r\n";
+    for (auto begin = argument.find_first_not_of(Blanks); begin != std::string::npos;) {
+      const auto end = std::min(argument.find_first_of(Blanks, begin), argument.size());
+      words.push_back(argument.substr(begin, end - begin));
+      begin = argument.find_first_not_of(Blanks, end);
+    }
   }
   return words;
 }
