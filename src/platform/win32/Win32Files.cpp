@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "platform/win32/FolderLink.h"
 #include "platform/win32/SystemPath.h"
+#include "platform/win32/Text.h"
 #include "platform/win32/Win32Error.h"
 #include "platform/win32/Win32FileChannel.h"
 #include "platform/win32/Win32FileSearch.h"
@@ -157,11 +158,12 @@ std::int64_t Win32Files::removable(std::string_view path, Removal how) {
   if (bits == attribute::Invalid) throwLastError();
   const bool readOnly = (bits & attribute::ReadOnly) != 0 && how == Removal::File;
   if (isFolder(bits) != asFolder || readOnly) throw RuntimeError(ErrorNumber::PathFileAccess);
-  if (asFolder && !isNtFamily()) return 0;
+  const bool nt = isNtFamily();
+  if (asFolder && !nt) return 0;
   constexpr DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const DWORD sharing = how == Removal::File || !isNtFamily() ? 0 : everything;
-  const DWORD rights = isNtFamily() ? DELETE | FILE_READ_ATTRIBUTES : GENERIC_READ;
-  const DWORD flags = isNtFamily() ? FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS : 0;
+  const DWORD sharing = how == Removal::File || !nt ? 0 : everything;
+  const DWORD rights = nt ? DELETE | FILE_READ_ATTRIBUTES : GENERIC_READ;
+  const DWORD flags = nt ? FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS : 0;
   const HANDLE opened = place.open(rights, sharing, OPEN_EXISTING, flags);
   if (opened == INVALID_HANDLE_VALUE) throwLastError();
   return asFolder ? (CloseHandle(opened), 0) : Win32FileChannel(opened).length();
