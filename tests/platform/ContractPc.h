@@ -62,8 +62,7 @@ struct FolderPcNt : FolderContractPc {
 using Pretending9x = Pretending<FolderPc9x>;
 using PretendingNt = Pretending<FolderPcNt>;
 #ifdef _WIN32
-using PretendingWin32 = Pretending<Win32ContractPc>;
-#define CONTRACT_PCS FolderPc9x, FolderPcNt, Win32ContractPc, Pretending9x, PretendingNt, PretendingWin32
+#define CONTRACT_PCS FolderPc9x, FolderPcNt, Win32ContractPc, Pretending9x, PretendingNt
 #else
 #define CONTRACT_PCS FolderPc9x, FolderPcNt, Pretending9x, PretendingNt
 #endif

@@ -121,7 +121,9 @@ std::unique_ptr<FileSearch> FolderFiles::find(std::string_view path) {
   const std::string_view folder = path.substr(0, behindFolder);
   const std::string_view pattern = path.substr(behindFolder);
   try {
-    if (!pattern.empty() && pattern.find_first_of("*?") == std::string_view::npos) return findEntry(path);
+    // What may be an 8.3 name is found as in any path.
+    if (pattern.find('~') != std::string_view::npos && pattern.find_first_of("*?") == std::string_view::npos)
+      return findEntry(path);
     const FolderPath parts = folder.empty() ? facts_.current : parse(folder);
     std::unique_ptr<HostList> listing;
     check(disk_.folder(parts).list(listing));
