@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "platform/win32/FolderLink.h"
 #include "platform/win32/SystemPath.h"
+#include "platform/win32/Text.h"
 #include "platform/win32/Win32Error.h"
 #include "platform/win32/Win32FileChannel.h"
 #include "platform/win32/Win32FileSearch.h"
