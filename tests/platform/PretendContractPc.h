@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/RuntimeError.h"
 #include "platform/folder/CodePage1252.h"
 #include "platform/pretend/PretendPc.h"
 
@@ -13,6 +14,17 @@ namespace zub {
 template <class Base>
 class Pretending : public Base {
  public:
+  Pretending() = default;
+  Pretending(const Pretending&) = delete;
+  Pretending& operator=(const Pretending&) = delete;
+  // What was pretended to go is still there, under names that no clean-up of the host may know.
+  ~Pretending() {
+    try {
+      beneath().files.deleteFolder(Base::folder());
+    } catch (const RuntimeError& error) {
+      MESSAGE("the scratch folder stays: " << error.description());
+    }
+  }
   Platform& platform() { return platform_; }
   Platform& beneath() { return Base::platform(); }
 
