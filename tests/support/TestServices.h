@@ -3,6 +3,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -20,6 +21,7 @@ namespace zub {
 class CallLog {
  public:
   explicit CallLog(const TestPc& pc) : pc_(pc) {}
+  bool isOn() const { return static_cast<bool>(pc_.onCall); }
   void operator()(std::initializer_list<std::string_view> words) const {
     if (!pc_.onCall) return;
     std::string call;
@@ -101,12 +103,18 @@ class TestChannel : public FileChannel {
   std::string path_;
 };
 
+// Where calls are logged the entries come by their names: each host has an order of its own.
 class TestSearch : public FileSearch {
  public:
-  TestSearch(std::unique_ptr<FileSearch> search, const CallLog& log)
-      : search_(std::move(search)), log_(log) {}
+  TestSearch(std::unique_ptr<FileSearch> search, const CallLog& log) : search_(std::move(search)), log_(log) {
+    if (!log_.isOn()) return;
+    FoundFile found;
+    while (search_->next(found)) sorted_.insert_or_assign(found.name, found);
+  }
   bool next(FoundFile& found) override {
-    const bool any = search_->next(found);
+    if (!log_.isOn()) return search_->next(found);
+    const bool any = !sorted_.empty();
+    if (any) found = std::move(sorted_.extract(sorted_.begin()).mapped());
     log_({any ? "  found " : "  no more", any ? found.name : std::string_view()});
     return any;
   }
@@ -114,6 +122,7 @@ class TestSearch : public FileSearch {
  private:
   std::unique_ptr<FileSearch> search_;
   const CallLog& log_;
+  std::map<std::string, FoundFile> sorted_;
 };
 
 class TestFiles : public Files {
