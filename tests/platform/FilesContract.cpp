@@ -377,6 +377,8 @@ TEST_CASE_TEMPLATE("files: a link to a folder is an empty file, never a way in",
 
 TEST_CASE_TEMPLATE("files: each told name leads back to its own entry", Pc, CONTRACT_PCS) {
   Pc pc;
+  // A real Windows of the 9x family has no calls that reach such names.
+  if (pc.followsLinks() && pc.platform().restart.platformId(148) == 1) return;
   Files& files = pc.platform().files;
   const std::u16string decoys[] = {u"a.tmp", u"end", u"keepdir"};
   const struct {
