@@ -378,7 +378,7 @@ TEST_CASE_TEMPLATE("files: a link to a folder is an empty file, never a way in",
 TEST_CASE_TEMPLATE("files: each told name leads back to its own entry", Pc, CONTRACT_PCS) {
   Pc pc;
   // A real Windows of the 9x family has no calls that reach such names.
-  if (pc.followsLinks() && pc.platform().restart.platformId(148) == 1) return;
+  if (pc.followsLinks() && !isNt(pc)) return;
   Files& files = pc.platform().files;
   const std::u16string decoys[] = {u"a.tmp", u"end", u"keepdir"};
   const struct {
@@ -417,6 +417,8 @@ TEST_CASE_TEMPLATE("files: each told name leads back to its own entry", Pc, CONT
 
 TEST_CASE_TEMPLATE("files: no length of a path hides a file", Pc, CONTRACT_PCS) {
   Pc pc;
+  // The calls of the 9x family take 259 characters.
+  if (pc.followsLinks() && !isNt(pc)) return;
   Files& files = pc.platform().files;
   std::string folder = pc.folder();
   for (int level = 0; level < 5; ++level) {

@@ -233,6 +233,8 @@ TEST_CASE_TEMPLATE("registry: the empty path deletes the open key itself", Pc, C
 
 TEST_CASE_TEMPLATE("registry: each told name leads back to its own key", Pc, CONTRACT_PCS) {
   Pc pc;
+  // A real Windows of the 9x family has no calls that reach such names.
+  if (pc.followsLinks() && !isNt(pc)) return;
   Registry& registry = pc.platform().registry;
   for (const char16_t* name : {u"a", u"\u0101", u"\uFF0E\uFF3C", u"<0101>"}) pc.wideKey(name);
   OpenKey key(registry);

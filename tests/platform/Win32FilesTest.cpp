@@ -34,6 +34,8 @@ TEST_CASE("a stand-in is never read as a part of the path itself") {
   pc.file(pc.folder() + "\\kept", "x");
   for (const char* name : {"in<005C>..<005C>kept", "in\\<002E002E>\\kept", "kept<003A>x", "<002A>", "con"}) {
     CAPTURE(std::string(name));
+    if (!isNt(pc) && std::string_view(name) == "con")
+      continue;  // found and not removed, as the device that it is
     CHECK(failure([&] { files.remove(pc.folder() + '\\' + name); }) == 52);
     CHECK_FALSE(files.find(pc.folder() + '\\' + name));
   }

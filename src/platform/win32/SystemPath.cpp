@@ -73,7 +73,9 @@ SystemPath::SystemPath(std::string_view path) {
   if (path.empty() || path.find('\0') != std::string_view::npos) refuse();
   wide_ = wide(path);
   namesFolder_ = wide_.ends_with(L'\\') || wide_.ends_with(L'/');
-  wide_ = isNtFamily() ? wholePath(wide_) : resolved(wide_, checkUnit);
+  // The 9x family has no names with a stand-in.
+  if (!isNtFamily() && wide_.find(L'<') != std::wstring::npos) refuse();
+  if (isNtFamily()) wide_ = wholePath(wide_);
   while (wide_.ends_with(L'\\') && !isRoot()) wide_.pop_back();
   if (!isNtFamily()) ansi_ = narrow(wide_);
 }
