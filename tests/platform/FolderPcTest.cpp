@@ -238,9 +238,9 @@ TEST_CASE("the bins of fixed drives are emptied and stay; those of single users 
                              "C:\\$Recycle.Bin\\S-1-5\\x", "D:\\RECYCLED\\kept", "C:\\kept"})
       pc.file(file);
     pc.readOnly("C:\\Recycled\\INFO2");
-    FolderShell shell(pc.platform().files, pc.platform().drives, *family);
+    FolderShell shell(*pc.platform().files, *pc.platform().drives, *family);
     CHECK(shell.emptyRecycleBin(7) == 0);
-    CHECK_FALSE(pc.platform().files.find("C:\\Recycled\\*"));
+    CHECK_FALSE(pc.platform().files->find("C:\\Recycled\\*"));
     CHECK(pc.hasFolder("C:\\Recycled"));
     for (const char* userBin : {"C:\\Recycler\\S-1-5", "C:\\$Recycle.Bin\\S-1-5"})
       CHECK(pc.hasFolder(userBin) == (family == &family9x));
@@ -252,7 +252,7 @@ TEST_CASE("the bins of fixed drives are emptied and stay; those of single users 
 TEST_CASE("keys without rights") {
   TestPc pc({"family = nt", "no rights = HKEY_LOCAL_MACHINE\\Software\\Closed"});
   pc.value("HKEY_LOCAL_MACHINE\\Software\\Closed\\Below", "v", "x");
-  Registry& registry = pc.platform().registry;
+  Registry& registry = *pc.platform().registry;
   const RegistryKey machine = registry.hive(Hive::LocalMachine);
   RegistryKey key = 0;
   CHECK(registry.open(machine, "software\\closed", access::All, key) == status::AccessDenied);
@@ -271,7 +271,7 @@ TEST_CASE("keys without rights") {
 TEST_CASE("an open key that is deleted answers so, and its handle can be closed") {
   TestPc pc;
   pc.value("HKEY_CURRENT_USER\\A\\B", "v", "x");
-  Registry& registry = pc.platform().registry;
+  Registry& registry = *pc.platform().registry;
   RegistryKey inner = 0;
   REQUIRE(registry.open(registry.hive(Hive::CurrentUser), "A\\B", access::All, inner) == status::Success);
   REQUIRE(registry.deleteKey(registry.hive(Hive::CurrentUser), "A") == status::Success);

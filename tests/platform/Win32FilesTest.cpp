@@ -29,7 +29,7 @@ TEST_CASE("a reparse point is a link where it stands for another name, and where
 
 TEST_CASE("a stand-in is never read as a part of the path itself") {
   Win32ContractPc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   files.createFolder(pc.folder() + "\\in");
   pc.file(pc.folder() + "\\kept", "x");
   for (const char* name : {"in<005C>..<005C>kept", "in\\<002E002E>\\kept", "kept<003A>x", "<002A>", "con"}) {
