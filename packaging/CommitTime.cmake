@@ -1,0 +1,13 @@
+# Read by cpack: the time that all packaged files carry, that of the commit, in the variable that archivers know.
+if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
+  execute_process(
+    COMMAND git log -1 --format=%ct
+    WORKING_DIRECTORY ${CPACK_ZUB_SOURCE_DIR}
+    OUTPUT_VARIABLE time
+    OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
+  if(time)
+    set(ENV{SOURCE_DATE_EPOCH} ${time})
+  endif()
+endif()
+# A ZIP tells times as they are on the clock here.
+set(ENV{TZ} UTC)
