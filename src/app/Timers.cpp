@@ -18,23 +18,25 @@ Timers::Timers(Program& program) {
                [&animated] { animated->CloseWindowTimer_Tick(); }};
 }
 
+// The one that has waited longest: a slow tick does not starve the other timers.
 void Timers::serve(std::uint64_t now) {
+  Slot* next = nullptr;
   for (Slot& slot : slots_) {
     const Timer* timer = slot.timer();
     if (timer == nullptr || !timer->Enabled) {
       slot.running = false;
       continue;
     }
-    const auto interval = static_cast<std::uint64_t>(timer->Interval);
     if (!slot.running) {
       slot.running = true;
-      slot.due = now + interval;
+      slot.due = now + static_cast<std::uint64_t>(timer->Interval);
     }
-    if (now < slot.due) continue;
-    slot.due = now + interval;
-    slot.tick();
-    return;  // a tick may have run a whole wash: the others are served in the next turn, with a fresh time
+    if (now >= slot.due && (next == nullptr || slot.due < next->due)) next = &slot;
   }
+  if (next == nullptr) return;
+  // A tick may run a whole wash: the others are served in the next turn, with a fresh time.
+  next->due = now + static_cast<std::uint64_t>(next->timer()->Interval);
+  next->tick();
 }
 
 }  // namespace zub

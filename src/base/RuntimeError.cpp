@@ -1,5 +1,6 @@
 #include "base/RuntimeError.h"
 
+#include <new>
 #include <utility>
 
 namespace zub {
@@ -42,5 +43,17 @@ RuntimeError::RuntimeError(ErrorNumber number) : number_(number), description_(d
 
 RuntimeError::RuntimeError(ErrorNumber number, std::string description)
     : number_(number), description_(std::move(description)) {}
+
+const char* textOfFailure() {
+  try {
+    throw;
+  } catch (const std::bad_alloc&) {
+    return "Out of memory";
+  } catch (const std::exception& failure) {
+    return failure.what();
+  } catch (...) {
+    return "Internal error";
+  }
+}
 
 }  // namespace zub

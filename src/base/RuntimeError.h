@@ -42,6 +42,9 @@ class RuntimeError : public std::exception {
   std::string description_;
 };
 
+// What the user is told of the exception that is being handled, whatever it is. The text is the exception's own.
+const char* textOfFailure();
+
 // Unwinds the stack when the process ends in the midst of something. No failure: no error path may catch it,
 // only the program's outermost frame (and, on a window system, the frame that hands events to the program).
 struct EndOfProcess {};

@@ -22,6 +22,13 @@ std::string_view StripAtNull(std::string_view text) {
   return text.substr(0, text.find('\0'));
 }
 
+std::string upperAscii(std::string_view text) {
+  std::string upper(text);
+  std::ranges::transform(upper, upper.begin(),
+                         [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+  return upper;
+}
+
 bool contains(std::string_view text, std::string_view part) {
   return text.find(part) != std::string_view::npos;
 }

@@ -1,5 +1,5 @@
-// Text helpers. Text is 8-bit, in the PC's ANSI code page; positions are bytes. Nothing here folds case: that
-// needs the code page (platform/CodePage.h).
+// Text helpers. Text is 8-bit, in the PC's ANSI code page; positions are bytes. To fold case needs the code page
+// (platform/CodePage.h), but for words of plain letters.
 #pragma once
 
 #include <cstdint>
@@ -18,6 +18,9 @@ std::string_view trim(std::string_view text);
 
 // The text left of the first NUL, or all of it.
 std::string_view StripAtNull(std::string_view text);
+
+// A to Z only, for words that hold no other letters.
+std::string upperAscii(std::string_view text);
 
 bool contains(std::string_view text, std::string_view part);
 

@@ -15,10 +15,11 @@ void cleanCookies(Engine& engine, frmIECookieKeep& cookieKeep) {
   engine.clean.form.mousePointer = MousePointer::Default;
   engine.clean.AddItem("\tCleaning Cookies");
   // The shredder gives the window system turns: the rows may be others after each file.
-  for (int row = 0; row < cookieKeep.lstFiles.ListCount(); ++row) {
+  for (int row = 0; cookieKeep.allRead && row < cookieKeep.lstFiles.ListCount(); ++row) {
     if (cookieKeep.lstDelete.Selected(row)) continue;
     engine.deleter->DeleteFile(cookieKeep.g_strPath + cookieKeep.lstFiles.List(row), 0);
   }
+  if (!cookieKeep.allRead) ++engine.leftBehind;
   cookieKeep.LoadCookies();
 }
 

@@ -9,6 +9,8 @@ namespace {
 constexpr std::uint32_t TempRoom = 512;
 // No confirmation, no progress window, no sound.
 constexpr std::uint32_t SilentEmpty = 7;
+// What Windows answers where the bins hold nothing.
+constexpr auto NothingToEmpty = static_cast<std::int32_t>(0x8000FFFF);
 
 bool isFixed(Drives& drives, const std::string& drive) {
   return drives.exists(drive) && drives.type(drive) == DriveType::Fixed;
@@ -45,8 +47,10 @@ void Recycle::CleanBin() {
     engine_.clean.AddItem("\tCleaned Recycle Bin on drive " + engine_.pc.codePage.upper(drive.substr(0, 1)));
     engine_.deleter->DeleteFilesInFolder(bin, "*.*");
   }
+  const std::int32_t failure = engine_.pc.shell.emptyRecycleBin(SilentEmpty);
+  if (failure != 0 && failure != NothingToEmpty) ++engine_.leftBehind;
   // The icon is refreshed after a failure only.
-  if (engine_.pc.shell.emptyRecycleBin(SilentEmpty) != 0) engine_.pc.shell.updateRecycleBinIcon();
+  if (failure != 0) engine_.pc.shell.updateRecycleBinIcon();
 }
 
 void CleanRecycleBin(Engine& engine, Recycle& recycle) {

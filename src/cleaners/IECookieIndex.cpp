@@ -35,7 +35,7 @@ void appendReadable(std::string& text, std::string_view bytes) {
 
 }  // namespace
 
-IECookieIndex::IECookieIndex(Files& files, std::string_view path) : file_(files, path, OpenMode::Binary) {
+IECookieIndex::IECookieIndex(Files& files, std::string_view path) : file_(files, path) {
   file_.seek(FirstRecord);
 }
 

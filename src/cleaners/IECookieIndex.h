@@ -19,7 +19,7 @@ struct IECookie {
 
 class IECookieIndex {
  public:
-  // A missing file comes into being empty. Fails as Files::open does.
+  // Fails as Files::open does. The browser may go on writing it meanwhile.
   IECookieIndex(Files& files, std::string_view path);
 
   // The next chunk that is a record; false at the end. A cut-off last chunk counts as filled up with NULs.

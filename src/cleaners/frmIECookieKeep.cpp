@@ -1,19 +1,14 @@
 #include "cleaners/frmIECookieKeep.h"
 
-#include <unordered_set>
-
 #include "base/RuntimeError.h"
 #include "base/Text.h"
-#include "cleaners/IECookieIndex.h"
+#include "cleaners/IECookies.h"
 #include "cleaners/LfLine.h"
-#include "cleaners/UnclaimedFiles.h"
 #include "engine/Engine.h"
-#include "engine/ShellFolder.h"
 
 namespace zub {
 
-frmIECookieKeep::frmIECookieKeep(Engine& engine)
-    : engine_(engine), flList_(engine.pc, "*.txt", FileLister::Hidden::Skip) {
+frmIECookieKeep::frmIECookieKeep(Engine& engine) : engine_(engine) {
   lstDelete.Click = [this] { lstDelete_Click(); };
   chkSelectAll.Click = [this] { chkSelectAll_Click(); };
 }
@@ -30,57 +25,31 @@ void frmIECookieKeep::LoadValues() {
 }
 
 void frmIECookieKeep::LoadCookies() {
+  g_strPath = cookiesFolder(engine_);
+  makeIndex();
+  CookieRows rows;
+  allRead = true;
   try {
-    listCookies();
-    tickKept();
+    readIECookies(engine_.pc, g_strPath, rows);
+  } catch (const RuntimeError& failure) {
+    allRead = isMissing(failure);  // a folder that is not there holds nothing
+  }
+  showRows(rows, lstDelete, lstFiles);
+}
+
+// A missing index comes into being empty. Where it cannot be made, the cookies are shown without it.
+void frmIECookieKeep::makeIndex() {
+  const std::string index = cookieIndexFile(g_strPath);
+  try {
+    if (!engine_.pc.files.fileExists(index)) engine_.pc.files.open(index, OpenMode::Binary);
   } catch (const RuntimeError&) {
   }
 }
 
-void frmIECookieKeep::listCookies() {
-  g_strPath = shellFolder(engine_, "Cookies") + "\\";
-  lstDelete.Clear();
-  lstFiles.Clear();
-  flList_.path(g_strPath);
-  IECookieIndex index(engine_.pc.files, g_strPath + "index.dat");
-  UnclaimedFiles lstTemp(engine_.pc.codePage, flList_.names());
-  IECookie cookie;
-  while (index.next(cookie)) {
-    if (lstTemp.claim(trim(cookie.file))) addRow(cookie.site, cookie.file);
-  }
-  lstTemp.forEach([this](const std::string& name) { addRow(name, name); });
-}
-
-void frmIECookieKeep::tickKept() {
-  const auto comparable = [this](std::string_view text) { return engine_.pc.codePage.upper(trim(text)); };
-  std::unordered_set<std::string> lstChecked;
-  FileReader file(engine_.pc.files, keepFile());
-  std::string line;
-  while (file.line(line)) lstChecked.insert(comparable(line));
-  if (lstChecked.empty()) return;
-  for (int row = 0; row < lstDelete.ListCount(); ++row) {
-    if (lstChecked.contains(comparable(lstDelete.List(row)))) lstDelete.Selected(row, true);
-  }
-}
-
-void frmIECookieKeep::addRow(std::string_view shown, std::string_view file) {
-  lstDelete.AddItem(shown);
-  lstFiles.AddItem(file);
-}
-
-std::string frmIECookieKeep::keepFile() const {
-  return g_strPath + "ZUBKeep.inf";
-}
-
 void frmIECookieKeep::cmdOK_Click() {
+  if (!allRead) return;
   try {
-    const auto file = engine_.pc.files.open(keepFile(), OpenMode::Output);
-    for (int row = 0; row < lstDelete.ListCount(); ++row) {
-      if (!lstDelete.Selected(row)) continue;
-      file->write(lstDelete.List(row));
-      file->write(CrLf);
-    }
-    file->close();
+    saveIEKeepList(engine_.pc, g_strPath, rowsOnShow(lstDelete, lstFiles));
     Unload();
   } catch (const RuntimeError&) {
   }

@@ -1,20 +1,24 @@
 #include "cleaners/frmNSCookieKeep.h"
 
-#include <unordered_set>
-
 #include "base/RuntimeError.h"
 #include "base/Text.h"
-#include "cleaners/LfLine.h"
 #include "cleaners/NetscapeCookies.h"
 #include "engine/Engine.h"
-#include "engine/ShellFolder.h"
 
 namespace zub {
+
 namespace {
 
-constexpr std::string_view KeepFile = "ZUBKeepNS6.inf";
-constexpr const char* CookieFile = "\\Cookies.txt";
-constexpr std::string_view ProfileMark = ".slt";
+// False where a file fails; one that is missing fails nothing.
+template <class Work>
+bool succeeds(Work work) {
+  try {
+    work();
+    return true;
+  } catch (const RuntimeError& failure) {
+    return isMissing(failure);
+  }
+}
 
 }  // namespace
 
@@ -50,87 +54,43 @@ void frmNSCookieKeep::LoadProfiles() {
   }
 }
 
-// The browser's registry file is taken as texts that end in NULs; those with the mark are profile folders. A
-// missing file comes into being empty.
+// A missing registry file comes into being empty.
 void frmNSCookieKeep::findProfiles() {
-  FileReader registry(engine_.pc.files, shellFolder(engine_, "AppData") + "\\Mozilla\\Registry.dat",
-                      OpenMode::Binary);
-  std::string text;
-  for (int c = registry.get(); c != -1; c = registry.get()) {
-    if (c != 0) {
-      text += static_cast<char>(c);
-      continue;
-    }
-    if (contains(text, ProfileMark) && HasCookieFile(text)) {
-      cmbSelect.AddItem(text);
-      cmbProfile.AddItem(lastPathPart(withoutLastPathPart(text)));
-    }
-    text.clear();
-  }
-}
-
-bool frmNSCookieKeep::HasCookieFile(const std::string& Folder) {
-  try {
-    engine_.pc.files.open(Folder + CookieFile, OpenMode::Input);
-    return true;
-  } catch (const RuntimeError&) {
-    return false;
-  }
-}
-
-void frmNSCookieKeep::LoadCookieLines(const std::string& Folder) {
-  lstDelete.Clear();
-  lstCookies.Clear();
-  try {
-    FileReader file(engine_.pc.files, Folder + CookieFile);
-    std::string line;
-    while (readLfLine(file, line)) {
-      if (!isNetscapeCookie(line)) continue;
-      lstDelete.AddItem(netscapeDomain(line));
-      lstCookies.AddItem(line);
-    }
-  } catch (const RuntimeError&) {
-  }
-}
-
-void frmNSCookieKeep::SelectNS6(std::string_view Folder) {
-  std::unordered_set<std::string> kept;
-  try {
-    FileReader file(engine_.pc.files, withBackslash(Folder).append(KeepFile));
-    std::string field;
-    while (readKeepField(file, field)) kept.insert(field);
-  } catch (const RuntimeError&) {
-  }
-  // A row's text ends in its only tab, so domain and name both agree where the joined texts do.
-  std::string cookie;
-  for (int row = 0; row < lstDelete.ListCount(); ++row) {
-    cookie.assign(lstDelete.List(row)).append(nameAndValue(lstCookies.List(row)).name);
-    if (kept.contains(cookie)) lstDelete.Selected(row, true);
-  }
-}
-
-void frmNSCookieKeep::SaveNS6(std::string_view Folder) {
-  writeTicked(withBackslash(Folder).append(KeepFile), [this](int row) {
-    return std::string(lstDelete.List(row))
-        .append(trim(nameAndValue(lstCookies.List(row)).name))
-        .append(CrLf);
+  const std::string registry = netscapeRegistryFile(engine_);
+  if (!files().fileExists(registry)) files().open(registry, OpenMode::Binary);
+  findNetscapeProfiles(files(), registry, [this](const NetscapeProfile& profile) {
+    if (!profile.readable) return;
+    cmbSelect.AddItem(profile.folder);
+    cmbProfile.AddItem(profile.name);
   });
 }
 
-void frmNSCookieKeep::CleanCookieNS6(std::string_view Folder) {
-  writeTicked(withBackslash(Folder).append(CookieFile),
-              [this](int row) { return lstCookies.List(row) + "\n"; });
+Files& frmNSCookieKeep::files() const {
+  return engine_.pc.files;
 }
 
-void frmNSCookieKeep::writeTicked(const std::string& path, const std::function<std::string(int)>& lineOf) {
-  try {
-    const auto file = engine_.pc.files.open(path, OpenMode::Output);
-    for (int row = 0; row < lstDelete.ListCount(); ++row) {
-      if (lstDelete.Selected(row)) file->write(lineOf(row));
-    }
-    file->close();
-  } catch (const RuntimeError&) {
-  }
+void frmNSCookieKeep::LoadCookieLines(std::string_view Folder) {
+  CookieRows rows;
+  allRead_ = succeeds([&] { readNetscapeCookies(files(), Folder, rows); });
+  showRows(rows, lstDelete, lstCookies);
+}
+
+void frmNSCookieKeep::SelectNS6(std::string_view Folder) {
+  CookieRows rows = rowsOnShow(lstDelete, lstCookies);
+  if (!succeeds([&] { tickNetscapeKept(files(), Folder, rows); })) allRead_ = false;
+  for (std::size_t row = 0; row < rows.size(); ++row)
+    lstDelete.Selected(static_cast<int>(row), rows[row].kept);
+}
+
+void frmNSCookieKeep::SaveNS6(std::string_view Folder) {
+  if (!allRead_) return;
+  succeeds([&] { saveNetscapeKeepList(files(), Folder, rowsOnShow(lstDelete, lstCookies)); });
+}
+
+void frmNSCookieKeep::CleanCookieNS6(std::string_view Folder) {
+  const bool written =
+      allRead_ && succeeds([&] { saveNetscapeCookies(files(), Folder, rowsOnShow(lstDelete, lstCookies)); });
+  if (!written) ++engine_.leftBehind;
 }
 
 void frmNSCookieKeep::CleanNS6() {

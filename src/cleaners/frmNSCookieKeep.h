@@ -2,13 +2,12 @@
 // ones in the profile's keep file; a wash rewrites the cookie files by it. The window stays loaded from its
 // first use on.
 //
-// What is kept stands in ZUBKeepNS6.inf in the profile's folder: domain, tab, name, tab, CR LF. A failure of
-// a file ends a routine silently, with what it did so far. The empty text as a folder is the root of the
-// current drive, and routines that run while no profile is chosen write their keep file there.
+// A failure of a file ends a routine silently, with what it did so far. Lists that did not come whole are never
+// saved over a keep file or a cookie file. Routines that run while no profile is chosen write their keep file
+// to the root of the current drive.
 #pragma once
 
 #include <array>
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -18,6 +17,7 @@
 namespace zub {
 
 class Engine;
+class Files;
 
 class frmNSCookieKeep {
  public:
@@ -60,15 +60,14 @@ class frmNSCookieKeep {
  private:
   void LoadProfiles();
   void findProfiles();
-  bool HasCookieFile(const std::string& Folder);
-  void LoadCookieLines(const std::string& Folder);
-  // The lines, with their ends, of the ticked rows; the file is emptied first.
-  void writeTicked(const std::string& path, const std::function<std::string(int row)>& lineOf);
+  Files& files() const;
+  void LoadCookieLines(std::string_view Folder);
   void chooseFolderOfProfile();
   void cleanProfile(const std::string& Folder);
 
   Engine& engine_;
   bool loaded_ = false;
+  bool allRead_ = true;  // the rows on show and their ticks are all that there is
 };
 
 }  // namespace zub

@@ -10,12 +10,7 @@
 namespace zub {
 namespace {
 
-constexpr std::string_view AllFiles = "*.*";
 constexpr std::size_t BlockSize = 1024;
-
-bool isDots(std::string_view name) {
-  return name == "." || name == "..";
-}
 
 }  // namespace
 
@@ -44,9 +39,13 @@ bool Delete::DeleteFolder(std::string_view strPath, std::string_view strPattern)
 }
 
 void Delete::DeleteSubDir(std::string_view strPath, std::string_view strPattern) {
-  mousePointer = MousePointer::Hourglass;
+  const auto point = [this](MousePointer pointer) {
+    mousePointer = pointer;
+    engine_.animated->state.form.mousePointer = pointer;  // the window that is seen meanwhile
+  };
+  point(MousePointer::Hourglass);
   ListFilesFolder(strPath, strPattern);
-  mousePointer = MousePointer::Default;
+  point(MousePointer::Default);
 }
 
 void Delete::ListFilesFolder(std::string_view Path, std::string_view SearchStr) {
@@ -55,16 +54,31 @@ void Delete::ListFilesFolder(std::string_view Path, std::string_view SearchStr) 
   WalkFolder(withBackslash(Path), SearchStr);
 }
 
-// Depth first, the folders of a level before its files. Folders are found whatever the pattern is.
-void Delete::WalkFolder(const std::string& folder, std::string_view strPattern) {
-  const auto isDirectory = [](const FoundFile& found) {
-    return (found.attributes & attribute::Directory) != 0;
-  };
+// Depth first, the folders of a level before its files, by a list of folders to come: no tree is too deep.
+void Delete::WalkFolder(const std::string& start, std::string_view strPattern) {
+  std::vector<std::string> toCome{start};
   std::vector<std::string> children;
+  while (!toCome.empty()) {
+    const std::string folder = std::move(toCome.back());
+    toCome.pop_back();
+    children.clear();
+    try {
+      listFolder(folder, strPattern, children);
+    } catch (const RuntimeError& failure) {
+      countUnread(folder, failure);
+    }
+    for (std::size_t left = children.size(); left > 0; --left)
+      toCome.push_back(folder + children[left - 1] + "\\");
+  }
+}
+
+// Folders are found whatever the pattern is. A link to a folder goes where folders go: with all files only.
+void Delete::listFolder(const std::string& folder, std::string_view strPattern,
+                        std::vector<std::string>& children) {
   FoundFile found;
   if (const auto search = engine_.pc.files.find(folder + "*")) {
     while (search->next(found)) {
-      if (isDots(found.name) || !isDirectory(found)) continue;
+      if (!isFolder(found.attributes)) continue;
       children.push_back(found.name);
       DelDirList.push_back(folder + found.name);
     }
@@ -72,10 +86,18 @@ void Delete::WalkFolder(const std::string& folder, std::string_view strPattern) 
   if (const auto search = engine_.pc.files.find(joined({folder, strPattern}))) {
     while (search->next(found)) {
       engine_.pc.events.DoEvents();
-      if (!isDots(found.name) && !isDirectory(found)) DelFileList.push_back(folder + found.name);
+      if (isFolder(found.attributes) || (isFolderLink(found.attributes) && strPattern != AllFiles)) continue;
+      DelFileList.push_back(folder + found.name);
     }
   }
-  for (const std::string& child : children) WalkFolder(folder + child + "\\", strPattern);
+}
+
+// What is in a folder that cannot be listed stays.
+void Delete::countUnread(std::string_view folder, const RuntimeError& failure) {
+  ++engine_.leftBehind;
+  const bool link = isFolderLink(engine_.pc.files.attributes(folder));
+  engine_.unread.push_back(
+      joined({folder, ": ", link ? "a link, which is not entered" : failure.description()}));
 }
 
 void Delete::DeleteFilesInFolder(std::string_view strPath, std::string_view strPattern) {
@@ -90,6 +112,7 @@ void Delete::DeleteFilesInFolder(std::string_view strPath, std::string_view strP
     }
   } catch (const RuntimeError& failure) {
     engine_.clean.AddItem(failure.description());
+    if (!nothingThere(failure.number())) countUnread(strPath, failure);
   }
 }
 
@@ -162,7 +185,8 @@ void Delete::removeAtRestart(std::string_view strFileName) {
     restart.deleteAtRestart(strFileName);
   } else {
     // One key for every file: only the file scheduled last stands in the profile.
-    restart.writeProfile("rename", "nul", engine_.pc.files.shortPath(strFileName), "wininit.ini");
+    const std::string path = engine_.pc.files.shortPath(strFileName);
+    if (!path.empty()) restart.writeProfile("rename", "nul", path, "wininit.ini");
   }
 }
 
@@ -178,8 +202,9 @@ void Delete::ZUBShredder(std::string_view szname, int nTimes) {
         file->write({zeros.data(), zeros.size()});
         engine_.pc.events.DoEvents();
       }
+      if (blocks > 1) file->sync();
     }
-    file->closeOnDisk();
+    file->close();
   } catch (const RuntimeError&) {
     // The removal that follows decides what is told.
   }

@@ -1,7 +1,7 @@
 // The one object through which every file and folder of a wash leaves the disk. It decides the shredding,
 // handles files that cannot be removed now, and tells the report and the progress window what it does.
 //
-// Paths are ANSI text. Failures stay inside and become report lines and messages. One call at a time: a
+// Paths are told text (platform/ToldName.h). Failures stay inside and become report lines and messages. One call at a time: a
 // second DeleteFolder inside a first one's turn of the event loop would clear the lists under it.
 #pragma once
 
@@ -16,6 +16,9 @@
 namespace zub {
 
 class Engine;
+
+// The pattern that takes the folders along, too.
+inline constexpr std::string_view AllFiles = "*.*";
 
 class Delete {
  public:
@@ -33,8 +36,8 @@ class Delete {
   // Fills the two lists below.
   void DeleteSubDir(std::string_view strPath, std::string_view strPattern);
   void ListFilesFolder(std::string_view Path, std::string_view SearchStr);
-  // Overwrites whole blocks of 1024 bytes with zeros, nTimes over, all but the last block; what it wrote has
-  // reached the disk when it returns. Name, length and tail of the file stay.
+  // Overwrites whole blocks of 1024 bytes with zeros, nTimes over, all but the last block; what a pass wrote has
+  // reached the disk before the next pass begins. Name, length and tail of the file stay.
   void ZUBShredder(std::string_view szname, int nTimes);
 
   std::vector<std::string> DelDirList;   // folders, parents before their children
@@ -44,6 +47,8 @@ class Delete {
 
  private:
   void WalkFolder(const std::string& folder, std::string_view strPattern);
+  void listFolder(const std::string& folder, std::string_view strPattern, std::vector<std::string>& children);
+  void countUnread(std::string_view folder, const RuntimeError& failure);
   bool FolderPresent(std::string_view strPath);
   void RemoveFolderTree(std::string_view strPath);
   void reportFailure(std::string_view strFileName, int nSpecial, const RuntimeError& failure);

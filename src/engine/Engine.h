@@ -1,6 +1,9 @@
 // What the objects of a wash share: the PC, the options, and the workers that live until the process ends.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "base/Holders.h"
 #include "engine/Delete.h"
 #include "engine/RegistryHelper.h"
@@ -42,8 +45,9 @@ class Engine {
   frmClean clean;
   AutoLoad<frmAnimated> animated;
   FirstUse<Delete> deleter;
-  std::int32_t TotalBytes = 0;  // deleted in this wash
-  int leftBehind = 0;           // files, folders and keys that a wash tried and could not remove
+  std::int32_t TotalBytes = 0;      // deleted in this wash
+  int leftBehind = 0;               // files, folders and keys that a wash tried and could not remove
+  std::vector<std::string> unread;  // the folders among them that could not be listed, each with the reason
 };
 
 }  // namespace zub

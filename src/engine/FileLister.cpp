@@ -8,6 +8,7 @@
 namespace zub {
 
 void FileLister::path(std::string_view folder) {
+  names_.clear();
   if (!pc_.files.folderExists(folder)) throw RuntimeError(ErrorNumber::PathNotFound);
   path_ = folder;
   refresh();
@@ -18,6 +19,7 @@ void FileLister::refresh() {
     std::string upper;
     std::string name;
   };
+  names_.clear();
   std::vector<Name> found;
   const std::uint32_t unwanted =
       attribute::Directory | (hidden_ == Hidden::Skip ? attribute::Hidden | attribute::System : 0);
@@ -29,7 +31,6 @@ void FileLister::refresh() {
     }
   }
   std::ranges::sort(found, {}, &Name::upper);
-  names_.clear();
   names_.reserve(found.size());
   for (Name& name : found) names_.push_back(std::move(name.name));
 }

@@ -18,7 +18,8 @@ class FileLister {
       : pc_(pc), pattern_(pattern), hidden_(hidden) {}
 
   const std::string& path() const { return path_; }
-  // RuntimeError 76 where there is no such folder; reads the folder.
+  // Reads the folder. RuntimeError 76 where there is no such folder, as Files::find where it cannot be read;
+  // then there are no names.
   void path(std::string_view folder);
   void pattern(std::string_view pattern) { pattern_ = pattern; }  // in force from the next refresh
   void refresh();

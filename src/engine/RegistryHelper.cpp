@@ -1,34 +1,14 @@
 #include "engine/RegistryHelper.h"
 
-#include "base/RuntimeError.h"
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
 #include "base/Text.h"
 #include "engine/Engine.h"
 
 namespace zub {
 namespace {
-
-struct HiveName {
-  std::string_view text;
-  Hive hive;
-};
-// The first text is misspelt, and so the correct spelling matches nothing; recipes rely on it.
-constexpr HiveName hiveNames[] = {
-    {"HKEY_CLASSSES_ROOT", Hive::ClassesRoot},
-    {"HKEY_CURRENT_USER", Hive::CurrentUser},
-    {"HKEY_LOCAL_MACHINE", Hive::LocalMachine},
-    {"HKEY_USERS", Hive::Users},
-    {"HKEY_PERFORMANCE_DATA", Hive::PerformanceData},
-    {"HKEY_CURRENT_CONFIG", Hive::CurrentConfig},
-    {"HKEY_DYN_DATA", Hive::DynData},
-};
-
-constexpr std::string_view ValueMarker = "Value`";
-
-std::string_view before(std::string_view text, char sign) {
-  const auto place = text.find(sign);
-  if (place == std::string_view::npos) throw RuntimeError(ErrorNumber::InvalidCall);
-  return text.substr(0, place);
-}
 
 // The view into a name buffer, up to its NUL.
 template <std::size_t Size>
@@ -44,80 +24,91 @@ RegistryStatus RegistryHelper::counted(RegistryStatus result) {
   return result;
 }
 
-RegistryHelper::Target RegistryHelper::parse(const std::string& Spec, bool forRemoval) {
-  const std::string hiveText = engine_.pc.codePage.upper(trim(before(Spec, '\\')));
-  const std::string_view rest = std::string_view(Spec).substr(Spec.find('\\') + 1);
-  Target target;
-  if (forRemoval && trim(rest).ends_with("Key*")) {
-    KeyMode = true;
-    target.path = trim(before(rest, '-'));
-  }
-  target.namesValue = contains(rest, ValueMarker);
-  if (target.namesValue) {
-    ValueMode = true;
-    target.valueName = trim(rest.substr(rest.rfind('=') + 1));
-    target.path = before(rest, '+');
-  }
-  for (const HiveName& name : hiveNames) {
-    if (name.text == hiveText) hive_ = name.hive;
-  }
-  return target;
-}
-
-int RegistryHelper::DeleteTrace(const std::string& Spec) {
+int RegistryHelper::DeleteTrace(const Trace& trace) {
   engine_.animated->RemoveEntries(removing::Registry);
-  const Target target = parse(Spec, true);
+  takeToRemove(trace);
   Registry& registry = engine_.pc.registry;
   OpenKey key(registry);
-  if (counted(key.open(hive_, target.path, access::All)) != status::Success) return -1;
+  if (counted(key.open(hive, trace.path, access::All)) != status::Success) return -1;
 
   int result = 0;
-  if (ValueMode && counted(registry.deleteValue(key.get(), target.valueName)) != status::Success) result = -1;
-  collectNames(key.get());
-  if (KeyMode && wipe(key.get()) != status::Success) result = -1;
+  std::uint32_t deleted = 0;
+  if (ValueMode) {
+    if (counted(registry.deleteValue(key.get(), trace.valueName)) == status::Success) {
+      deleted = 1;
+    } else {
+      result = -1;
+    }
+  }
+  // Of a key that was just looked through and not wiped all names are known, but for what came behind them.
+  if (KeyMode || last_.hive != hive || last_.path != trace.path) last_ = {hive, trace.path, 0, 0};
+  Walk keys = walk(key.get(), &RegistryHelper::enumKey, last_.keys);
+  Walk values = walk(key.get(), &RegistryHelper::enumValue, last_.values - std::min(last_.values, deleted));
+  last_.keys = keys.again();
+  last_.values = values.again();
+  if (KeyMode && wipe(key.get(), std::move(keys), std::move(values)) != status::Success) result = -1;
   return result;
 }
 
-// A plain walk by index, with no deletion during it. A status other than the end still adds what the buffer
-// holds.
-void RegistryHelper::collectNames(RegistryKey key) {
-  Registry& registry = engine_.pc.registry;
-  for (std::uint32_t index = 0; index <= MaxIndex; ++index) {
-    auto length = static_cast<std::uint32_t>(keyName_.size());
-    if (registry.enumKey(key, index, keyName_.data(), length) == status::NoMoreItems) break;
-    lstKey.emplace_back(textIn(keyName_));
-  }
-  for (std::uint32_t index = 0; index <= MaxIndex; ++index) {
-    auto length = static_cast<std::uint32_t>(valueName_.size());
-    std::uint32_t type = 0;
-    auto dataLength = static_cast<std::uint32_t>(data_.size());
-    if (registry.enumValue(key, index, valueName_.data(), length, type, data_.data(), dataLength) ==
-        status::NoMoreItems) {
-      break;
-    }
-    const std::string_view name = trimLeft(textIn(valueName_));
-    lstValue.emplace_back(name.empty() ? "[Default]" : name);
-  }
+RegistryStatus RegistryHelper::enumKey(RegistryKey key, std::uint32_t index, std::size_t& place) {
+  auto length = static_cast<std::uint32_t>(keyName_.size());
+  const RegistryStatus result = engine_.pc.registry.enumKey(key, index, keyName_.data(), length);
+  if (result != status::NoMoreItems) place = lstKey.add(textIn(keyName_));
+  return result;
 }
 
-// One level deep: a subkey is tried once, and whether it may have subkeys of its own the PC decides.
-int RegistryHelper::wipe(RegistryKey key) {
+RegistryStatus RegistryHelper::enumValue(RegistryKey key, std::uint32_t index, std::size_t& place) {
+  auto length = static_cast<std::uint32_t>(valueName_.size());
+  std::uint32_t type = 0;
+  auto dataLength = static_cast<std::uint32_t>(data_.size());
+  const RegistryStatus result =
+      engine_.pc.registry.enumValue(key, index, valueName_.data(), length, type, data_.data(), dataLength);
+  const std::string_view name = trimLeft(textIn(valueName_));
+  if (result != status::NoMoreItems) place = lstValue.add(name.empty() ? "[Default]" : name);
+  return result;
+}
+
+// No deletion during it. A status other than the end still adds what the buffer holds.
+RegistryHelper::Walk RegistryHelper::walk(RegistryKey key, Enumerate next, std::uint32_t from) {
+  Walk walk;
+  for (walk.end = from; walk.end <= MaxIndex; ++walk.end) {
+    std::size_t place = 0;
+    const RegistryStatus result = (this->*next)(key, walk.end, place);
+    if (result == status::NoMoreItems) break;
+    walk.refused |= result != status::Success;
+    walk.places.push_back(place);
+  }
+  return walk;
+}
+
+// One level deep: a subkey is tried once, and whether it may have subkeys of its own the PC decides. All names
+// met so far are tried, in their order; where the walk saw all that is there, the others can only fail, and are
+// left out.
+int RegistryHelper::wipe(RegistryKey key, Walk keys, Walk values) {
+  const auto forEach = [](Walk& walk, const NameList& names, const auto& remove) {
+    if (!walk.complete()) {
+      walk.places.resize(names.size());
+      std::iota(walk.places.begin(), walk.places.end(), std::size_t{0});
+    }
+    std::ranges::sort(walk.places);
+    for (const std::size_t place : walk.places) remove(names[place]);
+  };
   Registry& registry = engine_.pc.registry;
-  for (const std::string& name : lstValue) registry.deleteValue(key, name);
-  for (const std::string& name : lstKey) registry.deleteKey(key, name);
+  forEach(values, lstValue, [&](const std::string& name) { registry.deleteValue(key, name); });
+  forEach(keys, lstKey, [&](const std::string& name) { registry.deleteKey(key, name); });
   return counted(registry.deleteKey(key, ""));
 }
 
-std::string RegistryHelper::TraceValue(const std::string& Spec) {
-  const Target target = parse(Spec, false);
-  if (!target.namesValue) return {};
+std::string RegistryHelper::TraceValue(const Trace& trace) {
+  takeToRead(trace);
+  if (!trace.valueForm) return {};
   Registry& registry = engine_.pc.registry;
   OpenKey key(registry);
-  if (key.open(hive_, target.path, access::All) != status::Success) return {};
+  if (key.open(hive, trace.path, access::All) != status::Success) return {};
 
   std::uint32_t type = 0;
   auto length = static_cast<std::uint32_t>(data_.size());
-  if (registry.query(key.get(), target.valueName, type, data_.data(), length) != status::Success) return {};
+  if (registry.query(key.get(), trace.valueName, type, data_.data(), length) != status::Success) return {};
   // The buffer is trimmed before it is cut, so that what stands behind a text with leading blanks moves up.
   const std::string_view buffer(reinterpret_cast<const char*>(data_.data()), data_.size());
   return std::string(trim(buffer).substr(0, length > 0 ? length - 1 : 0));

@@ -1,14 +1,17 @@
 #include "engine/ShellFolder.h"
 
+#include "base/Text.h"
 #include "engine/Engine.h"
 
 namespace zub {
 
+std::string shellFolderTrace(std::string_view name) {
+  return joined({"HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders",
+                 ValueMarker, name});
+}
+
 std::string shellFolder(Engine& engine, std::string_view name) {
-  std::string trace =
-      "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders+ Value`= ";
-  trace += name;
-  return engine.registryHelper.TraceValue(trace);
+  return engine.pc.codePage.toldPath(engine.registryHelper.TraceValue(shellFolderTrace(name)));
 }
 
 }  // namespace zub

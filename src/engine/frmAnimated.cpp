@@ -7,22 +7,25 @@ namespace zub {
 namespace {
 
 // The running cycle; the picture at index 0 rests and the one at 5 is never shown.
-constexpr std::array frames{Picture::Frame0, Picture::Frame1, Picture::Frame2,
-                            Picture::Frame3, Picture::Frame4, Picture::Frame5};
+constexpr std::array Imgframes{Picture::Frame0, Picture::Frame1, Picture::Frame2,
+                               Picture::Frame3, Picture::Frame4, Picture::Frame5};
+constexpr std::array ImgIcons{Picture::KindRegistry, Picture::KindFolder, Picture::KindFiles};
 
 struct Kind {
   std::string_view text;
   Picture mark;
 };
-constexpr std::array kinds{Kind{"", Picture::None}, Kind{"Removing registry entries.", Picture::KindRegistry},
-                           Kind{"Removing files", Picture::KindFiles},
-                           Kind{"Removing folder", Picture::KindFolder}};
+constexpr std::array kinds{Kind{"", Picture::None}, Kind{"Removing registry entries.", ImgIcons[0]},
+                           Kind{"Removing files", ImgIcons[2]}, Kind{"Removing folder", ImgIcons[1]}};
 
 }  // namespace
 
+// The window may still be there: a wait for the user behind the last wash, or the unseen rest of one whose display
+// was closed. Only the window stays; the board begins anew.
 void frmAnimated::StartClean() {
-  state.lblRemove.Caption.clear();
-  state.lblCurrent.Caption.clear();
+  const Form window = state.form;
+  state = State{};
+  state.form = window;
   state.form.Show();
   engine_.clean.CleanAll();
 }
@@ -35,7 +38,7 @@ void frmAnimated::StartAnimation() {
 
 void frmAnimated::StopAnimation() {
   state.Timer.Enabled = false;
-  state.ImgAnimate.picture = frames[0];
+  state.ImgAnimate.picture = Imgframes[0];
   state.ImgEntries.picture = Picture::None;
   state.cmdLog.Visible = true;
   state.cmdFinish.Caption = "&Finish";
@@ -66,7 +69,7 @@ void frmAnimated::RemoveEntries(int kind) {
 
 void frmAnimated::Timer_Tick() {
   if (++state.AnimationFrame == 5) state.AnimationFrame = 1;
-  state.ImgAnimate.picture = frames[static_cast<std::size_t>(state.AnimationFrame)];
+  state.ImgAnimate.picture = Imgframes[static_cast<std::size_t>(state.AnimationFrame)];
 }
 
 void frmAnimated::CloseWindowTimer_Tick() {

@@ -4,8 +4,7 @@
 
 namespace zub {
 
-FileReader::FileReader(Files& files, std::string_view path, OpenMode mode)
-    : channel_(files.open(path, mode)) {}
+FileReader::FileReader(Files& files, std::string_view path) : channel_(files.open(path, OpenMode::Input)) {}
 
 bool FileReader::fill() {
   place_ = 0;

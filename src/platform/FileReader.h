@@ -11,8 +11,8 @@ namespace zub {
 
 class FileReader {
  public:
-  // Fails as Files::open does; Input mode unless told.
-  FileReader(Files& files, std::string_view path, OpenMode mode = OpenMode::Input);
+  // Opens for Input, and fails as Files::open does.
+  FileReader(Files& files, std::string_view path);
 
   // The next byte, 0 to 255; -1 at the end.
   int get();

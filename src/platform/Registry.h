@@ -4,6 +4,7 @@
 // itself.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -24,6 +25,24 @@ enum class Hive : std::uint32_t {
   DynData = 0x80000006,
 };
 
+// The texts that name a hive.
+struct HiveName {
+  Hive hive;
+  std::string_view name;      // as the system writes it
+  std::string_view inTraces;  // the one spelling, in capitals, that the hive of a trace is compared with
+  std::string_view inEditor;  // what the plugin editor offers and writes
+};
+// Traces know the classes by a misspelt name only, and so the right one matches nothing; recipes rely on it.
+inline constexpr std::array<HiveName, 7> HiveNames{{
+    {Hive::ClassesRoot, "HKEY_CLASSES_ROOT", "HKEY_CLASSSES_ROOT", "HKey_Classes_Root"},
+    {Hive::CurrentConfig, "HKEY_CURRENT_CONFIG", "HKEY_CURRENT_CONFIG", "HKey_Current_Config"},
+    {Hive::CurrentUser, "HKEY_CURRENT_USER", "HKEY_CURRENT_USER", "HKey_Current_User"},
+    {Hive::DynData, "HKEY_DYN_DATA", "HKEY_DYN_DATA", "HKey_Dyn_Data"},
+    {Hive::LocalMachine, "HKEY_LOCAL_MACHINE", "HKEY_LOCAL_MACHINE", "HKey_Local_Machine"},
+    {Hive::PerformanceData, "HKEY_PERFORMANCE_DATA", "HKEY_PERFORMANCE_DATA", "HKey_Performance_Data"},
+    {Hive::Users, "HKEY_USERS", "HKEY_USERS", "HKey_Users"},
+}};
+
 using RegistryStatus = std::int32_t;
 
 namespace status {
@@ -31,17 +50,38 @@ inline constexpr RegistryStatus Success = 0;
 inline constexpr RegistryStatus FileNotFound = 2;  // no such key or value
 inline constexpr RegistryStatus AccessDenied = 5;
 inline constexpr RegistryStatus InvalidHandle = 6;
-inline constexpr RegistryStatus MoreData = 234;  // the buffer is too small
+inline constexpr RegistryStatus InvalidParameter = 87;  // a key that cannot be
+inline constexpr RegistryStatus BadPath = 161;          // an empty part in the path
+inline constexpr RegistryStatus MoreData = 234;         // the buffer is too small
 inline constexpr RegistryStatus NoMoreItems = 259;
+inline constexpr RegistryStatus KeyDeleted = 1018;  // the open key was deleted meanwhile
 }  // namespace status
 
 namespace access {
+inline constexpr std::uint32_t QueryValue = 1;
+inline constexpr std::uint32_t SetValue = 2;
+inline constexpr std::uint32_t CreateSubKey = 4;
+inline constexpr std::uint32_t EnumerateSubKeys = 8;
+inline constexpr std::uint32_t Delete = 0x10000;
 inline constexpr std::uint32_t Write = 0x20006;
 inline constexpr std::uint32_t All = 0x3F;  // query, set, create, enumerate, notify, link
 inline constexpr std::uint32_t Read = 131135;
 }  // namespace access
 
-enum class ValueType : std::uint32_t { None = 0, Text = 1, ExpandText = 2, Binary = 3, Number = 4 };
+enum class ValueType : std::uint32_t {
+  None = 0,
+  Text = 1,
+  ExpandText = 2,
+  Binary = 3,
+  Number = 4,
+  SeveralTexts = 7
+};
+
+inline bool isText(std::uint32_t type) {
+  return type == static_cast<std::uint32_t>(ValueType::Text) ||
+         type == static_cast<std::uint32_t>(ValueType::ExpandText) ||
+         type == static_cast<std::uint32_t>(ValueType::SeveralTexts);
+}
 
 class Registry {
  public:
@@ -65,6 +105,9 @@ class Registry {
   // The data of one value as stored, with no NUL added. MoreData sets `dataLength` to the length needed.
   virtual RegistryStatus query(RegistryKey key, std::string_view name, std::uint32_t& type,
                                std::uint8_t* data, std::uint32_t& dataLength) = 0;
+  // Stores the bytes as they stand, but texts as the system does, to which they are handed over with a NUL
+  // behind them: the NT family stores that NUL too where a text has bytes and does not end in one; the 9x
+  // family stores a text of the type Text up to its first NUL, and that NUL.
   virtual RegistryStatus set(RegistryKey key, std::string_view name, std::uint32_t type,
                              std::span<const std::uint8_t> data) = 0;
   virtual RegistryStatus deleteValue(RegistryKey key, std::string_view name) = 0;

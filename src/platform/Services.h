@@ -64,10 +64,14 @@ class Shell {
  public:
   virtual ~Shell() = default;
   virtual std::int32_t emptyRecycleBin(std::uint32_t flags) = 0;  // of all drives; 0 is success
+  // The folders whose content goes when the bins are emptied; some may be missing.
+  virtual std::vector<std::string> recycleBins() = 0;
   virtual void updateRecycleBinIcon() = 0;
   virtual void open(
       std::string_view document) = 0;  // a file or an address, with its own program; nothing is told
-  virtual void start(std::string_view program) = 0;  // RuntimeError 53 where it cannot be started
+  // A program as the registry may name it: its path, or a path in quotes, with arguments behind; variables of the
+  // environment between "%". RuntimeError 53 where it cannot be started.
+  virtual void start(std::string_view program) = 0;
   virtual FolderPick browseForFolder(std::string_view prompt) = 0;
 };
 

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "base/Embedded.h"
+#include "base/Text.h"
 #include "plugins/CatalogueText.h"
 
 namespace zub {
@@ -12,6 +13,10 @@ std::span<const EmbeddedFile> catalogueFiles();
 
 CatalogueError::CatalogueError(int line, const std::string& reason)
     : std::runtime_error("line " + std::to_string(line) + ": " + reason), line_(line) {}
+
+bool CatalogueRow::warns() const {
+  return contains(description, " ALL ") || contains(description, "Do not use this plugin");
+}
 
 Catalogue Catalogue::parse(std::string_view text) {
   Catalogue catalogue;

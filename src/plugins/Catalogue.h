@@ -7,32 +7,17 @@
 #include <string_view>
 #include <vector>
 
+#include "plugins/Action.h"
+
 namespace zub {
 
-struct CatalogueAction {
-  enum class Kind {
-    File,           // remove the file `path` in the base
-    FilesOfFolder,  // remove the files that match `pattern` in the folder `path` in the base, no subfolders
-    Trace,          // remove the registry trace `trace`
-  };
-  enum class Base {
-    None,  // traces have none
-    AppData,
-    Windows,
-    Registry,  // the folder that the value `trace` names
-  };
-
-  Kind kind = Kind::Trace;
-  Base base = Base::None;
-  std::string path;
-  std::string pattern;
-  std::string trace;  // without ranges: each number of a range is an action of its own
-};
-
 struct CatalogueRow {
-  std::string name;                      // compared exactly, with case; also the key of its saved tick
-  std::string description;               // 1 to 300 characters
-  std::vector<CatalogueAction> actions;  // in the order of their run; at least one
+  std::string name;             // compared exactly, with case; also the key of its saved tick
+  std::string description;      // 1 to 300 characters
+  std::vector<Action> actions;  // in the order of their run; at least one; ranges are expanded
+
+  // The description tells of a loss that nobody expects of a list of recent names.
+  bool warns() const;
 };
 
 // what() is "line N: REASON"; lines count from 1.

@@ -13,11 +13,6 @@ namespace {
 constexpr std::size_t LongestDescription = 300;
 constexpr int HighestNumber = 999;  // keeps a slip of the pen from growing into millions of traces
 constexpr std::string_view Blanks = " \t\r";
-constexpr std::string_view ValueMarker = "+ Value`=";
-// A trace may name the classes, too, though none of its spellings here matches that hive in a wash.
-constexpr std::string_view Hives[] = {"HKEY_CLASSES_ROOT",    "HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE",
-                                      "HKEY_USERS",           "HKEY_DYN_DATA",     "HKEY_CURRENT_CONFIG",
-                                      "HKEY_PERFORMANCE_DATA"};
 
 std::string_view strip(std::string_view text) {
   const auto first = text.find_first_not_of(Blanks);
@@ -33,16 +28,19 @@ std::string_view takeUpTo(char separator, std::string_view& text) {
   return part;
 }
 
+bool namesValue(std::string_view trace) {
+  return contains(trace, trimRight(ValueMarker));
+}
+
+// A trace may name the classes by their right name, too, though that matches no hive in a wash.
 bool beginsWithHive(std::string_view trace) {
-  const auto upper = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
-  const auto hive = trace.substr(0, trace.find('\\'));
-  return std::ranges::any_of(
-      Hives, [&](std::string_view known) { return std::ranges::equal(hive, known, {}, upper); });
+  const std::string hive = upperAscii(trace.substr(0, trace.find('\\')));
+  return std::ranges::find(HiveNames, hive, &HiveName::name) != HiveNames.end();
 }
 
 // In capitals the word of the key form marks nothing in a wash, and yet some rows have it so.
 bool hasMarker(std::string_view trace) {
-  return trace.ends_with("- Key*") || trace.ends_with("- KEY*") || contains(trace, ValueMarker);
+  return trace.ends_with(KeyMarker) || trace.ends_with("- KEY*") || namesValue(trace);
 }
 
 std::optional<int> number(std::string_view text) {
@@ -116,17 +114,17 @@ class Reader {
   }
 
   void addFile(std::string_view rest) {
-    auto action = takePlace(CatalogueAction::Kind::File, rest);
+    auto action = takePlace(Action::Kind::File, rest);
     addWithoutRest(std::move(action), rest);
   }
 
   void addFolder(std::string_view rest) {
-    auto action = takePlace(CatalogueAction::Kind::FilesOfFolder, rest);
-    action.pattern = takePart(rest);
+    auto action = takePlace(Action::Kind::Files, rest);
+    (action.path += '\\') += takePart(rest);
     addWithoutRest(std::move(action), rest);
   }
 
-  void addWithoutRest(CatalogueAction action, std::string_view rest) {
+  void addWithoutRest(Action action, std::string_view rest) {
     if (!rest.empty()) fail("too many parts between |");
     add(std::move(action));
   }
@@ -137,17 +135,17 @@ class Reader {
     return part;
   }
 
-  CatalogueAction takePlace(CatalogueAction::Kind kind, std::string_view& rest) const {
-    CatalogueAction action;
+  Action takePlace(Action::Kind kind, std::string_view& rest) const {
+    Action action;
     action.kind = kind;
     const auto where = takePart(rest);
     if (where == "windows") {
-      action.base = CatalogueAction::Base::Windows;
+      action.base = Action::Base::Windows;
     } else if (where == "appdata") {
-      action.base = CatalogueAction::Base::AppData;
-    } else if (beginsWithHive(where) && contains(where, ValueMarker)) {
-      action.base = CatalogueAction::Base::Registry;
-      action.trace = where;
+      action.base = Action::Base::AppData;
+    } else if (beginsWithHive(where) && namesValue(where)) {
+      action.base = Action::Base::Registry;
+      action.trace = Trace(where);
     } else {
       fail("unknown place \"" + std::string(where) + "\"");
     }
@@ -177,13 +175,13 @@ class Reader {
     }
   }
 
-  void addTrace(std::string trace) {
-    CatalogueAction action;
-    action.trace = std::move(trace);
+  void addTrace(const std::string& trace) {
+    Action action;
+    action.trace = Trace(trace);
     add(std::move(action));
   }
 
-  void add(CatalogueAction action) {
+  void add(Action action) {
     if (rows_.back().description.empty()) fail("the description comes before the first action");
     rows_.back().actions.push_back(std::move(action));
   }

@@ -10,31 +10,17 @@
 namespace zub {
 namespace {
 
-// The pattern of an entry with subfolders keeps the blank that stands before its marker.
-void searchFiles(Engine& engine, std::string_view entry) {
-  if (cutSubfoldersMarker(entry)) {
-    engine.animated->state.lblCurrent.Caption = "Searching for files: " + std::string(entry);
-    const SearchEntry search = splitSearchEntry(entry);
-    engine.deleter->DeleteFolder(search.folder, search.pattern);
-  } else {
-    const SearchEntry search = splitSearchEntry(entry);
-    engine.deleter->DeleteFilesInFolder(search.folder, search.pattern);
-  }
-}
-
 void runFiles(Engine& engine, const std::string& base, const std::string& name) {
   FileReader file(engine.pc.files, base + std::string(extensionOf(PluginFile::Files)));
   engine.animated->AppName(name);
   engine.clean.AddItem("\r\nZUB has cleaned " + name + " , with the following results:");
   std::string line;
   while (file.line(line)) {
-    const std::string entry(trim(engine.pc.codePage.upper(line)));
-    if (entry == NoEntriesUpper) break;
-    if (hasWildcard(entry)) {
-      searchFiles(engine, entry);
-    } else if (!engine.deleter->DeleteFile(entry, 0)) {
+    const auto action = actionOf(engine.pc.codePage, PluginFile::Files, line);
+    if (!action) break;
+    if (!carryOut(engine, *action, {}) && action->kind == Action::Kind::File) {
       engine.pc.events.DoEvents();
-      engine.clean.AddItem("\tDeleting file " + std::string(lastPathPart(entry)));
+      engine.clean.AddItem("\tDeleting file " + std::string(lastPathPart(action->path)));
     }
   }
 }
@@ -44,9 +30,9 @@ void runRegistry(Engine& engine, const std::string& base, const std::string& nam
   engine.clean.AddItem("\tDeleting registry items for " + name);
   std::string line;
   while (file.line(line)) {
-    const std::string entry(trim(line));
-    if (entry == NoEntriesUpper) break;
-    engine.registryHelper.DeleteTrace(entry);
+    const auto action = actionOf(engine.pc.codePage, PluginFile::Registry, line);
+    if (!action) break;
+    carryOut(engine, *action, {});
   }
 }
 

@@ -1,16 +1,12 @@
 #include "plugins/EditorRows.h"
 
+#include <algorithm>
+
 #include "base/Text.h"
+#include "engine/Trace.h"
 #include "plugins/PluginFormat.h"
 
 namespace zub {
-namespace {
-
-constexpr std::string_view KeyMarker = "- Key*";
-constexpr std::string_view ValueMarker = "+ Value`= ";
-
-}  // namespace
-
 std::string fileRow(const FileBoxes& boxes) {
   std::string row = withBackslash(trim(boxes.folder));
   if (!boxes.byPattern) return row += trim(boxes.name);
@@ -34,9 +30,14 @@ std::optional<FileBoxes> fileBoxes(const CodePage& codePage, std::string_view ro
 }
 
 const std::vector<std::string>& editorHives() {
-  static const std::vector<std::string> hives{
-      "HKey_Classes_Root", "HKey_Local_Machine", "HKey_Current_Config",  "HKey_Current_User",
-      "HKey_Users",        "HKey_Dyn_Data",      "HKey_Performance_Data"};
+  static const std::vector<std::string> hives = [] {
+    std::vector<std::string> names;
+    for (const Hive hive : {Hive::ClassesRoot, Hive::LocalMachine, Hive::CurrentConfig, Hive::CurrentUser,
+                            Hive::Users, Hive::DynData, Hive::PerformanceData}) {
+      names.emplace_back(std::ranges::find(HiveNames, hive, &HiveName::hive)->inEditor);
+    }
+    return names;
+  }();
   return hives;
 }
 

@@ -5,13 +5,19 @@
 //          C:\FOLDER\PATTERN                          the files of the folder; the pattern has "?" or "*"
 //          C:\FOLDER\PATTERN >plus subdirectories<    these, and those in all folders below
 //          No entries.                                ends the list
-//   .zb2   a trace (engine/RegistryHelper.h)
+//   .zb2   a trace (engine/Trace.h)
+//          NO ENTRIES.                                ends the list; in any other case it is a trace, and
+//                                                     ends the plugin
 //   .zb3   the information line, then the comments
 #pragma once
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string_view>
+
+#include "platform/CodePage.h"
+#include "plugins/Action.h"
 
 namespace zub {
 
@@ -34,14 +40,14 @@ inline bool hasWildcard(std::string_view entry) {
   return entry.find_first_of("?*") != std::string_view::npos;
 }
 
-// Cuts the upper-case marker and what follows it from the entry, and leaves the blank before it. False where
-// there is none.
-bool cutSubfoldersMarker(std::string_view& upperEntry);
+// What a line does in a run. None where it ends the list. A line for files is read without regard to case.
+std::optional<Action> actionOf(const CodePage& codePage, PluginFile file, std::string_view line);
 
 struct SearchEntry {
   std::string_view folder;
   std::string_view pattern;
 };
+inline constexpr std::size_t LongestUnsplit = 3;
 // Splits an entry with a wildcard at its last backslash; one of three characters or less is all folder.
 // RuntimeError 5 for a longer one without a backslash.
 SearchEntry splitSearchEntry(std::string_view entry);

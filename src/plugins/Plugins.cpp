@@ -57,7 +57,7 @@ void Plugins::read(FileLister& lister) {
   try {
     lister.path(path_);
   } catch (const RuntimeError&) {
-    lister.refresh();  // the folder is not there, or no longer: no names
+    // The folder is not there, or no longer, or cannot be read: no names.
   }
 }
 

@@ -5,7 +5,7 @@
 
 namespace zub {
 
-void FillStandardList(ListRows& standardlist, const Catalogue& catalogue) {
+void listStandardPlugins(ListRows& standardlist, const Catalogue& catalogue) {
   for (const CatalogueRow& row : catalogue.rows()) standardlist.AddItem(row.name);
 }
 

@@ -9,7 +9,7 @@ class Catalogue;
 class ListRows;
 
 // Adds the catalogue's names, none ticked.
-void FillStandardList(ListRows& standardlist, const Catalogue& catalogue);
+void listStandardPlugins(ListRows& standardlist, const Catalogue& catalogue);
 // What a click on a row of this name shows; empty where it is no row.
 std::string_view standardPluginDescription(const Catalogue& catalogue, std::string_view name);
 

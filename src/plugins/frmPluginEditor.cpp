@@ -99,9 +99,7 @@ int frmPluginEditor::SavePlugin() {
 }
 
 void frmPluginEditor::writeFile(const std::string& base, PluginFile file, std::string_view text) {
-  const auto channel = engine_.pc.files.open(base + std::string(extensionOf(file)), OpenMode::Output);
-  channel->write(text);
-  channel->close();
+  engine_.pc.files.replace(base + std::string(extensionOf(file)), text);
 }
 
 void frmPluginEditor::cmdOK_Click() {
@@ -147,7 +145,10 @@ void frmPluginEditor::cmdFFRemove_Click() {
 void frmPluginEditor::cmdPathBrowse_Click() {
   CFolderBrowse picker(engine_.pc.shell);
   picker.Prompt("Find the Folder");
+  state.form.Enabled = false;  // the picker has no owner of its own to hold still
   picker.Browse();
+  state.form.Enabled = true;
+  state.form.Show();
   if (!picker.Path().empty()) state.txtPathFF.Text = picker.Path();
 }
 

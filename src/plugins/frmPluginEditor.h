@@ -74,7 +74,7 @@ class frmPluginEditor {
 
   void cmdOK_Click();
   void cmdApply_Click() { SavePlugin(); }
-  void cmdCancel_Click() { Unload(); }  // so do Esc and the close box
+  void cmdCancel_Click() { Unload(); }  // so does the close box
 
   void cmdRegistryAdd_Click();
   void cmdRegNew_Click();

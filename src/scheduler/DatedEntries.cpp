@@ -1,66 +1,38 @@
 #include "scheduler/DatedEntries.h"
 
 #include "base/RuntimeError.h"
-#include "base/Text.h"
+#include "scheduler/DatedTask.h"
 
 namespace zub {
 namespace {
 
-constexpr int SingleRun = 0;
-constexpr int SaveNow = 0;
-
-// A failure of the facility ends the operation.
+// A failure of the facility ends the operation; whoever started it is to hear of it.
 template <class Operation>
-void guarded(Operation operation) {
+void withTheFacility(Operation operation) {
   try {
     operation();
-  } catch (const RuntimeError&) {
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.number(), "The task scheduler refuses: " + error.description());
   }
-}
-
-std::string withoutExtension(const std::string& file) {
-  return file.substr(0, file.rfind('.'));
 }
 
 }  // namespace
 
-// Finds the program's task, or makes it. A found one is told where the program lies now, which lasts from the
-// next save on.
-ScheduleTask& DatedEntries::OpenScheduledTask() {
-  pc_.tasks.refresh();
-  const std::string path =
-      withBackslash(pc_.folders.programFolder()) + withoutExtension(pc_.folders.programFile());
-  const int count = pc_.tasks.count();
-  for (position_ = 1; position_ <= count; ++position_) {
-    ScheduleTask& task = pc_.tasks.at(position_);
-    if (task.name() != TaskName) continue;
-    task.application(path);
-    task.parameters(" /SCHEDULER");
-    return task;
-  }
-  ScheduleTask& task = pc_.tasks.add(TaskName);
-  task.application(path);
-  task.comment("Zubrane");
-  task.save(SaveNow);
-  return task;
-}
-
 void DatedEntries::InitSchedulerTab() {
-  guarded([&] {
-    OpenScheduledTask();
+  try {
+    openDatedTask(pc_);
     const SystemTime now = pc_.clock.local();
     txtTime.Text = pc_.clock.timeText(now);
     txtDate.Text = pc_.clock.dateText(plusDays(now, 1));
     FillScheduleList();
-  });
+  } catch (const RuntimeError&) {
+    // Nobody has asked yet for what the facility refuses.
+  }
 }
 
 void DatedEntries::FillScheduleList() {
   lstSchedule.Clear();
-  OpenScheduledTask();
-  ScheduleTriggers& triggers = pc_.tasks.at(position_).triggers();
-  const int count = triggers.count();
-  for (int trigger = 1; trigger <= count; ++trigger) lstSchedule.AddItem(triggers.at(trigger)->text());
+  for (const std::string& line : triggerLines(openDatedTask(pc_))) lstSchedule.AddItem(line);
 }
 
 std::optional<SystemTime> DatedEntries::ParseDateField(const TextBox& box, std::string_view message) {
@@ -78,33 +50,21 @@ void DatedEntries::cmdAdd_Click() {
   if (!date) return;
   const auto time = ParseDateField(txtTime, "Wrong time format");
   if (!time) return;
-  guarded([&] {
-    OpenScheduledTask();
-    ScheduleTask& task = pc_.tasks.at(position_);
-    const auto trigger = task.triggers().add();
-    trigger->type(SingleRun);
-    trigger->beginDate(*date);
-    trigger->startTime(*time);
-    task.save(SaveNow);
+  withTheFacility([&] {
+    addDatedWash(pc_, *date, *time);
     FillScheduleList();
   });
 }
 
 void DatedEntries::cmdRemoveScheduled_Click() {
-  guarded([&] {
-    OpenScheduledTask();
-    ScheduleTask& task = pc_.tasks.at(position_);
-    if (const int row = lstSchedule.ListIndex(); row != -1) {
-      task.triggers().remove(row + 1);
-      task.triggers().update();
-      task.save(SaveNow);
-    }
+  withTheFacility([&] {
+    if (const int row = lstSchedule.ListIndex(); row != -1) removeDatedWash(pc_, row + 1);
     FillScheduleList();
   });
 }
 
 void DatedEntries::cmdAdvancedScheduler_Click() {
-  guarded([&] { OpenScheduledTask().showProperties(); });
+  withTheFacility([&] { openDatedTask(pc_).showProperties(); });
 }
 
 }  // namespace zub

@@ -10,14 +10,17 @@ namespace zub {
 
 class DueTimes {
  public:
-  explicit DueTimes(const SystemTime& now) : last_(secondsOf(now)) {}
+  // `passing` is a count of seconds that summer time does not touch.
+  DueTimes(const SystemTime& now, std::int64_t passing) : last_(secondsOf(now)), lastPassing_(passing) {}
 
-  // The number of times after the last look and up to now. A clock that was put back, or on by more than five
-  // minutes, starts anew from now: what lay between is lost, and what lies ahead again comes again.
-  int look(const std::vector<SystemTime>& times, const SystemTime& now);
+  // The number of times after the last look and up to now, those too that the local clock leaves out when
+  // summer time begins. A clock that was put back, or more than five minutes without a look, start anew from
+  // now: what lay between is lost, and what lies ahead again comes again.
+  int look(const std::vector<SystemTime>& times, const SystemTime& now, std::int64_t passing);
 
  private:
-  std::int64_t last_;  // seconds
+  std::int64_t last_;  // seconds of the local clock
+  std::int64_t lastPassing_;
 };
 
 }  // namespace zub

@@ -4,7 +4,7 @@
 //
 //   flag     "1" or "0" and a NUL, 2 bytes
 //   digit    the number's decimal text, cut or NUL-padded to 2 bytes
-//   text     as many bytes as the text has before trimming
+//   text     as many bytes as the text has before trimming; the system adds the NUL behind a text (Registry.h)
 //
 // Writing an option raises its handler; GetInfo therefore runs the handlers of all options.
 #pragma once

@@ -30,6 +30,7 @@ inline constexpr Color Green = 0x8000;  // a task that runs or has run
 inline constexpr Color SystemHighlight = 0x8000000D;
 inline constexpr Color WindowText = 0x80000008;
 inline constexpr Color DisabledText = rgb(161, 161, 146);
+inline constexpr Color Hint = rgb(85, 83, 74);  // an example beside a box
 inline constexpr Color DisabledBack = rgb(235, 235, 228);
 inline constexpr Color Title = rgb(0, 70, 213);
 inline constexpr Color Page = rgb(246, 247, 242);
@@ -115,8 +116,10 @@ struct Form {
   MousePointer mousePointer = MousePointer::Default;
   unsigned shown = 0;  // raised by each Show: the view then brings the window up
 
+  // A window that is shown is not minimised.
   void Show() {
     Visible = true;
+    windowState = WindowState::Normal;
     ++shown;
   }
   void Hide() { Visible = false; }

@@ -49,7 +49,8 @@ void frmAbout::StartSysInfo() {
 std::string frmAbout::informationTool() {
   const RegistryKey machine = pc_.registry.hive(Hive::LocalMachine);
   std::string path;
-  if (GetKeyValue(machine, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", path)) return path;
+  if (GetKeyValue(machine, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", path) && !path.empty())
+    return path;
   if (!GetKeyValue(machine, "SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO", path)) return {};
   path += "\\MSINFO32.EXE";
   return pc_.files.fileExists(path) ? path : std::string();

@@ -13,6 +13,12 @@ constexpr std::string_view userGuide = "help/Zubrane User Guide.htm";
 constexpr std::string_view pluginHelp = "help/Plugins.htm";
 constexpr std::string_view pluginPage = ZUB_PLUGIN_PAGE;  // a setting of the build
 
+constexpr std::string_view allSelectedWarning =
+    "All plugins are selected. Some remove more than lists of recent names: Outlook Express loses ALL its "
+    "mail "
+    "folders and news groups. Click on a plugin to see what it cleans, and take away those that you do not "
+    "want.";
+
 void selectAllAs(const CheckOption& control, ListRows& rows) {
   if (control.Value() == 0 || control.Value() == 1) rows.selectAll(control.Value() == 1);
 }
@@ -64,7 +70,10 @@ void frmMain::wireOptions() {
   options.ComboInterval.Change = [this] { automatic.SetNextRemovalTime(); };
   options.standardlist.Click = [this] { standardlist_Click(); };
   chkSelectAll.Click = [this] { selectAllAs(chkSelectAll, options.lstFiles); };
-  StandardPluginsSelectAll.Click = [this] { selectAllAs(StandardPluginsSelectAll, options.standardlist); };
+  StandardPluginsSelectAll.Click = [this] {
+    selectAllAs(StandardPluginsSelectAll, options.standardlist);
+    if (StandardPluginsSelectAll.Value() == 1) lblStandardPluginDescription.Caption = allSelectedWarning;
+  };
 }
 
 Label& frmMain::helpLabel(HelpLabel which) {
@@ -94,7 +103,7 @@ void frmMain::Form_Load() {
   const bool hidden = ApplyStartMode();
   dated.InitSchedulerTab();
   lblHelp.Caption.clear();
-  restoreStandardList();
+  FillStandardList();
   if (!hidden) form.Show();
 }
 
@@ -118,8 +127,8 @@ bool frmMain::ApplyStartMode() {
   return withWindows || scheduled;
 }
 
-void frmMain::restoreStandardList() {
-  FillStandardList(options.standardlist, parts_.catalogue);
+void frmMain::FillStandardList() {
+  listStandardPlugins(options.standardlist, parts_.catalogue);
   INIFile(engine_.pc, options).GetInfo2();
 }
 

@@ -88,8 +88,8 @@ class frmMain : public WashOwner {
 
  private:
   void RefreshPluginList();
-  bool ApplyStartMode();  // whether the window is to stay hidden
-  void restoreStandardList();
+  bool ApplyStartMode();    // whether the window is to stay hidden
+  void FillStandardList();  // and ticks the rows that were ticked
   void wireOptions();
   Label& helpLabel(HelpLabel which);
   void rowTouched(int row, std::string_view text);

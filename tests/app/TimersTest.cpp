@@ -40,6 +40,15 @@ TEST_CASE("a timer ticks once in each interval, and once after any number of mis
   CHECK_FALSE(pc.progress().loaded());  // which has timers of its own, and is not loaded for them
 }
 
+TEST_CASE("a timer whose ticks take longer than its interval leaves the others their turns") {
+  TimedPc pc;
+  pc.progress()->StartAnimation();
+  int ticks = 0;
+  for (const std::uint64_t now : {0, 1500, 3000, 4500, 6000}) ticks += pc.clockTicksAt(now) ? 1 : 0;
+  CHECK(ticks == 2);
+  CHECK(pc.progress()->state.AnimationFrame == 2);
+}
+
 TEST_CASE("a timer that is enabled again begins a whole interval") {
   TimedPc pc;
   Timer& timer = pc.main().automatic.timer;

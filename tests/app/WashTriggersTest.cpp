@@ -104,6 +104,12 @@ TEST_CASE("Cancel in the midst closes the display, and the wash goes on unseen t
   CHECK(unseen.Image5.picture == Picture::OpenMark);
   CHECK(unseen.Image12.picture == Picture::DoneMark);
   CHECK(pc.main().form.Visible);
+
+  // The next wash does not go on where the unseen rest has ended.
+  pc.pc.onDoEvents = {};
+  pc.main().cmdRemove_Click();
+  CHECK(unseen.form.Visible);
+  CHECK(unseen.lblCompleted.Caption == "3");
 }
 
 TEST_CASE("a process that ends in a turn of a wash leaves the rest, with its settings saved") {
@@ -206,4 +212,40 @@ TEST_CASE("an interval that comes due in a turn of the user's wash starts a furt
   pc.progress()->cmdFinish_Click();
   CHECK(pc.main().automatic.timer.Enabled);
   CHECK_FALSE(pc.main().form.Visible);  // the wash inside found it hidden
+}
+
+TEST_CASE(
+    "a wash of the interval counts the next one from its beginning; a time that passes in it is lost for the "
+    "day") {
+  for (const int minutesInTurn : {1, 5}) {
+    CAPTURE(minutesInTurn);
+    ProgramPc pc;
+    pc.tempFiles();
+    pc.start();
+    pc.options().ComboInterval.ListIndex(2);
+    pc.options().chkRunAuto.Value(1);
+    Timers timers(*pc.program);
+    const auto tickAt = [&](int minute) {
+      pc.pc.now = timeFromSeconds(secondsOf({2001, 9, 5, 14, 10, 0, 0, 0}) + minute * 60);
+      timers.serve(pc.pc.ticks += 1000);
+    };
+    int minute = 35;
+    pc.pc.onDoEvents = [&](int) { tickAt(minute += minutesInTurn); };
+    tickAt(20);
+    tickAt(34);
+    CHECK(pc.washes == 0);
+    tickAt(35);
+    CHECK(pc.washes == 1);
+    CHECK(pc.main().automatic.NextRemoval.wMinute == 50);
+    const bool passed = minute > 50;
+    CHECK(passed == (minutesInTurn == 5));
+    pc.pc.onDoEvents = {};
+    pc.progress()->cmdFinish_Click();
+    tickAt(passed ? minute : 49);
+    tickAt(passed ? minute + 1 : 50);
+    CHECK(pc.washes == (passed ? 1 : 2));
+    if (!passed) continue;
+    tickAt(24 * 60 + 50);
+    CHECK(pc.washes == 2);
+  }
 }

@@ -94,10 +94,14 @@ TEST_CASE(
   CHECK(pc.pc.recycleFlags == std::vector<std::uint32_t>{7});
   CHECK(pc.pc.recycleIconUpdates == 0);
 
-  // The icon is refreshed after a failure.
+  // The icon is refreshed after a failure, which counts, but for the system's answer that nothing was there.
   pc.pc.recycleResult = -2147418113;
   clean();
   CHECK(pc.pc.recycleIconUpdates == 1);
+  CHECK(pc.engine.leftBehind == 0);
+  pc.pc.recycleResult = -2147467259;
+  clean();
+  CHECK(pc.engine.leftBehind == 1);
 }
 
 TEST_CASE("the disk checker's files go by the names of the first current folder, at every fixed root") {

@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "cleaners/BrowserFiles.h"
+#include "cleaners/CleanIE.h"
 #include "cleaners/frmIECookieKeep.h"
 #include "support/WashFixture.h"
 
@@ -162,11 +163,31 @@ TEST_CASE("a failure ends the load with the lists as far as they came") {
   CHECK(pc.rows() == "[a.txt|a.txt]*\n");
   CHECK(pc.pc.bytes(Cookies + "index.dat") == "");  // came into being
 
-  pc.pc.lock(Cookies + "ZUBKeep.inf");
+  // What could not be read is not written over, and no cookie is removed by it.
+  pc.keep.Show();
+  pc.pc.failFile(TestPc::Call::Read, Cookies + "ZUBKeep.inf", ErrorNumber::DeviceIo);
   CHECK(pc.rows() == "[a.txt|a.txt]\n");
+  pc.keep.cmdOK_Click();
+  CHECK(pc.keep.form.Visible);
+  CHECK(pc.pc.bytes(Cookies + "ZUBKeep.inf") == "a.txt\r\n");
+  pc.options.chkIECookies.Value(1);
+  CleanIE(pc.engine, pc.keep);
+  CHECK(pc.pc.hasFile(Cookies + "a.txt"));
+  CHECK(pc.engine.leftBehind == 1);
+
   pc.pc.lock(Cookies + "index.dat");
   CHECK(pc.rows() == "");
   pc.pc.shellFolder("Cookies", "C:\\Nowhere");
   CHECK(pc.rows() == "");
   CHECK(!pc.pc.hasFolder("C:\\Nowhere"));
+}
+
+TEST_CASE("cookies of a disk that cannot be written are listed") {
+  WashFixture pc({"read only = C"});
+  pc.pc.shellFolder("Cookies", "C:\\WINDOWS\\Cookies");
+  pc.pc.file(Cookies + "a.txt");
+  frmIECookieKeep keep(pc.engine);
+  keep.LoadCookies();
+  CHECK(keep.lstDelete.List(0) == "a.txt");
+  CHECK(!pc.pc.hasFile(Cookies + "index.dat"));
 }

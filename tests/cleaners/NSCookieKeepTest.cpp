@@ -157,3 +157,20 @@ TEST_CASE("files that cannot be opened leave the lists as they are and end silen
   pc.keep.cmbProfile.ListIndex(0);
   CHECK(pc.ticks() == "");
 }
+
+TEST_CASE("what could not be read is not written over") {
+  for (const char* file : {"\\Cookies.txt", "\\ZUBKeepNS6.inf"}) {
+    NetscapePc pc;
+    pc.profiles();
+    for (const std::string& profile : {One, Two}) pc.keepFile(profile, ".shop.example\tlogin\t\r\n");
+    pc.options.chkNSCookies.Value(1);
+    pc.keep.Load();
+    const std::string before = pc.cookies(Two);
+    pc.pc.failFile(TestPc::Call::Read, Two + file, ErrorNumber::DeviceIo);
+    pc.keep.CleanNS6();
+    CHECK(pc.cookies(One) == Login);
+    CHECK(pc.cookies(Two) == before);
+    for (const std::string& profile : {One, Two}) CHECK(pc.kept(profile) == ".shop.example\tlogin\t\r\n");
+    CHECK(pc.engine.leftBehind == 1);
+  }
+}

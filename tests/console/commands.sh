@@ -16,7 +16,9 @@ portrait "$pc" >"$work/new"
 run 0 --pc "$pc" options
 says "lblLastRemoval="
 says "chkTempFolder=0"
-check "reading the options changed the PC" diff "$work/new" <(portrait "$pc")
+for listing in plugins schedule "plugin show ACDSee" "cookies netscape"; do zub --pc "$pc" $listing; done
+refused "the registry of this PC names no folder of cookies" --pc "$pc" cookies ie
+check "a listing changed the PC" diff "$work/new" <(portrait "$pc")
 
 # A new PC has nothing to wash: all that was tried went.
 run 0 --pc "$pc" wash
@@ -71,10 +73,71 @@ there is no plugin "Café"|--pc "$pc" plugin show Café
 plugin check reads .zb1 and .zb2 files|--pc "$pc" plugin check C:\\polish.txt
 C:\polish.zb1: File not found|--pc "$pc" plugin check C:\\polish.zb1
 cookies takes "ie" or "netscape"|--pc "$pc" cookies opera
-cookies takes "keep" or "drop" and the numbers of the list|--pc "$pc" cookies ie eat 1
-"one" is no number of the list|--pc "$pc" cookies ie keep one
+cookies takes "keep" or "drop" and numbers of the list, ranges or sites|--pc "$pc" cookies ie eat 1
+"3-1" is no number of the list|--pc "$pc" cookies ie keep 3-1
 schedule add takes a date and a time|--pc "$pc" schedule add 12/24/2030
 there is no dated wash 1x|--pc "$pc" schedule remove 1x
 END
-check "a refused command changed the PC" diff "$work/before" <(portrait "$pc")
 gone "$work/nowhere"
+
+# While another program is at work, every command that changes the PC is to be tried again later; others work.
+exec 9<"$pc"
+flock 9
+for words in wash "start /STARTUP" "set chkBleach=1" "schedule add 1/1/2031 1:00" "schedule remove 1" "cookies ie keep 1"; do
+  # shellcheck disable=SC2086
+  refused "another Zubrane is at work on this PC: try again" --pc "$pc" $words 9<&-
+done
+for words in options plugins schedule "plugin show Windows\\ Paint"; do
+  eval "run 0 --pc '$pc' $words 9<&-"
+done
+exec 9<&-
+check "a refused command changed the PC" diff "$work/before" <(portrait "$pc")
+
+# What cannot be written is told, and the report of a wash all the same.
+# The line of the last wash changes in any case, also where that was in this second.
+echo old >"$pc/C/WINDOWS/TEMP/old.tmp"
+sed -i 's/^"lblLastRemoval"=.*/"lblLastRemoval"="never"\r/' "$pc/registry.reg"
+(cd "$pc" && cksum ./*.*) >"$work/texts"
+for words in wash "set chkBleach=1" "schedule add 1/1/2031 1:00"; do
+  # shellcheck disable=SC2086
+  (ulimit -f 0; "${program[@]}" --pc "$pc" $words 2>&1; echo "ends with $?") </dev/null | cat >"$work/out"
+  check "no failure is told: $words" grep -Eq '^zub: (registry.reg|tasks.txt): cannot be saved: Disk full' "$work/out"
+  says "ends with 2"
+  [ "$words" != wash ] || says "	Deleting file old.tmp"
+done
+gone "$pc/C/WINDOWS/TEMP/old.tmp"
+check "a text was changed, or a file stays beside it" diff "$work/texts" <(cd "$pc" && cksum ./*.*)
+"${program[@]}" --pc "$pc" options >/dev/full 2>"$work/err"
+check "a full disk ends with $?" [ $? -eq 2 ]
+tells "zub: the output could not be written"
+
+# A tree that is deeper than the files that may be open at once.
+deep=$(printf 'd/%.0s' {1..400})
+mkdir -p "$pc/C/WINDOWS/TEMP/$deep"
+touch "$pc/C/WINDOWS/TEMP/d/d/high.tmp" "$pc/C/WINDOWS/TEMP/$deep/low.tmp"
+(ulimit -n 60; "${program[@]}" --pc "$pc" wash >"$work/out" 2>"$work/err"; echo $? >"$work/status")
+check "the wash of a deep tree ends with $(cat "$work/status")" [ "$(cat "$work/status")" -eq 0 ]
+gone "$pc/C/WINDOWS/TEMP/d"
+
+# A folder of the shell whose text lacks its NUL loses its last letter: that is told, and only the other folder is washed.
+run 0 --pc "$pc" set chkDocHistory=1
+mkdir -p "$pc/C/Recent" "$pc/C/Recen"
+touch "$pc/C/Recent/kept.lnk" "$pc/C/Recen/old.lnk"
+cat >>"$pc/registry.reg" <<'END'
+[HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Explorer\Shell Folders]
+"Recent"=hex(1):43,3a,5c,52,65,63,65,6e,74
+"AppData"="C:\\Data"
+END
+run 0 --pc "$pc" wash
+tells 'zub: the shell'"'"'s folder "Recent" is stored without its end: a wash looks for C:\Recen'
+check "another folder is told" [ "$(grep -c "the shell" "$work/err")" -eq 1 ]
+here "$pc/C/Recent/kept.lnk"
+gone "$pc/C/Recen/old.lnk"
+
+# Settings whose key the user may not change.
+echo 'no rights = HKEY_CURRENT_USER\Software' >>"$pc/pc.txt"
+for words in "set chkBleach=1" wash; do
+  # shellcheck disable=SC2086
+  run 2 --pc "$pc" $words
+  tells "zub: the settings cannot be changed: no rights to their key"
+done

@@ -35,11 +35,42 @@ run 0 --pc "$pc" cookies netscape drop "$player" "$region"
 # A number that is not listed changes nothing, also beside one that is.
 for browser in ie netscape; do
   refused "there is no cookie 99" --pc "$pc" cookies $browser keep 1 99
-  refused '"0" is no number of the list' --pc "$pc" cookies $browser keep 0
+  refused "there is no cookie 99" --pc "$pc" cookies $browser keep 1-99
+  refused 'there is no cookie of "*.nowhere.example"' --pc "$pc" cookies $browser keep 1 "*.nowhere.example"
+  for none in 0 - 2-1; do refused "\"$none\" is no number of the list" --pc "$pc" cookies $browser keep $none; done
 done
 listed ie ' ' 'family@news.example[1].txt'
 listed netscape x score basket
 listed netscape ' ' player region
+
+# What is said to be kept is on the disk; what cannot be read or saved is told, and stays. A listing writes nothing.
+cp "$pc/pc.txt" "$work/facts"
+mv "$cookies/index.dat" "$work/index"
+for fact in 'read only = C' 'locked = C:\WINDOWS\Cookies\ZUBKeep.inf'; do
+  printf '%s\n' "$fact" >>"$pc/pc.txt"
+  portrait "$pc" >"$work/before"
+  [[ $fact == locked* ]] || run 0 --pc "$pc" cookies ie
+  run 0 --pc "$pc" cookies netscape
+  refused 'ZUBKeep.inf: Permission denied' --pc "$pc" cookies ie keep 1
+  [[ $fact == locked* ]] || refused 'ZUBKeepNS6.inf: Permission denied' --pc "$pc" cookies netscape keep 1
+  check "something was written" diff "$work/before" <(portrait "$pc")
+  cp "$work/facts" "$pc/pc.txt"
+done
+mv "$work/index" "$cookies/index.dat"
+
+# Ranges and sites. What a site puts into its name never steers the terminal.
+run 0 --pc "$pc" cookies ie keep 2-3 'NEWS.?xample.com'
+listed ie x 'family@news.example[1].txt' 'family@shop.example[1].txt'
+run 0 --pc "$pc" cookies ie drop '*'
+check "a cookie is still kept" [ ! -s "$cookies/ZUBKeep.inf" ]
+run 0 --pc "$pc" cookies ie keep "$keep" 'zoé@*'
+cookieFile=$profiles/kids/77dhm0ab.slt/cookies.txt
+cp "$cookieFile" "$work/cookies"
+printf 'evil\033]0;x\235.example\tTRUE\t/\tFALSE\t1072915200\tbell\a\t1\n' >>"$cookieFile"
+run 0 --pc "$pc" cookies netscape
+check "a control character is not replaced" grep -Fq 'evil?]0;x?.example' "$work/out"
+check "a control character is said" [ "$(grep -c '[[:cntrl:]]' <(tr -d '\t' <"$work/out"))" -eq 0 ]
+cp "$work/cookies" "$cookieFile"
 
 # Of two profiles a wash keeps the ticks of each; how it writes their keep files again is another matter.
 run 1 --pc "$pc" wash

@@ -48,6 +48,23 @@ untouched "links in emptied folders"
 for name in "folder link" "relative link" "dead link" "round link" folder; do gone "$temp/$name"; done
 for name in INFO2 DC1; do gone "$pc/C/RECYCLED/$name"; done
 
+# Names that a code page lacks or that look like a way out, beside what they could be taken for.
+newPc
+mkdir -p "$temp/．．＼keepdir" "$pc/C/WINDOWS/keepdir"
+for name in "$temp/ā.tmp" "$temp/..\\keep" "$temp/nul" "$pc/C/WINDOWS/keep"; do echo x >"$name"; done
+wash
+check "the report tells names as they are" grep -q '^.Shredding file ā.tmp$' "$work/out"
+for name in "．．＼keepdir" "ā.tmp" "..\\keep" nul; do gone "$temp/$name"; done
+check "a folder beside was taken" [ -d "$pc/C/WINDOWS/keepdir" ]
+check "a file beside was taken" [ -f "$pc/C/WINDOWS/keep" ]
+
+# A start folder that is a link is told and not entered.
+newPc
+rm -rf "$temp"
+ln -s "$outside" "$temp"
+run 1 --pc "$pc" wash
+check "the link is not told" grep -qxF 'zub: not looked into: C:\WINDOWS\TEMP\: a link, which is not entered' "$work/err"
+
 # Links in place of the folders of the PC, of a drive and of the texts that hold the PC.
 for place in C/WINDOWS/TEMP C/WINDOWS C/RECYCLED C D "C/Program Files/Zubrane/Plugins" "C/Program Files"; do
   newPc
@@ -66,10 +83,6 @@ for name in registry.reg pc.txt tasks.txt; do
   refused "zub: $name: cannot be read" --pc "$pc" set chkBleach=0
   untouched "$name is a link"
 done
-newPc
-ln -s "$outside/registry.reg" "$pc/registry.reg.new"
-run 0 --pc "$pc" set chkBleach=0
-untouched "the text that is being saved is a link"
 
 # Paths that lead out, wherever a path can stand. $1 in each is a folder or file outside, with backslashes.
 up='..\..\..\..\..\..'

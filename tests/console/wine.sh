@@ -16,6 +16,7 @@ installed="$pc/Program Files/Zubrane"
 rm -rf "$installed"
 mkdir -p "$installed/Plugins"
 cp "${program[1]}" "$installed"
+check "the system would send writes elsewhere" grep -aFq 'level="asInvoker"' "${program[1]}"
 program=("$emulator" 'C:\Program Files\Zubrane\zub-console.exe')
 
 # exported KEY: the registry below a key as sorted lines.
@@ -114,6 +115,20 @@ run 0 set chkLoadStartup=0
 run 0 wash
 says "Total amount of space restored: 100 Bytes"  # the wording for none
 inRun "$run-" "$run"
+
+# A dated wash starts the program with windows, which lies beside this one. A listing does not even make the task.
+job=$pc/windows/tasks/ZUB.job
+rm -f "$job"
+run 0 schedule
+silent out
+[ ! -e "$job" ] || fail "a listing made the task"
+run 0 schedule add 12/24/2031 "6:30 PM"
+run 0 schedule
+check "the dated wash is not listed" grep -q '12/24/2031' "$work/out"
+tr -d '\0' <"$job" >"$work/job"
+check "the task starts another program" grep -aFq 'C:\Program Files\Zubrane\zub' "$work/job"
+! grep -aFq 'zub-console' "$work/job" || fail "the task starts the console program"
+rm -f "$job"
 
 # The words of the command line come in the system's code page.
 rm -rf "${pc:?}/Café"

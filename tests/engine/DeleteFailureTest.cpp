@@ -2,6 +2,10 @@
 
 #include "support/WashFixture.h"
 
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
 using namespace zub;
 
 namespace {
@@ -120,6 +124,47 @@ TEST_CASE("files and folders that stay do not keep the others") {
   CHECK(pc.engine.TotalBytes == 8);
   CHECK(pc.engine.leftBehind == 4);  // the folder that holds the locked file counts too
 }
+
+TEST_CASE("a folder that cannot be listed is told and counted, and does not keep the others") {
+  WashFixture pc;
+  for (const char* name : {"1", "a\\2", "b\\3"}) pc.pc.file(std::string("C:\\T\\") + name);
+  pc.pc.failFile(Call::Find, "C:\\T\\a\\*", ErrorNumber::PathFileAccess);
+  CHECK_FALSE(pc.engine.deleter->DeleteFolder("C:\\T", "*.tmp"));
+  CHECK(pc.engine.leftBehind == 1);
+  CHECK(pc.engine.unread == std::vector<std::string>{"C:\\T\\a\\: Path/File access error"});
+  CHECK_FALSE(pc.engine.deleter->DeleteFolder("C:\\T", "*."));
+  CHECK_FALSE(pc.pc.hasFile("C:\\T\\1"));
+  CHECK(pc.pc.hasFile("C:\\T\\a\\2"));
+  CHECK_FALSE(pc.pc.hasFile("C:\\T\\b\\3"));
+
+  pc.takeReport();
+  pc.pc.failFile(Call::Find, "C:\\T\\b\\*.*", ErrorNumber::DeviceIo);
+  pc.engine.deleter->DeleteFilesInFolder("C:\\T\\b", "*.*");
+  CHECK(pc.takeReport() == "Device I/O error\r\n");
+  CHECK(pc.engine.leftBehind == 3);
+}
+
+#ifndef _WIN32
+TEST_CASE("a link to a folder goes where folders go, and is never entered") {
+  WashFixture pc;
+  pc.pc.file("C:\\T\\1.tmp");
+  pc.pc.file("C:\\Else\\kept");
+  const std::string drive = pc.pc.hostFolder() + "/C/";
+  for (const char* link : {"T/link.tmp", "Start"})
+    REQUIRE(symlink((drive + "Else").c_str(), (drive + link).c_str()) == 0);
+  pc.engine.deleter->DeleteFolder("C:\\T", "*.tmp");
+  CHECK_FALSE(pc.pc.hasFile("C:\\T\\1.tmp"));
+  CHECK(pc.pc.hasFile("C:\\T\\link.tmp"));
+  pc.engine.deleter->DeleteFolder("C:\\T", "*.*");
+  CHECK_FALSE(pc.pc.hasFile("C:\\T\\link.tmp"));
+  CHECK(pc.engine.leftBehind == 0);
+
+  pc.engine.deleter->DeleteFolder("C:\\Start", "*.*");
+  CHECK(pc.engine.leftBehind == 1);
+  CHECK(pc.engine.unread == std::vector<std::string>{"C:\\Start\\: a link, which is not entered"});
+  CHECK(pc.pc.hasFile("C:\\Else\\kept"));
+}
+#endif
 
 TEST_CASE("a sum of bytes beyond 32 bits is that file's failure, which by then is gone") {
   Failing pc;

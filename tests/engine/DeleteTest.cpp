@@ -73,20 +73,6 @@ TEST_CASE("a pattern reaches every level, and only \"*.*\" takes the folders") {
   }
 }
 
-TEST_CASE("a folder's removal is told file by file, then folder by folder from the deepest up") {
-  WashFixture pc;
-  pc.pc.file("C:\\T\\1", "four");
-  pc.pc.file("C:\\T\\a\\2", "seven!!");
-  pc.pc.folder("C:\\T\\a\\b");
-  std::string kinds;
-  pc.pc.onDoEvents = [&](int) { kinds += std::to_string(pc.engine.animated->RemoveEntries()); };
-  pc.engine.deleter->DeleteFolder("C:\\T\\", "*.*");
-  CHECK(pc.takeReport() ==
-        "\tDeleting file 1\r\n\tDeleting file 2\r\n\tDeleting Folder b\r\n\tDeleting Folder a\r\n");
-  CHECK(pc.engine.TotalBytes == 11);
-  CHECK(kinds.ends_with("2233"));  // a turn before each file and each folder; those before are the walk's
-}
-
 TEST_CASE("a folder that does not exist is nothing to do") {
   WashFixture pc;
   const std::string before = pc.pc.snapshot();

@@ -52,6 +52,19 @@ TEST_CASE("the chosen number of passes is written, and a text without a number w
   }
 }
 
+TEST_CASE("every pass is written, on what is there then") {
+  Shredding pc;
+  pc.options.cmbShredder.type("3");
+  pc.pc.onDoEvents = [&](int turn) {  // three blocks a pass: these are the first turns of the later passes
+    if (turn != 4 && turn != 7) return;
+    CHECK(pc.pc.bytes(path).starts_with(std::string(3072, '\0')));
+    pc.pc.file(path, std::string(4096, 'B'));
+  };
+  pc.pc.file(path, std::string(4096, 'A'));
+  pc.engine.deleter->DeleteFile(path, 0);
+  CHECK(pc.pc.bytes(path) == std::string(3072, '\0') + std::string(1024, 'B'));
+}
+
 TEST_CASE("a shredded file goes, read-only too, and its bytes count once") {
   Shredding pc;
   pc.pc.clearFaults();

@@ -7,7 +7,7 @@
 #include "base/Text.h"
 #include "plugins/EditorRows.h"
 #include "plugins/PluginCheck.h"
-#include "support/TestPc.h"
+#include "support/WashFixture.h"
 
 using namespace zub;
 
@@ -40,9 +40,9 @@ void rebuildRegistryRow(const CodePage& codePage, std::string_view line) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static TestPc pc;
-  PluginCheck check(pc.platform());
-  const CodePage& codePage = pc.platform().codePage;
+  static WashFixture pc;
+  PluginCheck check(pc.engine);
+  const CodePage& codePage = pc.engine.pc.codePage;
   for (const PluginFile which : {PluginFile::Files, PluginFile::Registry}) {
     check.begin(which);
     std::string_view text(reinterpret_cast<const char*>(data), size);

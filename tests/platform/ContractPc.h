@@ -8,8 +8,15 @@
 //   void file(path, bytes);                 makes a file, not by the platform
 //   std::string bytes(path);                what is in it, not by the platform
 //   void readOnly(path);                    gives it the read-only attribute
-//   void lock(path); void unlock(path);     as another program would hold it
+//   void hide(path);                        gives it the hidden attribute
+//   void lock(path); void unlock(path);     as another program would hold it, sharing nothing
+//   bool hold(path, sharing);               has it open to read and write and shares that with others, until
+//                                           unlock; false where this PC does not know such a holder
 //   bool link(path, folder);                makes a link to a folder; false where this PC can make none
+//   void wide(name, folder);                an entry of the scratch folder whose name is any UTF-16
+//   bool hasWide(name);                     whether it is there, under exactly this name
+//   void wideKey(name);                     the same for a key below key()
+//   bool followsLinks();                    a path may go through a link
 //   bool deviates(name);                    this PC breaks the contract in a way that is listed by this name
 #pragma once
 
@@ -19,8 +26,9 @@
 #include <string_view>
 
 #include "base/RuntimeError.h"
+#include "platform/PretendContractPc.h"
+#include "platform/Sharing.h"
 #include "support/TestPc.h"
-
 #ifdef _WIN32
 #include "platform/Win32ContractPc.h"
 #endif
@@ -35,7 +43,12 @@ class FolderContractPc : public TestPc {
   std::string folder() const { return "C:\\Scratch"; }
   std::string key() const { return "Software\\ZubraneTest"; }
   std::string task() const { return "ZubraneTest"; }
+  bool hold(const std::string&, Sharing) { return false; }
   bool link(const std::string& path, const std::string& target);
+  void wide(std::u16string_view name, bool folder);
+  bool hasWide(std::u16string_view name) const;
+  void wideKey(std::u16string_view name);
+  bool followsLinks() const { return false; }
   bool deviates(std::string_view) const { return false; }
 };
 
@@ -46,11 +59,18 @@ struct FolderPcNt : FolderContractPc {
   FolderPcNt() : FolderContractPc("nt") {}
 };
 
+using Pretending9x = Pretending<FolderPc9x>;
+using PretendingNt = Pretending<FolderPcNt>;
 #ifdef _WIN32
-#define CONTRACT_PCS FolderPc9x, FolderPcNt, Win32ContractPc
+#define CONTRACT_PCS FolderPc9x, FolderPcNt, Win32ContractPc, Pretending9x, PretendingNt
 #else
-#define CONTRACT_PCS FolderPc9x, FolderPcNt
+#define CONTRACT_PCS FolderPc9x, FolderPcNt, Pretending9x, PretendingNt
 #endif
+
+template <class Pc>
+bool isNt(Pc& pc) {
+  return pc.platform().restart.platformId(148) == 2;
+}
 
 // The number of the error that the call fails with; 0 where it does not fail.
 template <class Call>

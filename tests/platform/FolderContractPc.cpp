@@ -1,4 +1,9 @@
+#include <cstdio>
+
 #include "platform/ContractPc.h"
+#include "platform/folder/CodePage1252.h"
+#include "platform/folder/HostDir.h"
+#include "support/TempFolder.h"
 
 #ifndef _WIN32
 #include <unistd.h>
@@ -20,6 +25,34 @@ bool FolderContractPc::link([[maybe_unused]] const std::string& path,
   };
   return symlink(hostPath(target).c_str(), hostPath(path).c_str()) == 0;
 #endif
+}
+
+// The host's name of a told one.
+static std::string hostName(std::u16string_view name) {
+  std::string told;
+  for (const char16_t unit : name) {
+    char standIn[8];
+    std::snprintf(standIn, sizeof standIn, "<%04X>", static_cast<unsigned>(unit));
+    told += standIn;
+  }
+  return utf8FromAnsi(told);
+}
+
+void FolderContractPc::wide(std::u16string_view name, bool folder) {
+  const auto scratch = openHostDir(hostFolder() + "/C/Scratch");
+  if (folder)
+    REQUIRE(scratch->makeDir(hostName(name)) == HostError::None);
+  else
+    writeHostFile(*scratch, hostName(name), "x");
+}
+
+bool FolderContractPc::hasWide(std::u16string_view name) const {
+  HostStat stat;
+  return openHostDir(hostFolder() + "/C/Scratch")->stat(hostName(name), stat) == HostError::None;
+}
+
+void FolderContractPc::wideKey(std::u16string_view name) {
+  TestPc::key("HKEY_CURRENT_USER\\" + key() + '\\' + ansiFromUtf8(hostName(name)));
 }
 
 }  // namespace zub

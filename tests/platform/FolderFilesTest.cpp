@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "platform/ContractPc.h"
+#include "platform/folder/FolderChannel.h"
 #include "platform/folder/FolderPc.h"
 #include "support/TempFolder.h"
 
@@ -43,6 +44,22 @@ struct Fenced {
 };
 
 }  // namespace
+
+TEST_CASE("what is remembered of a folder's names hides nothing that the program makes or removes") {
+  TestPc pc;
+  Files& files = pc.platform().files;
+  pc.file("C:\\T\\A long name.txt");
+  CHECK_FALSE(files.fileExists("C:\\T\\new.txt"));
+  files.open("C:\\T\\NEW.TXT", OpenMode::Binary)->close();
+  CHECK(files.fileExists("C:\\T\\new.txt"));
+  files.createFolder("C:\\T\\SUB");
+  CHECK(files.folderExists("C:\\T\\sub"));
+  CHECK(files.shortPath("C:\\T\\A long name.txt") == "C:\\T\\ALONGN~1.TXT");
+  files.resetAttributes("C:\\T\\alongn~1.txt");
+  files.remove("C:\\T\\alongn~1.txt");
+  CHECK_FALSE(files.fileExists("C:\\T\\ALONGN~1.TXT"));
+  CHECK_FALSE(files.fileExists("C:\\T\\a LONG name.txt"));
+}
 
 TEST_CASE("no path leads out of the folder") {
   Fenced fenced;
@@ -89,7 +106,7 @@ TEST_CASE("paths that mean the same file") {
     CAPTURE(path);
     CHECK(files.fileExists(path));
     CHECK(files.openedLength(path) == 5);
-    CHECK(files.shortPath(path) == "C:\\WINDOWS\\MYFOLD~1\\file.txt");
+    CHECK(files.shortPath(path) == "C:\\WINDOWS\\MYFOLD~1\\FILE.TXT");
   }
 }
 
@@ -99,12 +116,12 @@ TEST_CASE("names that no file can have") {
   for (const char* path : {"C:\\a?b", "C:\\a*", "C:\\a:b", "C:\\a|b", "C:\\<", "C:\\con", "C:\\NUL.txt",
                            "C:\\com1.x", "C:\\x\\lpt9", "C:\\ \\a", "C:\\...", "C:\\a\tb", ""}) {
     CAPTURE(path);
-    CHECK(failure([&] { files.open(path, OpenMode::Output); }) == 52);
+    CHECK(failure([&] { files.open(path, OpenMode::Binary); }) == 52);
     CHECK(failure([&] { files.resetAttributes(path); }) == 53);
     CHECK(files.attributes(path) == attribute::Invalid);
   }
-  CHECK(failure([&] { files.open("C:\\" + std::string(300, 'n'), OpenMode::Output); }) == 52);
-  CHECK(failure([&] { files.open("C:\\com10", OpenMode::Output); }) == 0);
+  CHECK(failure([&] { files.open("C:\\" + std::string(300, 'n'), OpenMode::Binary); }) == 52);
+  CHECK(failure([&] { files.open("C:\\com10", OpenMode::Binary); }) == 0);
 }
 
 TEST_CASE("facts about files and drives") {
@@ -172,22 +189,21 @@ TEST_CASE("a link is a file of length 0 in every place and its target stays") {
 
   CHECK_FALSE(fenced.pc->drives.exists("D:"));
   CHECK(failure([&] { files.remove("D:\\secret"); }) == 76);
-  CHECK_FALSE(files.folderExists("C:\\folder"));
-  CHECK_FALSE(files.find("C:\\folder\\*"));
-  CHECK(failure([&] { files.remove("C:\\folder\\secret"); }) == 76);
-  CHECK(failure([&] { files.open("C:\\folder\\new", OpenMode::Output); }) == 76);
-  CHECK(failure([&] { files.createFolder("C:\\folder\\new"); }) == 76);
+  CHECK(failure([&] { files.find("C:\\folder\\*"); }) == 70);
+  CHECK(failure([&] { files.remove("C:\\folder\\secret"); }) == 70);
+  CHECK(failure([&] { files.open("C:\\folder\\new", OpenMode::Binary); }) == 70);
+  CHECK(failure([&] { files.createFolder("C:\\folder\\new"); }) == 70);
   CHECK(failure([&] { files.deleteFolder("C:\\folder"); }) == 76);
   for (const char* path : {"C:\\folder", "C:\\file", "C:\\broken"}) {
     CAPTURE(path);
-    CHECK(files.fileExists(path));
-    CHECK(files.attributes(path) == attribute::Normal);
+    CHECK((files.attributes(path) & attribute::Link) != 0);
+    CHECK(isFolderLink(files.attributes(path)) == (path == std::string("C:\\folder")));
     CHECK(failure([&] { files.open(path, OpenMode::Input); }) == 75);
     CHECK(failure([&] { files.open(path, OpenMode::Binary); }) == 75);
     files.resetAttributes(path);
     CHECK(files.openedLength(path) == 0);
     files.remove(path);
-    CHECK_FALSE(files.fileExists(path));
+    CHECK(files.attributes(path) == attribute::Invalid);
   }
   CHECK(fenced.untouched());
 }
@@ -210,7 +226,7 @@ TEST_CASE("a link swapped in while a search runs is not followed") {
   Files& files = fenced.files();
   const std::string c = fenced.temp.path() + "/pc/C";
   files.createFolder("C:\\walk");
-  for (const char* name : {"secret", "other"}) files.open(std::string("C:\\walk\\") + name, OpenMode::Output);
+  for (const char* name : {"secret", "other"}) files.open(std::string("C:\\walk\\") + name, OpenMode::Binary);
 
   const auto search = files.find("C:\\walk\\*");
   FoundFile found;
@@ -221,14 +237,14 @@ TEST_CASE("a link swapped in while a search runs is not followed") {
     files.folderExists("C:\\WINDOWS\\TEMP");  // no handle is kept on the way to the folder
     failure([&] { files.remove("C:\\walk\\" + found.name); });
   } while (search->next(found));
-  CHECK_FALSE(files.find("C:\\walk\\*.*x*"));
+  CHECK(failure([&] { files.find("C:\\walk\\*.*x*"); }) == 70);
   CHECK(fenced.untouched());
 }
 
 TEST_CASE("a folder replaced behind a kept handle is found anew") {
   Fenced fenced;
   fenced.files().createFolder("C:\\a");
-  fenced.files().open("C:\\a\\old", OpenMode::Output);
+  fenced.files().open("C:\\a\\old", OpenMode::Binary);
   REQUIRE(fenced.drive->rename("a", "b") == HostError::None);
   writeHostFile(*fenced.folder("a"), "new", "x");
   CHECK(fenced.files().fileExists("C:\\a\\new"));
@@ -251,21 +267,63 @@ TEST_CASE("a profile is replaced in one step, and no file beside it is lost") {
   }
 }
 
-TEST_CASE("names of the host that no path leads to are not told") {
+TEST_CASE("names that only another system makes are told so that they lead back") {
   Fenced fenced;
   const auto folder = fenced.folder("odd");
-  for (const char* name : {"..\\..\\secret", "a:b", "nul", "end.", "good", "UPPER", "upper", "\xC3\xA4",
-                           "\xFF raw", "\xE6\x97\xA5"}) {
+  for (const char* name : {"..\\..\\secret", "a:b", "nul", "end.", "good", "UPPER", "upper", "\xFF raw",
+                           "a\xFFz", "<0101>", "\xC4\x81", "\xED\xA0\xBD\xED\xB8\x80", "\xF0\x9F\x98\x80"}) {
     writeHostFile(*folder, name, "x");
   }
   Files& files = fenced.files();
-  const std::vector<std::string> expected = {"UPPER", "good", "upper", "\xE4", "\xE6\x97\xA5", "\xFF raw"};
+  const std::vector<std::string> expected = {"..<005C>..<005C>secret",
+                                             "<003C>0101<003E>",
+                                             "<006E>ul",
+                                             "<0101>",
+                                             "<D83DDE00>",
+                                             "<DCEDDCA0DCBDDCEDDCB8DC80>",
+                                             "<DCFF> raw",
+                                             "UPPER",
+                                             "a<003A>b",
+                                             "a<DCFF>z",
+                                             "end<002E>",
+                                             "good",
+                                             "upper"};
   CHECK(namesIn(files, "C:\\odd\\*") == expected);
-  // Each told name leads to its own file.
-  for (const std::string& name : expected) files.remove("C:\\odd\\" + name);
-  CHECK(namesIn(files, "C:\\odd\\*").empty());
-  files.deleteFolder("C:\\odd");
-  CHECK_FALSE(files.folderExists("C:\\odd"));
+  std::size_t left = expected.size();
+  for (const std::string& name : expected) {
+    files.remove("C:\\odd\\" + name);
+    CHECK(namesIn(files, "C:\\odd\\*").size() == --left);
+  }
+  CHECK(fenced.untouched());
+}
+
+TEST_CASE("each pass over a file reaches the host before the next one") {
+  struct Noting : HostFile {
+    explicit Noting(std::string& log) : calls(log) {}
+    HostError length(std::uint64_t& bytes) override {
+      bytes = 2048;
+      return HostError::None;
+    }
+    HostError read(std::uint64_t, std::span<char>, std::size_t&) override { return HostError::None; }
+    HostError write(std::uint64_t offset, std::string_view bytes) override {
+      calls += "write " + std::to_string(offset) + ' ' + std::to_string(bytes.size()) + ';';
+      return HostError::None;
+    }
+    HostError sync() override {
+      calls += "sync;";
+      return HostError::None;
+    }
+    std::string& calls;
+  };
+  std::string calls;
+  FolderChannel channel(std::make_unique<Noting>(calls), true);
+  for (int pass = 0; pass < 2; ++pass) {
+    channel.seek(0);
+    for (int block = 0; block < 2; ++block) channel.write(std::string(1024, '\0'));
+    channel.sync();
+  }
+  channel.close();
+  CHECK(calls == "write 0 2048;sync;write 0 2048;sync;");
 }
 
 #endif

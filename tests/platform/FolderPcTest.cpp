@@ -1,10 +1,14 @@
 // The texts of a PC folder, their refusals and their saves.
+#include <algorithm>
+#include <numeric>
+
 #include "base/Text.h"
 #include "platform/ContractPc.h"
+#include "platform/ProfileText.h"
 #include "platform/folder/FolderPc.h"
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
-#include "platform/folder/ProfileText.h"
+#include "platform/folder/RegistryText.h"
 #include "support/TempFolder.h"
 
 using namespace zub;
@@ -26,6 +30,14 @@ struct NewPc : TempFolder {
   NewPc() { createPc(path()); }
   std::string text(const char* name) { return readHostFile(dir(), name); }
   std::string registry() { return text("registry.reg"); }
+  std::string names() {
+    std::vector<std::string> all;
+    std::unique_ptr<HostList> listing;
+    REQUIRE(dir().list(listing) == HostError::None);
+    for (HostEntry entry; listing->next(entry);) all.push_back(entry.name + ' ');
+    std::ranges::sort(all);
+    return std::accumulate(all.begin(), all.end(), std::string());
+  }
   void write(const char* name, std::string_view text) { writeHostFile(dir(), name, text); }
 };
 
@@ -88,7 +100,7 @@ TEST_CASE("facts are read whatever their case, blanks and line ends") {
   const PcFacts facts(
       "\xEF\xBB\xBF Family=NT\r\n# x\n  Current = C:\\Eigene Dateien\\\xC3\x84\nDrive  d = CDROM\nlocked = "
       "C:\\A\nlocked = c:\\b");
-  CHECK(facts.nt);
+  CHECK(facts.family == &familyNt);
   CHECK(facts.current.text() == "C:\\Eigene Dateien\\\xC4");
   CHECK(facts.drives.at('D') == DriveType::CdRom);
   CHECK(facts.locked == std::set<std::string>{"C:\\A", "C:\\B"});
@@ -107,7 +119,7 @@ TEST_CASE("a save changes only what the program changed") {
     CHECK(folder.registry() == handMade);
     CHECK(folder.text("pc.txt") == facts);
 
-    pc.files.open("C:\\h", OpenMode::Output)->close();
+    pc.files.open("C:\\h", OpenMode::Binary)->close();
     pc.files.resetAttributes("C:\\h");
     pc.files.createFolder("C:\\tree");
     pc.files.deleteFolder("C:\\tree");
@@ -124,26 +136,49 @@ TEST_CASE("a save changes only what the program changed") {
   CHECK_FALSE(again.registry.changed());
 }
 
-TEST_CASE("what a killed save has left does not matter, and what cannot be saved leaves the old text") {
+TEST_CASE("what a killed save has left goes, and of several texts each is tried") {
   NewPc folder;
-  const std::string before = folder.registry();
-  folder.write("registry.reg.new", CutOff);
+  for (const char* left : {"registry.reg.7.new", "tasks.txt.71-2.new", "registry.reg.x.new"}) {
+    folder.write(left, CutOff);
+  }
   FolderPc pc(folder.path());
-  setValue(pc, "1");
-  CHECK(folder.registry() == before);
-  pc.save();
-  const std::string after = folder.registry();
-  CHECK(after != before);
-  HostStat stat;
-  CHECK(folder.dir().stat("registry.reg.new", stat) == HostError::NotFound);
+  CHECK_FALSE(pc.process.otherInstanceRuns());
+  CHECK(folder.names() == "C pc.txt registry.reg registry.reg.x.new ");
 
-  REQUIRE(folder.dir().makeDir("registry.reg.new") == HostError::None);
-  setValue(pc, "2");
-  CHECK_THROWS_AS(pc.save(), PcError);
-  CHECK(folder.registry() == after);
-  REQUIRE(folder.dir().removeDir("registry.reg.new") == HostError::None);
+  setValue(pc, "1");
+  pc.restart.deleteAtRestart("C:\\h");
+  REQUIRE(folder.dir().removeFile("registry.reg") == HostError::None);
+  for (const char* name : {"registry.reg", "tasks.txt"}) {
+    REQUIRE(folder.dir().makeDir(name) == HostError::None);  // cannot be replaced by a file
+  }
+  CHECK(failure([&] { pc.tasks.add("ZUB").save(0); }) == 440);
+  std::string told;
+  try {
+    pc.save();
+  } catch (const PcError& error) {
+    told = error.what();
+  }
+  CHECK(told ==
+        "registry.reg: cannot be saved: Path/File access error; tasks.txt: cannot be read: Path/File access "
+        "error");
+  CHECK(contains(folder.text("pc.txt"), "remove at restart"));
+  CHECK(folder.names() == "C pc.txt registry.reg registry.reg.x.new tasks.txt ");
+  REQUIRE(folder.dir().removeDir("registry.reg") == HostError::None);
+  REQUIRE(folder.dir().removeDir("tasks.txt") == HostError::None);
+  pc.tasks.add("ZUB").save(0);
   pc.save();
-  CHECK(folder.registry() != after);
+  CHECK(contains(folder.registry(), "\"v\"=hex:31"));
+}
+
+TEST_CASE("a registry that could not be saved is not taken") {
+  NewPc folder;
+  // A key writes the path of each key above it, a control character makes bytes of a text.
+  std::string deep = "[HKEY_USERS";
+  for (int level = 0; level < 500; ++level) deep += "\\" + std::string(200, 'k');
+  RegistryTree tree = readRegistryText("REGEDIT4\n" + deep + "]\n\"v\"=\"a\x01\\\\\"\n", "x");
+  const std::uint64_t length = writeRegistryText(tree).size();
+  CHECK(canBeWritten(tree, length));
+  CHECK_FALSE(canBeWritten(tree, length - 1));
 }
 
 TEST_CASE("a damaged text is never written over") {
@@ -159,8 +194,8 @@ TEST_CASE("a damaged text is never written over") {
   NewPc folder;
   std::unique_ptr<HostFile> file;
   REQUIRE(folder.dir().openFile("registry.reg", HostOpen::ReadWrite, file) == HostError::None);
-  REQUIRE(file->write(std::uint64_t{1} << 28, "x") == HostError::None);  // a hole, no bytes of the disk
-  CHECK(errorOf(folder.path()).reason() == "is larger than 256 MiB");
+  REQUIRE(file->write(MostTextBytes, "x") == HostError::None);  // a hole, no bytes of the disk
+  CHECK(errorOf(folder.path()).reason() == "is larger than 512 MiB");
 }
 
 TEST_CASE("one program works on a PC at a time, on what it has read") {
@@ -186,25 +221,32 @@ TEST_CASE("one program works on a PC at a time, on what it has read") {
 
 TEST_CASE("a profile key is set and all other lines stay") {
   const std::string rename = "[rename]\r\nnul=C:\\X\r\n";
-  CHECK(withProfileKey("", "rename", "nul", "C:\\X") == rename);
-  CHECK(withProfileKey("[a]\nk=1", "rename", "nul", "C:\\X") == "[a]\nk=1\r\n" + rename);
-  CHECK(withProfileKey("; c\n[Rename]\nx=y\n\n[z]\nnul=1\n", "rename", "nul", "C:\\X") ==
-        "; c\n[Rename]\nx=y\nnul=C:\\X\r\n\n[z]\nnul=1\n");
-  CHECK(withProfileKey("[rename]\r\n NUL = C:\\Y\r\nb=2\r\n", "rename", "nul", "C:\\X") ==
-        "[rename]\r\nNUL=C:\\X\r\nb=2\r\n");
+  const auto changed = [](std::string_view text) {
+    return withProfileKey(text, "rename", "nul", "C:\\X", CodePage1252{});
+  };
+  CHECK(changed("") == rename);
+  CHECK(changed("[a]\nk=1") == "[a]\nk=1\r\n" + rename);
+  CHECK(changed("; c\n[Rename]\nx=y\n\n[z]\nnul=1\n") == "; c\n[Rename]\nx=y\nnul=C:\\X\r\n\n[z]\nnul=1\n");
+  CHECK(changed("[rename]\r\n NUL = C:\\Y\r\nb=2\r\n") == "[rename]\r\nNUL=C:\\X\r\nb=2\r\n");
 }
 
-TEST_CASE("the bins of fixed drives are emptied and stay") {
-  TestPc pc({"drive D = removable"});
-  for (const char* file : {"C:\\Recycled\\INFO2", "C:\\Recycled\\Dc0\\x", "D:\\RECYCLED\\kept", "C:\\kept"})
-    pc.file(file);
-  pc.readOnly("C:\\Recycled\\INFO2");
-  FolderShell shell(pc.platform().files, pc.platform().drives);
-  CHECK(shell.emptyRecycleBin(7) == 0);
-  CHECK_FALSE(pc.platform().files.find("C:\\Recycled\\*"));
-  CHECK(pc.hasFolder("C:\\Recycled"));
-  CHECK(pc.hasFile("D:\\RECYCLED\\kept"));
-  CHECK(pc.hasFile("C:\\kept"));
+TEST_CASE("the bins of fixed drives are emptied and stay; those of single users are the NT family's") {
+  for (const Family* family : {&family9x, &familyNt}) {
+    CAPTURE(std::string(family->name));
+    TestPc pc({"drive D = removable"});
+    for (const char* file : {"C:\\Recycled\\INFO2", "C:\\Recycled\\Dc0\\x", "C:\\Recycler\\S-1-5\\x",
+                             "C:\\$Recycle.Bin\\S-1-5\\x", "D:\\RECYCLED\\kept", "C:\\kept"})
+      pc.file(file);
+    pc.readOnly("C:\\Recycled\\INFO2");
+    FolderShell shell(pc.platform().files, pc.platform().drives, *family);
+    CHECK(shell.emptyRecycleBin(7) == 0);
+    CHECK_FALSE(pc.platform().files.find("C:\\Recycled\\*"));
+    CHECK(pc.hasFolder("C:\\Recycled"));
+    for (const char* userBin : {"C:\\Recycler\\S-1-5", "C:\\$Recycle.Bin\\S-1-5"})
+      CHECK(pc.hasFolder(userBin) == (family == &family9x));
+    CHECK(pc.hasFile("D:\\RECYCLED\\kept"));
+    CHECK(pc.hasFile("C:\\kept"));
+  }
 }
 
 TEST_CASE("keys without rights") {

@@ -4,8 +4,9 @@
 #include <string>
 #include <vector>
 
+#include "platform/Wildcard.h"
+#include "platform/folder/CodePage1252.h"
 #include "platform/folder/ShortName.h"
-#include "platform/folder/Wildcard.h"
 
 using namespace zub;
 
@@ -25,22 +26,24 @@ TEST_CASE("wildcards") {
       {"a*b*c", {"abc", "axxbxxc", "abbcc"}, {"ab", "acb"}},
       {"*a?", {"bab", "a", "aaa"}, {"b", "abb"}},
       {"\xE4*", {"\xC4pfel"}, {"Apfel"}},
+      {"?.<0101>", {"\x80.<0101>", "<0102>.<0101>"}, {"a.a", "<01020103>.<0101>"}},
       {"", {}, {"a"}},
       {" ", {}, {"a"}},
       {".", {}, {"a", "a.b"}},
   };
   for (const Row& row : rows) {
     CAPTURE(row.pattern);
-    const Wildcard wildcard(row.pattern);
-    for (const char* name : row.match) CHECK_MESSAGE(wildcard.matches(name), name);
-    for (const char* name : row.differ) CHECK_MESSAGE(!wildcard.matches(name), name);
+    const auto upper = [](const char* text) { return folded(utf16FromAnsi(text)); };
+    const Wildcard wildcard(upper(row.pattern));
+    for (const char* name : row.match) CHECK_MESSAGE(wildcard.matches(upper(name)), name);
+    for (const char* name : row.differ) CHECK_MESSAGE(!wildcard.matches(upper(name)), name);
   }
 }
 
 TEST_CASE("a pattern of many stars is settled at once") {
-  std::string pattern;
-  for (int i = 0; i < 200; ++i) pattern += "*a";
-  CHECK_FALSE(Wildcard(pattern + "*b").matches(std::string(5000, 'a')));
+  std::u16string pattern;
+  for (int i = 0; i < 200; ++i) pattern += u"*A";
+  CHECK_FALSE(Wildcard(pattern + u"*B").matches(std::u16string(5000, 'A')));
 }
 
 TEST_CASE("8.3 names") {

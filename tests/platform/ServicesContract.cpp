@@ -85,11 +85,23 @@ TEST_CASE_TEMPLATE("clock: what it writes it reads", Pc, CONTRACT_PCS) {
   }
 }
 
+TEST_CASE_TEMPLATE("clock: a date may name its month", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Clock& clock = pc.platform().clock;
+  for (const char* text : {"24 December 2030", "december 24, 2030", "Dec 24 2030", "24-DEC-2030"}) {
+    CAPTURE(std::string(text));
+    SystemTime time{2030, 12, 2, 24, 0, 0, 0, 0};
+    CHECK(clock.parse(text) == time);
+    time.wHour = 18;
+    CHECK(clock.parse(std::string(text) + " 6:00 PM") == time);
+  }
+}
+
 TEST_CASE_TEMPLATE("clock: what is no date and no time is a mismatch", Pc, CONTRACT_PCS) {
   Pc pc;
   Clock& clock = pc.platform().clock;
   for (const char* text : {"", "   ", "tomorrow", "25:00", "10:60", "1/2/3/4", "13/32/2001", "2/29/2001",
-                           "12:", "9/5/2001 at noon", "\xFF\xFE"}) {
+                           "29 Feb 2001", "1 Brumaire 2001", "May", "12:", "9/5/2001 at noon", "\xFF\xFE"}) {
     CAPTURE(std::string(text));
     CHECK(failure([&] { clock.parse(text); }) == 13);
   }

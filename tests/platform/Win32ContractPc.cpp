@@ -28,7 +28,11 @@ std::string hostPath(const std::string& path) {
   return result;
 }
 
-bool isLink(const std::string& path) {
+std::wstring widePath(const std::string& folder, std::u16string_view name) {
+  return L"\\\\?\\" + wide(folder) + L'\\' + std::wstring(name.begin(), name.end());
+}
+
+bool isLinkAt(const std::string& path) {
   const DWORD attributes = GetFileAttributesA(path.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
 }
@@ -37,7 +41,7 @@ bool isLink(const std::string& path) {
 void onHost(const std::string& command, const std::string& path, bool linkAfterwards) {
   std::system(("start /unix " + command).c_str());
   const DWORD begin = GetTickCount();
-  while (isLink(path) != linkAfterwards && GetTickCount() - begin < 10000) SwitchToThread();
+  while (isLinkAt(path) != linkAfterwards && GetTickCount() - begin < 10000) SwitchToThread();
 }
 
 void deleteKeyTree(HKEY parent, const std::string& path) {
@@ -99,11 +103,26 @@ void Win32ContractPc::readOnly(const std::string& path) {
   REQUIRE(SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY) != 0);
 }
 
-void Win32ContractPc::lock(const std::string& path) {
+void Win32ContractPc::hide(const std::string& path) {
+  REQUIRE(SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN) != 0);
+}
+
+void Win32ContractPc::openAs(const std::string& path, unsigned long access, unsigned long sharing) {
   const HANDLE handle =
-      CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+      CreateFileA(path.c_str(), access, sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   REQUIRE(handle != INVALID_HANDLE_VALUE);
   locks_[path] = handle;
+}
+
+void Win32ContractPc::lock(const std::string& path) {
+  openAs(path, GENERIC_READ, 0);
+}
+
+bool Win32ContractPc::hold(const std::string& path, Sharing sharing) {
+  const DWORD others =
+      sharing == Sharing::Reading ? FILE_SHARE_READ : FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  openAs(path, GENERIC_READ | GENERIC_WRITE, others);
+  return true;
 }
 
 void Win32ContractPc::unlock(const std::string& path) {
@@ -119,7 +138,31 @@ bool Win32ContractPc::link(const std::string& path, const std::string& target) {
   } else {
     std::system(("mklink /J " + path + ' ' + target + " >nul").c_str());
   }
-  return isLink(path);
+  return isLinkAt(path);
+}
+
+void Win32ContractPc::wide(std::u16string_view name, bool folder) {
+  const std::wstring path = widePath(folder_, name);
+  if (folder) {
+    REQUIRE(CreateDirectoryW(path.c_str(), nullptr) != 0);
+    return;
+  }
+  const HANDLE file =
+      CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+  REQUIRE(file != INVALID_HANDLE_VALUE);
+  CloseHandle(file);
+}
+
+bool Win32ContractPc::hasWide(std::u16string_view name) const {
+  return GetFileAttributesW(widePath(folder_, name).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+void Win32ContractPc::wideKey(std::u16string_view name) {
+  HKEY opened = nullptr;
+  const std::wstring path = zub::wide(key()) + L'\\' + std::wstring(name.begin(), name.end());
+  REQUIRE(RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &opened,
+                          nullptr) == ERROR_SUCCESS);
+  RegCloseKey(opened);
 }
 
 bool Win32ContractPc::deviates(std::string_view name) const {

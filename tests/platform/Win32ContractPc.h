@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Sharing.h"
 #include "platform/win32/Win32Platform.h"
 
 namespace zub {
@@ -25,13 +26,21 @@ class Win32ContractPc {
   void file(const std::string& path, std::string_view bytes);
   std::string bytes(const std::string& path) const;
   void readOnly(const std::string& path);
+  void hide(const std::string& path);
   void lock(const std::string& path);
+  bool hold(const std::string& path, Sharing sharing);
   void unlock(const std::string& path);
   bool link(const std::string& path, const std::string& target);
+  void wide(std::u16string_view name, bool folder);
+  bool hasWide(std::u16string_view name) const;
+  void wideKey(std::u16string_view name);
+  bool followsLinks() const { return true; }
   // Only Wine deviates, and only as its table says; a name that is not in the table is a fault of the test.
   bool deviates(std::string_view name) const;
 
  private:
+  void openAs(const std::string& path, unsigned long access, unsigned long sharing);
+
   struct NoEvents : EventLoop {
     void DoEvents() override {}
   };

@@ -11,12 +11,13 @@ struct WineDeviation {
 };
 
 inline constexpr WineDeviation wineDeviations[] = {
-    {"star dot", "\"*.\" is everything, not the names without an extension"},
     {"read-only", "its user root may write to read-only files"},
     {"missing drive", "a file on a drive that is not there is not found, not its path"},
     {"link",
      "the host's links are told as reparse points but opened as what they lead to; the program leaves "
      "them alone"},
+    {"short capitals", "as Windows 98 it does not tell the 8.3 name of a short name in capitals"},
+    {"no account", "the account that a task runs as is forgotten when the task is saved"},
     {"no triggers", "a task that was saved without triggers comes back with a switched-off daily one"},
 };
 

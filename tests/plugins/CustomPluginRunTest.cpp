@@ -114,24 +114,6 @@ TEST_CASE("a missing file ends the run where it is read, without a word") {
   CHECK(second.pc.messages.empty());
 }
 
-TEST_CASE("entries that name no file remove nothing, and the run goes on") {
-  for (const std::string entry :
-       {"", "   ", "\\", "*", "*.*", "?:\\", "C:*", "*>plus subdirectories<", ">plus subdirectories< C:\\*.*",
-        "C:\\A.TXT >plus subdirectories<", "C:\\", "C:\\Program Files", "C:\\Prog*\\a.txt", "C:\\None\\*.*",
-        "Q:\\*.* >plus subdirectories<", "C:\\a.txt|b", "\xFF\x01\x7F"}) {
-    CAPTURE(entry);
-    PluginRun wash;
-    wash.pc.file("C:\\a.txt");
-    wash.pc.file("C:\\Program Files\\a.txt");
-    wash.save(entry + "\r\n", "");
-    const std::string before = wash.pc.snapshot();
-    wash.run();
-    // A folder given as a file is "locked", and noted down for the next start of the PC.
-    CHECK_FALSE(contains("\n" + wash.pc.diffSince(before), "\n- "));
-    CHECK(wash.completed() == "1");
-  }
-}
-
 TEST_CASE("binary and huge plugin files") {
   std::string binary;
   for (int i = 0; i < 5000; ++i) binary += static_cast<char>(i * 37 % 251);

@@ -15,6 +15,7 @@ const Catalogue& sample() {
       "folder appdata | Editor\\Recent | *.lnk\n"
       "file HKEY_LOCAL_MACHINE\\Software\\Editor+ Value`= Folder | Activity.log\n"
       "trace HKEY_CURRENT_USER\\Software\\Editor+ Value`= Last\n"
+      "[Classes]\nabout a\ntrace HKEY_CLASSES_ROOT\\K- Key*\n"
       "[Wrong]\nabout a\n"
       "file windows | first.ini\ntrace HKEY_CURRENT_USER\\Software Value`- Key*\nfile windows | "
       "second.ini\n");
@@ -48,6 +49,29 @@ TEST_CASE("a row's actions run in their order on its folders") {
   CHECK(beyond(wash.pc.diffSince(before), {gone[0], gone[1], gone[2], "\"Last\""}) == "");
   CHECK(wash.progress().lblApplication.Caption == "Editor");
   CHECK(wash.progress().StatusBar1[1] == "Number of tasks competed: 1");
+}
+
+TEST_CASE("what is shown of a row is told with the folders of this PC, and marked where there are none") {
+  RowRun wash;
+  const auto shown = [&](const char* row) {
+    std::string all;
+    for (const Meaning& meaning : describeStandardPlugin(wash.engine, *sample().find(row))) {
+      all += " ?!"[static_cast<int>(meaning.verdict)] + meaning.text + "\n";
+    }
+    return all;
+  };
+  wash.pc.shellFolder("AppData", "C:\\User");
+  CHECK(shown("Editor") ==
+        " Removes the file C:\\WINDOWS\\editor.ini\n"
+        " Removes the files *.lnk of the folder C:\\User\\Editor\\Recent\\\n"
+        "?Removes the file \\Activity.log (its folder cannot be read from the registry)\n"
+        " Removes the value Last of the key HKEY_CURRENT_USER\\Software\\Editor; once the wash has wiped any "
+        "key, all "
+        "of it\n");
+  // The state is that of a run that has read the application data folder.
+  CHECK(shown("Classes") ==
+        "?Removes the key HKEY_CURRENT_USER\\K with its values and subkeys "
+        "(no hive has this name, and the one of the entry before counts)\n");
 }
 
 TEST_CASE("the application data folder is read anew for each run; a folder that cannot be read is the root") {

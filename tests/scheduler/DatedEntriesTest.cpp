@@ -152,18 +152,32 @@ TEST_CASE("a date or time that cannot be read is told, gets the focus and change
   }
 }
 
-TEST_CASE("what the facility refuses ends the operation in silence") {
+TEST_CASE("what the facility refuses ends the operation; only the start is silent about it") {
   Tab tab;
   tab.add("9/15/2001", "1:00");
-  for (const char* text : {"task = ZUB\n", "damaged\n"}) {  // the entry has gone meanwhile, or all have
-    CAPTURE(text);
-    tab.tasks(text);
-    tab.dated.cmdAdvancedScheduler_Click();
-    tab.remove(tab.dated.lstSchedule.ListCount() - 1);
-    CHECK(tab.tasks() == text);
+  const auto refusal = [](const auto& operation) -> std::string {
+    try {
+      operation();
+    } catch (const RuntimeError& error) {
+      return error.description();
+    }
+    return "";
+  };
+  struct {
+    const char* text;  // the entry has gone meanwhile, or all have
+    const char* refusal;
+  } const rows[] = {{"task = ZUB\n", "The task scheduler refuses: Invalid procedure call or argument"},
+                    {"damaged\n", "The task scheduler refuses: Automation error"}};
+  for (const auto& row : rows) {
+    CAPTURE(row.text);
+    tab.tasks(row.text);
+    CHECK(refusal([&] { tab.dated.cmdAdvancedScheduler_Click(); }) ==
+          "The task scheduler refuses: Automation error");
+    CHECK(refusal([&] { tab.remove(tab.dated.lstSchedule.ListCount() - 1); }) == row.refusal);
+    CHECK(tab.tasks() == row.text);
   }
-  tab.dated.InitSchedulerTab();
-  tab.add("9/15/2001", "1:00");
+  CHECK(refusal([&] { tab.add("9/15/2001", "1:00"); }) == rows[1].refusal);
+  CHECK(refusal([&] { tab.dated.InitSchedulerTab(); }).empty());
   CHECK(tab.tasks() == "damaged\n");
   CHECK(tab.pc.messages.empty());
 }

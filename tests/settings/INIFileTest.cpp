@@ -19,13 +19,16 @@ const std::string On = padded("1", 2);
 const std::string Off = padded("0", 2);
 
 struct Settings {
+  explicit Settings(const std::string& family = "nt") : pc({"family = " + family}) {}
+
   TestPc pc;
   Options options;
 
   int put() { return INIFile(pc.platform(), options).PutInfo(); }
   int get() { return INIFile(pc.platform(), options).GetInfo(); }
   int get2() { return INIFile(pc.platform(), options).GetInfo2(); }
-  void store(std::string_view name, const std::string& data) { pc.value(Store, name, 1, data); }
+  // With another type than text, as which the bytes would not be kept as they stand.
+  void store(std::string_view name, const std::string& data) { pc.value(Store, name, 3, data); }
   std::string stored(std::string_view name) { return pc.data(Store, name).value_or("none"); }
 };
 
@@ -80,30 +83,38 @@ TEST_CASE("every option is kept under its own name and comes back from it") {
   }
 }
 
-TEST_CASE("texts, digits and plugin rows are written byte for byte") {
-  Settings pc;
-  pc.options.lblLastRemoval.Caption = "  padded ";
-  pc.options.cmbShredder.ListIndex(8);
-  pc.options.ComboInterval.type("every now and then");
-  for (const char* row : {" Custom one ", "   ", "Custom two"}) pc.options.lstFiles.AddItem(row);
-  pc.options.lstFiles.selectAll(true);
-  pc.options.lstFiles.Selected(2, false);
-  for (const char* row : {"Adobe Photoshop 6.x", ""}) pc.options.standardlist.AddItem(row);
-  pc.options.standardlist.selectAll(true);
-  CHECK(pc.put() == 0);
-  struct {
-    const char* name;
-    std::string bytes;
-  } const rows[] = {{"ZUBPath", "C:\\Program Files\\Zubrane"},
-                    {"lblLastRemoval", padded("padded", 9)},
-                    {"cmbShredder", padded("8", 2)},
-                    {"ComboInterval", "-1"},
-                    {"ZUBPlugin  Custom one ", On},
-                    {"ZUBPlugin Custom two", Off},
-                    {"ZUBStandardPlugin Adobe Photoshop 6.x", On}};
-  for (const auto& [name, bytes] : rows) CHECK(pc.stored(name) == bytes);
-  CHECK(pc.pc.valueNames(Store).size() == icons.size() + flags.size() + std::size(rows));
-  CHECK(contains(pc.pc.snapshot(), "\"chkBleach\" = 1:0%00"));  // of the text type
+TEST_CASE("texts, digits and plugin rows are written byte for byte and read back") {
+  for (const std::string family : {"9x", "nt"}) {
+    CAPTURE(family);
+    Settings pc(family);
+    pc.options.lblLastRemoval.Caption = "  padded ";
+    pc.options.cmbShredder.ListIndex(8);
+    pc.options.ComboInterval.type("every now and then");
+    for (const char* row : {" Custom one ", "   ", "Custom two"}) pc.options.lstFiles.AddItem(row);
+    pc.options.lstFiles.selectAll(true);
+    pc.options.lstFiles.Selected(2, false);
+    for (const char* row : {"Adobe Photoshop 6.x", ""}) pc.options.standardlist.AddItem(row);
+    pc.options.standardlist.selectAll(true);
+    CHECK(pc.put() == 0);
+    // The system stores the NUL behind a text, too, and on the 9x family nothing behind the first one.
+    struct {
+      const char* name;
+      std::string bytes;
+    } const rows[] = {{"ZUBPath", padded("C:\\Program Files\\Zubrane", 25)},
+                      {"lblLastRemoval", padded("padded", family == "nt" ? 9 : 7)},
+                      {"cmbShredder", padded("8", 2)},
+                      {"ComboInterval", padded("-1", 3)},
+                      {"ZUBPlugin  Custom one ", On},
+                      {"ZUBPlugin Custom two", Off},
+                      {"ZUBStandardPlugin Adobe Photoshop 6.x", On}};
+    for (const auto& [name, bytes] : rows) CHECK(pc.stored(name) == bytes);
+    CHECK(pc.pc.valueNames(Store).size() == icons.size() + flags.size() + std::size(rows));
+    CHECK(contains(pc.pc.snapshot(), "\"chkBleach\" = 1:0%00"));  // of the text type
+    CHECK(pc.get() == 0);
+    CHECK(pc.options.lblLastRemoval.Caption == "padded");
+    CHECK(pc.options.cmbShredder.ListIndex() == 8);
+    CHECK(pc.options.ComboInterval.ListIndex() == 0);
+  }
 }
 
 TEST_CASE("a stored value is read by its kind, and one that has no room is repaired") {

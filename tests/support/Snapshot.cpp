@@ -17,7 +17,7 @@ void addFolder(Lines& lines, HostDir& folder, const std::string& path) {
   if (folder.list(listing) != HostError::None) return;
   HostEntry entry;
   while (listing->next(entry)) {
-    const std::string entryPath = path + "\\" + ansiFromUtf8(entry.name);
+    const std::string entryPath = path + "\\" + toldNameFromUtf8(entry.name);
     if (entry.stat.kind == HostKind::Folder) {
       lines.push_back("folder " + entryPath);
       std::unique_ptr<HostDir> below;

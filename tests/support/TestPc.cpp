@@ -43,11 +43,13 @@ class TestPc::Impl {
   Impl(TestPc& owner, const std::vector<std::string>& facts)
       : pc(preparePc(temp, facts)),
         disk(pc.root(), pc.facts()),
-        files(pc.files, fileFaults),
-        registry(pc.registry, keyFaults),
-        desk(owner),
-        platform{pc.codePage, registry, files, pc.drives, pc.folders, pc.restart, desk,
-                 desk,        desk,     desk,  desk,      desk,       pc.tasks} {
+        log(owner),
+        files(pc.files, fileFaults, log),
+        registry(pc.registry, keyFaults, log),
+        drives(pc.drives, log),
+        desk(owner, log),
+        platform{pc.codePage, registry, files, drives, pc.folders, pc.restart, desk,
+                 desk,        desk,     desk,  desk,   desk,       pc.tasks} {
     for (const auto& [letter, kind] : pc.facts().drives) pc.root().makeDir({letter});
     for (const FolderPath* path :
          {&pc.facts().windows, &pc.facts().temp, &pc.facts().program, &pc.facts().current}) {
@@ -95,8 +97,10 @@ class TestPc::Impl {
   FolderDisk disk;
   FileFaults fileFaults;
   KeyFaults keyFaults;
+  CallLog log;
   TestFiles files;
   TestRegistry registry;
+  TestDrives drives;
   TestDesk desk;
   Platform platform;
 };
@@ -129,6 +133,10 @@ void TestPc::readOnly(std::string_view path) {
   require(place->parent->setReadOnly(place->name, true), parsed(path));
   impl_->pc.files.forget();
   impl_->disk.forget();
+}
+
+void TestPc::hide(std::string_view path) {
+  impl_->pc.facts().hidden.insert(parsed(path).key());
 }
 
 void TestPc::key(std::string_view path) {

@@ -33,6 +33,7 @@ class TestPc {
   void file(std::string_view path, std::string_view bytes = "x");
   void folder(std::string_view path);
   void readOnly(std::string_view path);
+  void hide(std::string_view path);
   void key(std::string_view path);
   void value(std::string_view key, std::string_view name, std::string_view text);
   void value(std::string_view key, std::string_view name, std::uint32_t type, std::string_view data);
@@ -68,9 +69,24 @@ class TestPc {
   std::function<void(int turn)> onDoEvents;
   int turns = 0;
 
+  // Hears each call to the PC before it is made, in words such as "remove C:\\a.tmp". What only computes (texts of
+  // dates, upper case) and the steady clock are not told.
+  std::function<void(const std::string& call)> onCall;
+
   // Faults: the call fails as told instead of doing its work, until `clearFaults`. Paths are compared without
   // case.
-  enum class Call { ResetAttributes, OpenedLength, Open, Read, Write, Remove, CreateFolder, DeleteFolder };
+  enum class Call {
+    Find,
+    ResetAttributes,
+    OpenedLength,
+    Open,
+    Read,
+    Write,
+    Remove,
+    Replace,
+    CreateFolder,
+    DeleteFolder
+  };
   void failFile(Call call, std::string_view path, ErrorNumber number);
   enum class KeyCall { Open, Create, EnumKey, EnumValue, Query, Set, DeleteValue, DeleteKey };
   // `path` with its hive, as opened; for the value calls the key's path.

@@ -36,14 +36,16 @@ TEST_CASE("the about box tells title and version when it is loaded") {
 TEST_CASE("the information tool is looked for in two places") {
   const std::string tool = "C:\\Tools\\MSINFO32.EXE";
   struct {
-    bool isInFirst, toolExists;
+    const char* first;
+    bool toolExists;
     std::vector<std::string> started;
-  } const rows[] = {{true, true, {"D:\\nowhere\\info.exe"}},  // used as it stands
-                    {false, true, {tool}},
-                    {false, false, {}}};
+  } const rows[] = {{"D:\\nowhere\\info.exe", true, {"D:\\nowhere\\info.exe"}},  // used as it stands
+                    {"", true, {tool}},
+                    {nullptr, true, {tool}},
+                    {nullptr, false, {}}};
   for (const auto& row : rows) {
     AboutBox box;
-    if (row.isInFirst) box.pc.value(First, "PATH", "D:\\nowhere\\info.exe");
+    if (row.first != nullptr) box.pc.value(First, "PATH", row.first);
     box.pc.value(Second, "MSINFO", "C:\\Tools");
     if (row.toolExists) box.pc.file(tool);
     box.about.form.Show();

@@ -1,30 +1,24 @@
 #include <doctest/doctest.h>
 
-#include <algorithm>
 #include <map>
 #include <string>
 
-#include "app/Program.h"
-#include "support/TestPc.h"
 #include "ui/TextWidth.h"
-#include "ui/layout/WindowSpec.h"
+#include "ui/Windows.h"
 
 using namespace zub;
 using namespace zub::layout;
 
 namespace {
 
-const WindowSpec* const windows[] = {&mainWindow,     &progressWindow,       &reportWindow, &editorWindow,
-                                     &ieCookieWindow, &netscapeCookieWindow, &aboutWindow,  &messageWindow};
-
 bool overlap(const Place& a, const Place& b) {
   return a.left < b.right() && b.left < a.right() && a.top < b.bottom() && b.top < a.bottom();
 }
 
-// Two that may lie in one place: pages, the groups of which one shows, and the drawn message box, whose icons
-// take turns on its background.
-bool mayOverlap(const WindowSpec& window, const ControlSpec& a, const ControlSpec& b) {
-  return a.kind == Kind::Page || (a.name == "grpIE" && b.name == "grpNS") || &window == &messageWindow;
+// Two that may lie in one place: pages, the groups of which one shows, and the icons of the drawn message box.
+bool mayOverlap(const ControlSpec& a, const ControlSpec& b) {
+  return a.kind == Kind::Page || (a.name == "grpIE" && b.name == "grpNS") ||
+         (a.name.starts_with("img") && b.name.starts_with("img"));
 }
 
 // The room that a control gives its caption, twips; 0 for one that shows none.
@@ -43,75 +37,76 @@ int roomForCaption(const ControlSpec& control) {
   }
 }
 
-char accessKeyOf(std::string_view caption) {
+char accessKeyOf(const ControlSpec& control) {
+  const std::string_view caption = captionOf(control);
   const std::size_t mark = caption.find('&');
-  if (mark == std::string_view::npos || mark + 1 == caption.size()) return '\0';
-  return caption[mark + 1] != ' ' ? caption[mark + 1] : '\0';
-}
-
-std::string_view pageOf(const WindowSpec& window, const ControlSpec& control) {
-  const ControlSpec* at = &control;
-  while (at != nullptr && at->kind != Kind::Page) at = find(window, at->parent);
-  return at != nullptr ? at->name : "";
+  if (control.kind == Kind::Page || mark == std::string_view::npos || mark + 1 == caption.size()) return '\0';
+  return caption[mark + 1] != ' ' ? static_cast<char>(std::tolower(caption[mark + 1])) : '\0';
 }
 
 template <class Check>
-void forEachControl(Check check) {
-  for (const WindowSpec* window : windows) {
-    for (const ControlSpec& control : window->controls) {
-      CAPTURE(window->title);
+void forEachControl(const Windows& windows, Check check) {
+  for (const WindowSpec& window : windows.all) {
+    walk(window.controls, [&](const ControlSpec& control, const ControlSpec* holder, std::string_view page) {
+      CAPTURE(window.face.title);
       CAPTURE(control.name);
-      check(*window, control);
-    }
+      check(window, control, holder, page);
+    });
   }
 }
 
-// All pairs of controls, in the order of the window.
+// All pairs of controls that one thing holds, in the order of the window.
 template <class Check>
-void forEachPair(Check check) {
-  forEachControl([&check](const WindowSpec& window, const ControlSpec& control) {
-    for (const ControlSpec* other = &control + 1; other != window.controls.data() + window.controls.size();
-         ++other) {
-      CAPTURE(other->name);
-      check(window, control, *other);
+void forEachPair(const Windows& windows, Check check) {
+  const auto pairsOf = [&](const Controls& controls) {
+    for (std::size_t a = 0; a < controls.size(); ++a) {
+      for (std::size_t b = a + 1; b < controls.size(); ++b) {
+        CAPTURE(controls[a].name);
+        CAPTURE(controls[b].name);
+        check(controls[a], controls[b]);
+      }
     }
-  });
+  };
+  for (const WindowSpec& window : windows.all) pairsOf(window.controls);
+  forEachControl(
+      windows, [&](const auto&, const ControlSpec& control, const auto*, auto) { pairsOf(control.inside); });
 }
 
 }  // namespace
 
 TEST_CASE("controls lie inside what holds them, and beside each other") {
-  forEachControl([](const WindowSpec& window, const ControlSpec& control) {
-    const ControlSpec* parent = find(window, control.parent);
-    CHECK((parent != nullptr) == !control.parent.empty());
-    CHECK((parent == nullptr || parent < &control));  // a window is made in this order
-    const Place room = parent != nullptr ? Place{0, 0, parent->place.width, parent->place.height}
-                                         : Place{0, 0, window.width, window.height};
-    const Place& place = control.place;
-    CHECK(std::min(place.width, place.height) > 0);
-    CHECK(std::min(place.left, place.top) >= 0);
-    CHECK(place.right() <= room.width);
-    CHECK(place.bottom() <= room.height);
-  });
-  forEachPair([](const WindowSpec& window, const ControlSpec& a, const ControlSpec& b) {
-    CHECK(a.name != b.name);
-    if (a.parent == b.parent && !mayOverlap(window, a, b)) CHECK_FALSE(overlap(a.place, b.place));
+  const Windows windows;
+  forEachControl(windows,
+                 [](const WindowSpec& window, const ControlSpec& control, const ControlSpec* holder, auto) {
+                   const int width = holder != nullptr ? holder->place.width : window.face.width;
+                   const int height = holder != nullptr ? holder->place.height : window.face.height;
+                   const Place& place = control.place;
+                   CHECK(std::min(place.width, place.height) > 0);
+                   CHECK(std::min(place.left, place.top) >= 0);
+                   CHECK(place.right() <= width);
+                   CHECK(place.bottom() <= height);
+                 });
+  forEachPair(windows, [](const ControlSpec& a, const ControlSpec& b) {
+    if (!mayOverlap(a, b)) CHECK_FALSE(overlap(a.place, b.place));
   });
 }
 
 TEST_CASE("no caption is cut off") {
-  forEachControl([](const WindowSpec&, const ControlSpec& control) {
+  const Windows windows;
+  forEachControl(windows, [](const auto&, const ControlSpec& control, const auto*, auto) {
     const TextFont font = fontOf(control.text);
-    if (const int room = roomForCaption(control); room != 0) CHECK(textWidth(control.caption, font) <= room);
-    if (control.kind != Kind::Label || control.caption.empty()) return;
-    CHECK(linesOf(control.caption, control.place.width, font) * lineHeight(font) <=
+    const std::string_view caption = captionOf(control);
+    if (const int room = roomForCaption(control); room != 0) CHECK(textWidth(caption, font) <= room);
+    if (control.kind != Kind::Label || caption.empty()) return;
+    CHECK(linesOf(caption, control.place.width, font) * lineHeight(font) <=
           control.place.height + TwipsPerPixel);
   });
 }
 
 TEST_CASE("each help label holds the longest text that it may show") {
-  const auto holds = [](std::string_view label, std::string_view text) {
-    const ControlSpec& control = *find(mainWindow, label);
+  Windows windows;
+  const auto holds = [&windows](std::string_view label, std::string_view text) {
+    const ControlSpec& control = find(windows.all[0], label);
     const TextFont font = fontOf(control.text);
     CAPTURE(text);
     CHECK(linesOf(text, control.place.width, font) * lineHeight(font) <= control.place.height);
@@ -124,8 +119,7 @@ TEST_CASE("each help label holds the longest text that it may show") {
     holds("lblHelp", helpOfPickedRow(row));
     holds("lblHelp", helpOfCheckedRow(row));
   }
-  TestPc pc;
-  Program program(pc.platform());
+  Program& program = windows.program;
   program.start();
   for (int row = 0; row < program.options.standardlist.ListCount(); ++row) {
     program.options.standardlist.ListIndex(row);
@@ -134,35 +128,28 @@ TEST_CASE("each help label holds the longest text that it may show") {
 }
 
 TEST_CASE("an access key stands once among the controls that are seen together") {
-  forEachPair([](const WindowSpec& window, const ControlSpec& a, const ControlSpec& b) {
-    const char key = accessKeyOf(a.caption);
-    const std::string_view here = pageOf(window, a), there = pageOf(window, b);
-    const bool together = here.empty() || there.empty() || here == there;
-    if (key == '\0' || !together || a.kind == Kind::Page || b.kind == Kind::Page) return;
-    CHECK(std::tolower(key) != std::tolower(accessKeyOf(b.caption)));
-  });
+  const Windows windows;
+  for (const WindowSpec& window : windows.all) {
+    CAPTURE(window.face.title);
+    std::map<std::string_view, std::string>
+        keys;  // by page; those beside the pages are seen with all of them
+    walk(window.controls, [&](const ControlSpec& control, const auto*, std::string_view page) {
+      if (const char key = accessKeyOf(control); key != '\0') keys[page] += key;
+    });
+    for (const auto& [page, own] : keys) {
+      CAPTURE(page);
+      std::string together = page.empty() ? own : own + keys[""];
+      std::ranges::sort(together);
+      CHECK(std::ranges::adjacent_find(together) == together.end());
+    }
+  }
 }
 
 TEST_CASE("the Tab key goes through a group's controls from the top down, and from the left") {
-  forEachPair([](const WindowSpec&, const ControlSpec& a, const ControlSpec& b) {
-    if (a.parent != b.parent || a.kind != b.kind) return;
-    if (a.kind != Kind::Check && a.kind != Kind::Button) return;
+  const Windows windows;
+  forEachPair(windows, [](const ControlSpec& a, const ControlSpec& b) {
+    if (a.kind != b.kind || (a.kind != Kind::Check && a.kind != Kind::Button)) return;
     CHECK(b.place.top >= a.place.top);
     CHECK((b.place.top >= a.place.bottom() || b.place.left > a.place.left));
   });
-}
-
-TEST_CASE("the main window's tabs stand in their order") {
-  std::string tabs;
-  for (const ControlSpec& control : mainWindow.controls) {
-    if (control.kind == Kind::Page) (tabs += control.caption) += '|';
-  }
-  CHECK(tabs == "Main|Custom Plugins|Options|Scheduler| Standard Plugins|");
-}
-
-TEST_CASE("the colour under a control is that of its page, or of the window") {
-  CHECK(groundOf(mainWindow, *find(mainWindow, "chkIECache")) == colors::Page);
-  CHECK(groundOf(mainWindow, *find(mainWindow, "cmdRemove")) == colors::Window);
-  CHECK(groundOf(progressWindow, *find(progressWindow, "lblCurrent")) == colors::ProgressWindow);
-  CHECK(groundOf(ieCookieWindow, *find(ieCookieWindow, "chkSelectAll")) == colors::Window);
 }

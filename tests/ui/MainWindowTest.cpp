@@ -179,6 +179,17 @@ TEST_CASE("Select All ticks and unticks every row of its list, and does not foll
   }
 }
 
+TEST_CASE("all standard plugins at once come with a warning") {
+  MainWindow window;
+  Label& description = window.main.lblStandardPluginDescription;
+  window.main.StandardPluginsSelectAll.Value(1);
+  CHECK(description.Caption.starts_with("All plugins are selected. Some remove more than lists"));
+  description.Caption = "It cleans b.";
+  window.main.StandardPluginsSelectAll.Value(0);
+  window.main.chkSelectAll.Value(1);
+  CHECK(description.Caption == "It cleans b.");
+}
+
 TEST_CASE("a minimised window goes to the tray, one that is only resized stays") {
   MainWindow window;
   window.main.form.Show();

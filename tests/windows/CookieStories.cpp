@@ -1,4 +1,6 @@
 // A cookie of each browser that a person keeps.
+#include <fstream>
+
 #include "cleaners/BrowserFiles.h"
 #include "windows/IconList.h"
 #include "windows/Story.h"
@@ -16,6 +18,8 @@ TEST_CASE("a cookie of Internet Explorer that is kept outlives the wash") {
   pc::put(gone, "id\n4711\nads.example/\n");
   pc::put(folder / "index.dat", indexFile({cookieRecord("ann", "shop.example/", kept.filename().string()),
                                            cookieRecord("ann", "ads.example/", gone.filename().string())}));
+  const std::fstream held(folder / "index.dat");  // as the shell has it all the session
+  REQUIRE(held.is_open());
   const Zub zub;
   zub.main().child("Manage").click();
   const Window keep = zub.window(title::IECookies);

@@ -7,6 +7,13 @@ namespace {
 
 constexpr UINT AnswerTime = 20000;  // milliseconds
 
+// Places are told in the screen's own pixels, whatever the scale of the program that is driven.
+const BOOL countsTruePixels = [] {
+  using Call = BOOL(WINAPI*)();
+  return reinterpret_cast<Call>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("user32"), "SetProcessDPIAware")))();
+}();
+
 BOOL CALLBACK addVisible(HWND child, LPARAM list) {
   if (IsWindowVisible(child) != 0) reinterpret_cast<std::vector<Window>*>(list)->emplace_back(child);
   return TRUE;
@@ -167,10 +174,17 @@ void Window::click() const {
   clickAt(static_cast<int>(all.right - all.left) / 2 - apart(), static_cast<int>(all.bottom - all.top) / 2);
 }
 
+int scaled(int pixels) {
+  const HDC screen = GetDC(nullptr);
+  const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
+  ReleaseDC(nullptr, screen);
+  return MulDiv(pixels, dpi, 96);
+}
+
 void Window::tick() const {
-  constexpr int BoxEnd = 16;
+  const int boxEnd = scaled(16);
   const RECT all = place();
-  clickAt(BoxEnd - apart(), static_cast<int>(all.bottom - all.top) / 2);
+  clickAt(boxEnd - apart(), static_cast<int>(all.bottom - all.top) / 2);
 }
 
 std::vector<Window> windowsOf(DWORD process) {

@@ -60,6 +60,9 @@ class Window {
   HWND handle_;
 };
 
+// From pixels of 96 an inch to those of this screen.
+int scaled(int pixels);
+
 // The windows on the desktop that can be seen, of one process or (0) of all.
 std::vector<Window> windowsOf(DWORD process);
 // The control that has the keyboard.
@@ -88,6 +91,7 @@ int count(const Window& list);
 std::string text(const Window& list, int row);
 int find(const Window& list, std::string_view text);  // waits for the row
 bool isChecked(const Window& list, int row);
+bool isHighlighted(const Window& list, int row);  // waits for it
 void click(const Window& list, int row);
 void clickCheck(const Window& list, int row);
 

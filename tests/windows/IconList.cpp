@@ -18,12 +18,12 @@ IconList::Place IconList::boxOf(int row) const {
 
 void IconList::clickBox(int row) const {
   const Place box = boxOf(row);
-  list_.clickAt(box.x, box.y);
+  list_.clickAt(scaled(box.x), scaled(box.y));
 }
 
 void IconList::clickPicture(int row) const {
   const Place box = boxOf(row);
-  list_.clickAt(box.x + ToThePicture, box.y + IntoThePicture);
+  list_.clickAt(scaled(box.x + ToThePicture), scaled(box.y + IntoThePicture));
 }
 
 // Each movement over the arrow is one step; steps that find the end do nothing.

@@ -102,4 +102,14 @@ std::string storedOption(const std::string& name) {
   return value(Store, name).value_or("");
 }
 
+std::size_t seedLongWork() {
+  constexpr std::size_t Files = 60;
+  const std::string bytes(256 * 1024, 'x');
+  for (std::size_t file = 0; file < Files; ++file) put(temp() / ("long" + std::to_string(file)), bytes);
+  option("chkTempFolder");
+  option("chkBleach");
+  option("cmbShredder", "8");
+  return Files;
+}
+
 }  // namespace zub::drive::pc

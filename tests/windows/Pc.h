@@ -24,6 +24,9 @@ bool exists(const fs::path& path);
 std::size_t filesIn(const fs::path& folder);
 // Without a failure where there is nothing.
 void remove(const fs::path& path);
+// Enough work for a wash that a person can do something in its midst: files in the temporary folder that are shredded
+// again and again. Returns their count.
+std::size_t seedLongWork();
 
 // Keys are told below HKEY_CURRENT_USER.
 void putValue(const std::string& key, const std::string& name, std::string_view text);

@@ -144,16 +144,15 @@ void takeWash(const Zub& zub) {
   finish(zub);
 }
 
-void takeTray() {
+void takeTray(const Zub& zub) {
   const RECT taskbar = Window(FindWindowA("Shell_TrayWnd", nullptr)).place();
-  constexpr int ToTheIcon = 11, Width = 240, Height = 130;
-  movePointer(static_cast<int>(taskbar.right) - ToTheIcon,
-              static_cast<int>(taskbar.top + taskbar.bottom) / 2);
-  pressButton(true);
-  releaseButton(true);
+  const int toTheIcon = scaled(11), width = scaled(240), height = scaled(130);
+  // Over the icon itself its tooltip would come and lie over the menu.
+  movePointer(static_cast<int>(taskbar.right) - toTheIcon, static_cast<int>(taskbar.top) - 1);
+  zub.trayMessage(WM_RBUTTONDOWN);
   REQUIRE(soon([] { return FindWindowA("#32768", nullptr) != nullptr; }));
   movePointer(1, 1);
-  takeArea("tray", {taskbar.right - Width, taskbar.bottom - Height, taskbar.right, taskbar.bottom});
+  takeArea("tray", {taskbar.right - width, taskbar.bottom - height, taskbar.right, taskbar.bottom});
   key(VK_ESCAPE);
 }
 
@@ -181,5 +180,5 @@ TEST_CASE("pictures" * doctest::skip()) {
   key(VK_ESCAPE);
   REQUIRE(zub.hides(title::About));
   takeWash(zub);
-  takeTray();
+  takeTray(zub);
 }

@@ -90,6 +90,25 @@ TEST_CASE("a plugin is made, edited, run and removed") {
   pc::removeKey(App);
 }
 
+TEST_CASE("the highlighted row is the current one, also where its box was clicked") {
+  const Story story;
+  const Zub zub;
+  const Window main = zub.main();
+  const Window list = pluginList(main);
+  const int album = rows::find(list, "Home Photo Album"), logs = rows::find(list, "Modem and Fax Logs");
+  rows::click(list, logs);
+  rows::clickCheck(list, album);
+  CHECK(rows::isHighlighted(list, album));
+  list.clickAt(120, 250);  // below the rows
+  CHECK(rows::isHighlighted(list, album));
+  main.child("Edit Plugin").click();
+  CHECK(zub.window(title::Editor).child("EDIT", 0).comesToSay("Home Photo Album"));
+  zub.window(title::Editor).child("&Cancel").click();
+  main.child("Remove").click();
+  CHECK(soon([&] { return rows::count(list) == 2; }));
+  CHECK(rows::find(list, "Modem and Fax Logs") >= 0);
+}
+
 TEST_CASE("an entry without a path is refused with a message, and the path box gets the keyboard") {
   const Story story;
   const Zub zub;
@@ -103,6 +122,8 @@ TEST_CASE("an entry without a path is refused with a message, and the path box g
   CHECK(soon([&] { return zub.main().isEnabled(); }));
   CHECK(soon([&] { return focus() == editor.child("EDIT", 1); }));
   REQUIRE(editor.comesToFront());
+  key(VK_ESCAPE);  // would drop what was entered
+  CHECK(zub.shows(title::Editor));
   chord({VK_MENU, 'C'});
   CHECK(zub.hides(title::Editor));
 }
@@ -156,6 +177,9 @@ TEST_CASE("the system's folder picker fills the path box") {
   editor.child("Browse").click();
   const Window picker = zub.dialog("Browse for Folder");
   CHECK(picker.hasChild("Find the Folder"));
+  CHECK_FALSE(editor.isEnabled());
+  editor.send(WM_CLOSE);
+  CHECK(zub.shows(title::Editor));
   picker.child("SysTreeView32", 0).click();
   key(VK_HOME);
   type("m");  // My Computer

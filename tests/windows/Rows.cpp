@@ -125,6 +125,10 @@ bool isChecked(const Window& list, int row) {
   return state == INDEXTOSTATEIMAGEMASK(2);
 }
 
+bool isHighlighted(const Window& list, int row) {
+  return soon([&] { return list.send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0; }, 5);
+}
+
 void click(const Window& list, int row) {
   const RECT place = placeOf(list, row, LVIR_LABEL);
   constexpr int FromTheLeft = 30;

@@ -1,11 +1,32 @@
 #include "windows/Screen.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "windows/Pc.h"
 
 namespace zub::drive {
+
+int contrastIn(const RECT& part) {
+  const HDC screen = GetDC(nullptr);
+  const auto pixel = [&](LONG x, LONG y) {
+    return GetPixel(screen, static_cast<int>(x), static_cast<int>(y));
+  };
+  const COLORREF corner = pixel(part.left, part.top);
+  int most = 0;
+  for (LONG y = part.top; y < part.bottom; ++y) {
+    for (LONG x = part.left; x < part.right; ++x) {
+      const COLORREF here = pixel(x, y);
+      most = std::max(most, std::abs(GetRValue(here) - GetRValue(corner)) +
+                                std::abs(GetGValue(here) - GetGValue(corner)) +
+                                std::abs(GetBValue(here) - GetBValue(corner)));
+    }
+  }
+  ReleaseDC(nullptr, screen);
+  return most;
+}
 
 void savePicture(const std::filesystem::path& file, const RECT& part) {
   const LONG width = part.right - part.left, height = part.bottom - part.top;

@@ -4,12 +4,11 @@
 
 using namespace zub::drive;
 
-TEST_CASE("the first start shows the main window in the middle of the screen's free part") {
+TEST_CASE("the first start shows the main window in the middle of the screen") {
   const Story story;
   const Zub zub;
   const Window main = zub.main();
-  RECT room{};
-  SystemParametersInfoA(SPI_GETWORKAREA, 0, &room, 0);
+  const RECT room{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
   const RECT place = main.place();
   CHECK(std::abs((place.left - room.left) - (room.right - place.right)) <= 1);
   CHECK(std::abs((place.top - room.top) - (room.bottom - place.bottom)) <= 1);
@@ -77,6 +76,20 @@ TEST_CASE("a second instance ends by itself, and the first one stays as it is") 
   CHECK(first.main() == main);
 }
 
+TEST_CASE("an instance with other rights is seen by what it denies") {
+  const Story story;
+  ACL nobody;
+  SECURITY_DESCRIPTOR descriptor;
+  REQUIRE(InitializeAcl(&nobody, sizeof nobody, ACL_REVISION) != 0);
+  REQUIRE(InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION) != 0);
+  REQUIRE(SetSecurityDescriptorDacl(&descriptor, TRUE, &nobody, FALSE) != 0);
+  SECURITY_ATTRIBUTES denied{sizeof denied, &descriptor, FALSE};
+  const HANDLE other = CreateMutexA(&denied, FALSE, "Zubrane runs");
+  REQUIRE(other != nullptr);
+  CHECK(Zub().ends());
+  CloseHandle(other);
+}
+
 TEST_CASE("started with Windows, the program waits in the tray with its lists filled") {
   const Story story;
   const Zub zub("/STARTUP");
@@ -115,4 +128,13 @@ TEST_CASE("started by the task scheduler, the program washes without its main wi
   finish(zub);
   CHECK(zub.runs());
   CHECK_FALSE(zub.shows(title::Main));
+}
+
+TEST_CASE("asked for its switches, the program tells them and ends") {
+  const Story story;
+  const Zub zub("/?");
+  const std::string told = answer(zub, title::Main);
+  for (const char* name : {"/STARTUP", "/SCHEDULER"}) CHECK(told.find(name) != std::string::npos);
+  CHECK(zub.ends());
+  CHECK_FALSE(pc::hasKey(pc::Store));  // nothing was begun
 }

@@ -22,9 +22,56 @@ void install() {
   const pc::fs::path source = setting("ZUB_SOURCE");
   pc::remove(pc::programs());
   pc::fs::create_directories(pc::programs());
-  for (const char* program : {"zub.exe", "zub-console.exe"})
+  for (const char* program : {"zub.exe", "zub-console.exe", "show_message_box.exe"})
     pc::fs::copy(pc::fs::path(setting("ZUB_PROGRAMS")) / program, pc::programs() / program);
   pc::fs::copy(source / "help", pc::programs() / "help", pc::fs::copy_options::recursive);
+}
+
+// Wine does not answer how many there are. The system keeps one record for each in a table that the process can
+// read, and so can this one.
+int graphicHandlesOf(HANDLE process) {
+  using Query = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
+  constexpr int BasicInformation = 0, BlockWord = 1;
+  constexpr std::size_t TableOfBlock = sizeof(void*) == 8 ? 0xF8 : 0x94;
+  constexpr std::size_t Records = 0x4000, RecordSize = 24, KindOfRecord = 14;
+  const auto query = reinterpret_cast<Query>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("ntdll"), "NtQueryInformationProcess")));
+  char* information[6] = {};
+  REQUIRE(query(process, BasicInformation, static_cast<void*>(information), sizeof information, nullptr) ==
+          0);
+  char* table = nullptr;
+  std::string records(Records * RecordSize, '\0');
+  REQUIRE(ReadProcessMemory(process, information[BlockWord] + TableOfBlock, static_cast<void*>(&table),
+                            sizeof table, nullptr) != 0);
+  REQUIRE(ReadProcessMemory(process, table, records.data(), records.size(), nullptr) != 0);
+  int used = 0;
+  for (std::size_t record = 0; record < Records; ++record)
+    used += records[record * RecordSize + KindOfRecord] != 0 ? 1 : 0;
+  return used;
+}
+
+struct Count {
+  DWORD process;
+  int windows = 0;
+};
+
+BOOL CALLBACK countChild(HWND, LPARAM count) {
+  ++reinterpret_cast<Count*>(count)->windows;
+  return TRUE;
+}
+
+BOOL CALLBACK countOfProcess(HWND window, LPARAM count) {
+  DWORD owner = 0;
+  GetWindowThreadProcessId(window, &owner);
+  if (owner != reinterpret_cast<Count*>(count)->process) return TRUE;
+  EnumChildWindows(window, countChild, count);
+  return countChild(window, count);
+}
+
+int windowsIn(DWORD process) {
+  Count count{process};
+  EnumWindows(countOfProcess, reinterpret_cast<LPARAM>(&count));
+  return count.windows;
 }
 
 }  // namespace
@@ -42,11 +89,11 @@ Story::Story() {
   movePointer(1, 1);
 }
 
-Zub::Zub(const std::string& switches) {
+Zub::Zub(const std::string& switches, const std::string& program) {
   STARTUPINFOA startup{};
   startup.cb = sizeof startup;
   const std::string folder = pc::programs().string();
-  std::string command = "\"" + folder + "\\zub.exe\" " + switches;
+  std::string command = "\"" + folder + "\\" + program + "\" " + switches;
   REQUIRE(CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
                          &startup, &process_) != 0);
   AllowSetForegroundWindow(process_.dwProcessId);
@@ -106,6 +153,18 @@ Window Zub::trayWindow() const {
 
 void Zub::trayMessage(UINT mouseMessage) const {
   PostMessageA(trayWindow().handle(), WM_MOUSEMOVE, 0, static_cast<LPARAM>(mouseMessage));
+}
+
+void Zub::trayEntry(char letter) const {
+  trayMessage(WM_RBUTTONDOWN);
+  REQUIRE(soon([] { return Window(FindWindowA("#32768", nullptr)).isVisible(); }));
+  key(letter);
+}
+
+Zub::Handles Zub::handles() const {
+  main().settle();
+  const auto counted = static_cast<int>(GetGuiResources(process_.hProcess, GR_GDIOBJECTS));
+  return {counted != 0 ? counted : graphicHandlesOf(process_.hProcess), windowsIn(process_.dwProcessId)};
 }
 
 bool Zub::ends(int seconds) const {

@@ -17,10 +17,10 @@ inline constexpr std::string_view NSCookies = "Netscape Cookie Manger";
 inline constexpr std::string_view About = "About ZUB";
 }  // namespace title
 
-// One start of zub.exe.
+// One start of zub.exe, or of another of its programs.
 class Zub {
  public:
-  explicit Zub(const std::string& switches = "");
+  explicit Zub(const std::string& switches = "", const std::string& program = "zub.exe");
   Zub(const Zub&) = delete;
   Zub& operator=(const Zub&) = delete;
   ~Zub();
@@ -35,6 +35,15 @@ class Zub {
   // The window behind the tray icon, and a message as the taskbar sends it.
   Window trayWindow() const;
   void trayMessage(UINT mouseMessage) const;
+  // From the menu of the icon, by the access key of the entry.
+  void trayEntry(char letter) const;
+
+  // What the process holds of the system: pens, brushes, fonts, bitmaps, device contexts; windows, hidden ones
+  // included.
+  struct Handles {
+    int graphics, windows;
+  };
+  Handles handles() const;
 
   // Waits for the end of the process.
   bool ends(int seconds = Patience) const;

@@ -82,3 +82,33 @@ TEST_CASE("the menu of the icon shows, washes and ends") {
   CHECK(zub.ends());
   CHECK(pc::storedOption("lblLastRemoval").starts_with("Last removal on "));
 }
+
+TEST_CASE("Exit while a message of a wash is open ends the program there") {
+  const std::string player = "Software\\Microsoft\\MediaPlayer\\Player\\RecentFileList";
+  for (const bool session : {false, true}) {
+    CAPTURE(session);
+    const Story story;
+    for (const char* chosen : {"chkTempFolder", "chkWMP", "chkSkipMessages"}) pc::option(chosen);
+    pc::putValue(player, "File0", "a task that comes later");
+    const pc::fs::path locked = pc::temp() / "in use.tmp";
+    pc::put(locked, "x");
+    const HANDLE user =
+        CreateFileA(locked.string().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    const Zub zub;
+    const Window main = zub.main();
+    main.child("&Start Cleaning").click();
+    zub.dialog("Permission denied");
+    if (session) {
+      CHECK(main.send(WM_QUERYENDSESSION) != 0);
+      PostMessageA(main.handle(), WM_ENDSESSION, TRUE, 0);
+    } else {
+      chooseEntry('E');
+    }
+    CHECK(zub.ends());
+    CloseHandle(user);
+    CHECK(pc::hasKey(player));
+    CHECK(pc::storedOption("chkWMP") == "1");
+    CHECK(pc::storedOption("lblLastRemoval").empty());
+    pc::removeKey(player);
+  }
+}

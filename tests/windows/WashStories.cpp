@@ -8,18 +8,6 @@ namespace {
 
 const std::string Explorer = "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
 
-// Enough work that a person can press a button in its midst: files that are shredded again and again.
-std::size_t seedLongWork() {
-  constexpr std::size_t Files = 60;
-  const std::string bytes(256 * 1024, 'x');
-  for (std::size_t file = 0; file < Files; ++file)
-    pc::put(pc::temp() / ("long" + std::to_string(file)), bytes);
-  pc::option("chkTempFolder");
-  pc::option("chkBleach");
-  pc::option("cmbShredder", "8");
-  return Files;
-}
-
 }  // namespace
 
 TEST_CASE("the items that are ticked are washed, and nothing beside them") {
@@ -61,7 +49,7 @@ TEST_CASE("the items that are ticked are washed, and nothing beside them") {
 
 TEST_CASE("Cancel closes the display, and the removal goes on") {
   const Story story;
-  const std::size_t files = seedLongWork();
+  const std::size_t files = pc::seedLongWork();
   const Zub zub;
   const Window main = zub.main();
   main.child("&Start Cleaning").click();
@@ -104,6 +92,27 @@ TEST_CASE("the report tells of the last wash") {
   CHECK(zub.window(title::Report).child("EDIT", 0).comesToSay("told of.tmp"));
   key(VK_ESCAPE);
   CHECK(zub.hides(title::Report));
+}
+
+TEST_CASE("a report that was minimised and closed comes up again as it was") {
+  const Story story;
+  const Zub zub;
+  const Window main = zub.main();
+  const auto canBeMinimised = [](const Window& window) {
+    return (GetWindowLongA(window.handle(), GWL_STYLE) & WS_MINIMIZEBOX) != 0;
+  };
+  CHECK(canBeMinimised(main));
+  CHECK_FALSE(canBeMinimised(wash(zub)));
+  finish(zub);
+  main.child("&View Log").click();
+  const Window report = zub.window(title::Report);
+  CHECK_FALSE(canBeMinimised(report));
+  report.send(WM_SYSCOMMAND, SC_MINIMIZE);
+  REQUIRE(IsIconic(report.handle()) != 0);
+  report.send(WM_CLOSE);
+  CHECK(zub.hides(title::Report));
+  main.child("&View Log").click();
+  CHECK(soon([&] { return report.isVisible() && IsIconic(report.handle()) == 0; }));
 }
 
 TEST_CASE("the program closes a while after the wash where that is chosen") {

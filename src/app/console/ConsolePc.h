@@ -16,9 +16,12 @@ class ConsolePc {
   virtual ~ConsolePc() = default;
   virtual Platform& platform() = 0;
   virtual void save() = 0;  // keeps what the program changed; PcError where it cannot
+  // What failed on the PC's disks and that nobody may have told, as text for the terminal.
+  virtual std::vector<std::string> failures() const = 0;
   // The folder that holds the PC; empty for the PC that this runs on.
   virtual std::string folder() const = 0;
-  // Text of the PC for the terminal, and words of the command line (UTF-8) for the PC.
+  // Text of the PC for the terminal, one line without control characters, and words of the command line
+  // (UTF-8) for the PC.
   virtual std::string toTerminal(std::string_view text) const = 0;
   virtual std::string fromTerminal(std::string_view text) const = 0;
 };

@@ -1,90 +1,115 @@
+#include <functional>
+#include <set>
 #include <vector>
 
 #include "app/console/Commands.h"
+#include "app/console/CookieChoice.h"
 #include "base/Text.h"
-#include "cleaners/frmIECookieKeep.h"
-#include "cleaners/frmNSCookieKeep.h"
+#include "cleaners/IECookies.h"
+#include "cleaners/NetscapeCookies.h"
 #include "engine/Engine.h"
 
 namespace zub {
 namespace {
 
-// What the arguments ask for: cookies by their numbers in the list, from 1. Nothing asked: list them.
+// What the arguments ask for. Nothing chosen: list the cookies.
 struct Wanted {
-  bool list = true;
   bool keep = false;
-  std::vector<int> numbers;
+  std::vector<CookieChoice> choices;
+  bool list() const { return choices.empty(); }
 };
 
 Wanted parse(const std::vector<std::string>& arguments) {
   Wanted wanted;
   if (arguments.size() == 1) return wanted;
   if ((arguments[1] != "keep" && arguments[1] != "drop") || arguments.size() < 3) {
-    throw UsageError("cookies takes \"keep\" or \"drop\" and the numbers of the list");
+    throw UsageError("cookies takes \"keep\" or \"drop\" and numbers of the list, ranges or sites");
   }
-  wanted.list = false;
   wanted.keep = arguments[1] == "keep";
-  for (std::size_t word = 2; word < arguments.size(); ++word) {
-    const int number = rowNumber(arguments[word]);
-    if (number < 1) throw UsageError("\"" + arguments[word] + "\" is no number of the list");
-    wanted.numbers.push_back(number);
-  }
+  for (std::size_t word = 2; word < arguments.size(); ++word) wanted.choices.emplace_back(arguments[word]);
   return wanted;
 }
 
-std::string rowText(int number, bool kept, std::string_view row, std::string_view detail) {
-  std::string text = std::to_string(number) + (kept ? " [x] " : " [ ] ") + std::string(trim(row));
-  if (!detail.empty() && detail != row) text += "  " + std::string(trim(detail));
+std::string rowText(int number, const CookieRow& row) {
+  std::string text = std::to_string(number) + (row.kept ? " [x] " : " [ ] ") + std::string(trim(row.shown));
+  if (row.detail != row.shown) text += "  " + std::string(trim(row.detail));
   return text;
 }
 
-// Lists or ticks the rows on show; `first` is the number of the first one. Returns the number behind the
-// last.
-int serveRows(const CommandContext& context, const Wanted& wanted, ListRows& rows, const ListRows& details,
-              int first) {
-  for (int row = 0; row < rows.ListCount(); ++row) {
-    if (wanted.list)
-      context.print(rowText(first + row, rows.Selected(row), rows.List(row), details.List(row)));
-    for (const int number : wanted.numbers) {
-      if (number == first + row) rows.Selected(row, wanted.keep);
+// One list of cookies as the disk has it.
+struct List {
+  std::string heading;  // empty for none
+  CookieRows rows;
+  std::function<void(const CookieRows&)> save;
+  bool changed = false;
+};
+
+void print(const CommandContext& context, const std::vector<List>& lists) {
+  int number = 0;
+  for (const List& list : lists) {
+    if (!list.heading.empty()) context.print(list.heading);
+    for (const CookieRow& row : list.rows) context.print(rowText(++number, row));
+  }
+}
+
+// The cookies are numbered through all lists, from 1. Nothing is changed where one of the choices is none.
+void change(const CommandContext& context, const Wanted& wanted, std::vector<List>& lists) {
+  std::vector<CookieRow*> rows;
+  std::vector<List*> listOfRow;
+  for (List& list : lists) {
+    for (CookieRow& row : list.rows) {
+      rows.push_back(&row);
+      listOfRow.push_back(&list);
     }
   }
-  return first + rows.ListCount();
-}
-
-void checkNumbers(const Wanted& wanted, int behindLast) {
-  for (const int number : wanted.numbers) {
-    if (number >= behindLast) throw UsageError("there is no cookie " + std::to_string(number));
+  std::vector<std::size_t> chosen;
+  for (const CookieChoice& choice : wanted.choices) {
+    for (const std::size_t place : choice.of(rows, context.pc.platform().codePage)) chosen.push_back(place);
+  }
+  for (const std::size_t place : chosen) {
+    rows[place]->kept = wanted.keep;
+    listOfRow[place]->changed = true;
+  }
+  for (const List& list : lists) {
+    if (list.changed) list.save(list.rows);
   }
 }
 
-void serveInternetExplorer(const CommandContext& context, const Wanted& wanted, Engine& engine) {
-  frmIECookieKeep form(engine);
-  form.LoadValues();
-  checkNumbers(wanted, form.lstDelete.ListCount() + 1);
-  serveRows(context, wanted, form.lstDelete, form.lstFiles, 1);
-  if (!wanted.list) form.cmdOK_Click();
+std::vector<List> internetExplorerLists(Engine& engine) {
+  const std::string folder = cookiesFolder(engine);
+  if (folder == "\\") {
+    throw RuntimeError(ErrorNumber::PathNotFound, "the registry of this PC names no folder of cookies");
+  }
+  List list;
+  readIECookies(engine.pc, folder, list.rows);
+  list.save = [&engine, folder](const CookieRows& rows) { saveIEKeepList(engine.pc, folder, rows); };
+  return {list};
 }
 
-void serveNetscape(const CommandContext& context, const Wanted& wanted, Engine& engine) {
-  frmNSCookieKeep form(engine);
-  form.Load();
-  int number = 1;
-  for (int profile = 0; profile < form.cmbProfile.ListCount(); ++profile) {
-    form.cmbProfile.ListIndex(profile);
-    number += form.lstDelete.ListCount();
+// The browser's registry file may name a profile more than once. A profile whose cookies cannot be read fails.
+std::vector<List> netscapeLists(Engine& engine) {
+  Files& files = engine.pc.files;
+  std::vector<NetscapeProfile> profiles;
+  try {
+    findNetscapeProfiles(files, netscapeRegistryFile(engine),
+                         [&](NetscapeProfile profile) { profiles.push_back(std::move(profile)); });
+  } catch (const RuntimeError& failure) {
+    if (!isMissing(failure)) throw;
   }
-  checkNumbers(wanted, number);
-  number = 1;
-  for (int profile = 0; profile < form.cmbProfile.ListCount(); ++profile) {
-    form.cmbProfile.ListIndex(profile);
-    if (wanted.list) {
-      context.print("Profile " + form.cmbProfile.List(profile) + ", " + form.cmbSelect.List(profile));
-    }
-    number = serveRows(context, wanted, form.lstDelete, form.lstCookies, number);
-    if (!wanted.list) form.SaveNS6(form.cmbSelect.List(profile));
+  std::vector<List> lists;
+  std::set<std::string> seen;
+  for (const NetscapeProfile& profile : profiles) {
+    if (!seen.insert(engine.pc.codePage.upper(profile.folder)).second) continue;
+    List list;
+    list.heading = "Profile " + profile.name + ", " + profile.folder;
+    readNetscapeCookies(files, profile.folder, list.rows);
+    tickNetscapeKept(files, profile.folder, list.rows);
+    list.save = [&files, folder = profile.folder](const CookieRows& rows) {
+      saveNetscapeKeepList(files, folder, rows);
+    };
+    lists.push_back(std::move(list));
   }
-  if (wanted.list && form.cmbProfile.ListCount() == 0) context.print(form.lblKeep[1].Caption);
+  return lists;
 }
 
 }  // namespace
@@ -95,13 +120,17 @@ int cookiesCommand(CommandContext& context) {
     throw UsageError("cookies takes \"ie\" or \"netscape\"");
   }
   const Wanted wanted = parse(arguments);
-  if (!wanted.list) context.needAlone();
+  if (!wanted.list()) context.needAlone();
   Options options;
   Engine engine(context.pc.platform(), options);
-  if (arguments[0] == "ie") {
-    serveInternetExplorer(context, wanted, engine);
+  const bool netscape = arguments[0] == "netscape";
+  std::vector<List> lists = netscape ? netscapeLists(engine) : internetExplorerLists(engine);
+  if (!wanted.list()) {
+    change(context, wanted, lists);
+  } else if (netscape && lists.empty()) {
+    context.print("Cannot find a copy of Netscape 6.x");
   } else {
-    serveNetscape(context, wanted, engine);
+    print(context, lists);
   }
   return exitStatus::Done;
 }

@@ -1,4 +1,5 @@
 #include "app/console/ConsolePc.h"
+#include "app/console/Printable.h"
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/FolderPc.h"
 
@@ -13,8 +14,17 @@ class FolderConsolePc : public ConsolePc {
 
   Platform& platform() override { return platform_; }
   void save() override { pc_.save(); }
+  std::vector<std::string> failures() const override {
+    const HostFailures& failures = pc_.failures();
+    std::vector<std::string> texts;
+    for (const std::string& text : failures.texts()) texts.push_back(printable(text, Letters::Utf8));
+    if (failures.more() > 0) texts.push_back(std::to_string(failures.more()) + " more failures");
+    return texts;
+  }
   std::string folder() const override { return folder_; }
-  std::string toTerminal(std::string_view text) const override { return utf8From1252(text); }
+  std::string toTerminal(std::string_view text) const override {
+    return printable(utf8FromAnsi(text), Letters::Utf8);
+  }
   std::string fromTerminal(std::string_view text) const override { return ansiFromUtf8(text); }
 
  private:

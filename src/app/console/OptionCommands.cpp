@@ -3,6 +3,7 @@
 
 #include "app/console/Commands.h"
 #include "app/console/Store.h"
+#include "base/Text.h"
 #include "settings/INIFile.h"
 
 namespace zub {
@@ -75,6 +76,12 @@ int setCommand(CommandContext& context) {
   Store store(context.pc.platform());
   std::vector<Setting> settings = settingsOf(store.options);
   for (const std::string& argument : context.arguments) apply(settings, argument);
+  for (const CatalogueRow& row : store.catalogue.rows()) {
+    const std::string tick = joined({standardPluginPrefix, row.name, "=1"});
+    if (row.warns() && std::ranges::find(context.arguments, tick) != context.arguments.end()) {
+      context.tell(row.name + ": " + row.description);
+    }
+  }
   store.save();
   context.pc.save();
   return exitStatus::Done;

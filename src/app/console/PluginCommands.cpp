@@ -1,8 +1,12 @@
+#include <algorithm>
+
 #include "app/console/Commands.h"
 #include "app/console/Store.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "platform/folder/HostText.h"
 #include "plugins/PluginCheck.h"
+#include "plugins/StandardPluginRun.h"
 
 namespace zub {
 namespace {
@@ -13,39 +17,72 @@ void listRows(const CommandContext& context, const ListRows& rows) {
   }
 }
 
-void printLines(const CommandContext& context, const std::vector<CheckedLine>& lines) {
+void printMeaning(const CommandContext& context, std::string_view text, Meaning::Verdict verdict) {
+  context.print(joined({verdict == Meaning::Verdict::Plain ? "     " : "   ! ", text}));
+}
+
+// True where a line can never work.
+bool printLines(const CommandContext& context, const std::vector<CheckedLine>& lines) {
   for (const CheckedLine& line : lines) {
     context.print("  " + std::to_string(line.number) + ": " + line.text);
-    context.print((line.works ? "     " : "   ! ") + line.meaning);
+    printMeaning(context, line.meaning, line.verdict);
+  }
+  return std::ranges::find(lines, Meaning::Verdict::Never, &CheckedLine::verdict) != lines.end();
+}
+
+// As a run reads them: the second file only where the first is there.
+void showCustom(const CommandContext& context, Store& store, const std::string& name) {
+  context.print("Custom plugin " + name);
+  PluginCheck check(store.engine);
+  for (const PluginFile file : {PluginFile::Files, PluginFile::Registry}) {
+    context.print(file == PluginFile::Files ? "Files:" : "Registry:");
+    const std::string path = store.plugins.baseOf(name) + std::string(extensionOf(file));
+    try {
+      printLines(context, check.readFile(path, file));
+    } catch (const RuntimeError& failure) {
+      context.print("   ! A run ends here, and the plugin is not counted: " + path + ": " + failure.what());
+      return;
+    }
   }
 }
 
-std::string_view baseName(CatalogueAction::Base base) {
-  switch (base) {
-    case CatalogueAction::Base::AppData:
-      return "application data folder";
-    case CatalogueAction::Base::Windows:
-      return "Windows folder";
-    case CatalogueAction::Base::Registry:
-      return "folder named by ";
-    case CatalogueAction::Base::None:
-      break;
+void showStandard(const CommandContext& context, Store& store, const CatalogueRow& row) {
+  context.print("Standard plugin " + row.name);
+  context.print(row.description);
+  for (const Meaning& meaning : describeStandardPlugin(store.engine, row)) {
+    printMeaning(context, meaning.text, meaning.verdict);
   }
-  return "";
 }
 
-std::string describe(const CatalogueAction& action) {
-  const std::string base = std::string(baseName(action.base)) +
-                           (action.base == CatalogueAction::Base::Registry ? action.trace : "") + ": ";
-  switch (action.kind) {
-    case CatalogueAction::Kind::File:
-      return "file in the " + base + action.path;
-    case CatalogueAction::Kind::FilesOfFolder:
-      return "files in the " + base + action.path + "\\" + action.pattern;
-    case CatalogueAction::Kind::Trace:
-      break;
+PluginFile kindOf(const CodePage& codePage, std::string_view name) {
+  const std::string upper = codePage.upper(name);
+  if (upper.ends_with(".ZB1")) return PluginFile::Files;
+  if (upper.ends_with(".ZB2")) return PluginFile::Registry;
+  throw UsageError("plugin check reads .zb1 and .zb2 files");
+}
+
+// A file of this machine, by a path in UTF-8; nothing where there is none.
+std::optional<std::string> hostText(const std::string& path) {
+  const auto end = path.find_last_of("/\\") + 1;
+  const auto folder = openHostDir(end == 0 ? "." : path.substr(0, end));
+  return folder ? readHostText(*folder, path.substr(end)) : std::nullopt;
+}
+
+// A file of the PC, by its path or its name in the plugin folder; where there is none, one of the machine that the
+// PC's folder lies on, or of the current folder.
+std::vector<CheckedLine> checkFile(const CommandContext& context, Store& store, PluginCheck& check,
+                                   const std::string& name, PluginFile file) {
+  const std::string path = contains(name, "\\") ? name : JoinPath(store.plugins.CurPath(), name);
+  try {
+    return check.readFile(path, file);
+  } catch (const RuntimeError& failure) {
+    if (context.pc.folder().empty() && store.engine.pc.files.attributes(name) != attribute::Invalid) {
+      return check.readFile(name, file);
+    }
+    const auto text = context.pc.folder().empty() ? std::nullopt : hostText(context.pc.toTerminal(name));
+    if (!text) throw UsageError(path + ": " + failure.what());
+    return check.readText(*text, file);
   }
-  return "registry: " + action.trace;
 }
 
 bool isRow(const ListRows& rows, std::string_view name) {
@@ -74,41 +111,28 @@ int pluginShowCommand(CommandContext& context) {
   const CatalogueRow* standard = store.catalogue.find(name);
   const bool custom = isRow(store.options.lstFiles, name);
   if (standard == nullptr && !custom) throw UsageError("there is no plugin \"" + name + "\"");
-  if (custom) {
-    const std::string base = store.plugins.baseOf(name);
-    PluginCheck check(store.engine.pc);
-    context.print("Custom plugin " + name);
-    context.print("Files:");
-    printLines(context, check.readFile(base + ".zb1", PluginFile::Files));
-    context.print("Registry:");
-    printLines(context, check.readFile(base + ".zb2", PluginFile::Registry));
-  }
-  if (standard != nullptr) {
-    context.print("Standard plugin " + name);
-    context.print(standard->description);
-    for (const CatalogueAction& action : standard->actions) context.print("  " + describe(action));
-  }
+  if (custom) showCustom(context, store, name);
+  if (standard != nullptr) showStandard(context, store, *standard);
   return exitStatus::Done;
 }
 
-// A file of the PC; a name without a folder is one of the plugin folder.
+// Files of one plugin that stand side by side are read as one plugin's.
 int pluginCheckCommand(CommandContext& context) {
-  if (context.arguments.size() != 1) throw UsageError("plugin check takes one file");
+  if (context.arguments.empty()) throw UsageError("plugin check takes files");
   Store store(context.pc.platform());
-  std::string path = context.arguments[0];
-  if (!contains(path, "\\")) path = JoinPath(store.plugins.CurPath(), path);
-  const std::string folded = store.engine.pc.codePage.upper(path);
-  if (!folded.ends_with(".ZB1") && !folded.ends_with(".ZB2")) {
-    throw UsageError("plugin check reads .zb1 and .zb2 files");
+  std::string plugin;
+  PluginCheck check(store.engine);
+  bool neverWorks = false;
+  for (const std::string& name : context.arguments) {
+    const PluginFile file = kindOf(store.engine.pc.codePage, name);
+    const std::string base = name.substr(0, name.size() - extensionOf(file).size());
+    if (base != plugin) check = PluginCheck(store.engine);
+    plugin = base;
+    const auto lines = checkFile(context, store, check, name, file);
+    if (context.arguments.size() > 1) context.print(name + ":");
+    neverWorks |= printLines(context, lines);
   }
-  PluginCheck check(store.engine.pc);
-  try {
-    printLines(context,
-               check.readFile(path, folded.ends_with(".ZB1") ? PluginFile::Files : PluginFile::Registry));
-  } catch (const RuntimeError& failure) {
-    throw UsageError(path + ": " + failure.what());
-  }
-  return exitStatus::Done;
+  return neverWorks ? exitStatus::LeftBehind : exitStatus::Done;
 }
 
 }  // namespace zub

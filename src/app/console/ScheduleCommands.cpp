@@ -1,66 +1,110 @@
+#include <algorithm>
+#include <optional>
+
 #include "app/console/Commands.h"
 #include "base/RuntimeError.h"
-#include "engine/UserFunctions.h"
-#include "scheduler/DatedEntries.h"
-#include "state/Options.h"
+#include "scheduler/DatedTask.h"
 
 namespace zub {
 namespace {
 
-// The scheduler tab by itself.
-struct Entries {
-  explicit Entries(const Platform& platform) : user(platform, options), dated(platform, user) {
-    dated.InitSchedulerTab();
+std::vector<std::string> wordsOf(const std::vector<std::string>& arguments) {
+  std::vector<std::string> words;
+  for (const std::string& argument : arguments) {
+    constexpr const char* Blanks = " \t\r\n";
+    for (auto begin = argument.find_first_not_of(Blanks); begin != std::string::npos;) {
+      const auto end = std::min(argument.find_first_of(Blanks, begin), argument.size());
+      words.push_back(argument.substr(begin, end - begin));
+      begin = argument.find_first_not_of(Blanks, end);
+    }
   }
-  Options options;
-  UserFunctions user;
-  DatedEntries dated;
-};
+  return words;
+}
 
-// The tab keeps silent where the task scheduler fails: its list then stays as it was.
-void needCount(int count, const DatedEntries& dated) {
-  if (dated.lstSchedule.ListCount() == count) return;
-  throw RuntimeError(ErrorNumber::Automation, "the task scheduler refuses the change");
+std::string joinedWords(std::span<const std::string> words) {
+  std::string text;
+  for (const std::string& word : words) text += (text.empty() ? "" : " ") + word;
+  return text;
+}
+
+// A text that tells one of the two alone.
+std::optional<SystemTime> parsed(Clock& clock, const std::string& text, bool dateWanted) {
+  try {
+    const SystemTime told = clock.parse(text);
+    const bool hasDate = told.wYear != 1899 || told.wMonth != 12 || told.wDay != 30;
+    if (hasDate == dateWanted) return told;
+  } catch (const RuntimeError&) {
+  }
+  return std::nullopt;
+}
+
+// The moment that the words tell, both day and time in one word or several: "12/24/2030 6:00 PM".
+SystemTime momentOf(Clock& clock, std::span<const std::string> words) {
+  for (std::size_t dateWords = 1; dateWords < words.size(); ++dateWords) {
+    auto moment = parsed(clock, joinedWords(words.first(dateWords)), true);
+    const auto time = parsed(clock, joinedWords(words.subspan(dateWords)), false);
+    if (!moment || !time) continue;
+    moment->wHour = time->wHour;
+    moment->wMinute = time->wMinute;
+    moment->wSecond = 0;
+    return *moment;
+  }
+  throw UsageError("\"" + joinedWords(words) + "\" is no date and time, such as " +
+                   clock.dateText(plusDays(clock.local(), 1)) + " 18:00");
+}
+
+// Windows guards its tasks itself. What the PC's tasks text says of a failure tells more than the refusal.
+template <class Change>
+void change(const CommandContext& context, Change work) {
+  try {
+    work();
+  } catch (const RuntimeError&) {
+    context.pc.save();
+    throw RuntimeError(ErrorNumber::Automation, "the task scheduler refuses the change");
+  }
+  context.pc.save();
+}
+
+void needTasks(const CommandContext& context) {
+  if (!context.pc.folder().empty()) context.needAlone();
 }
 
 }  // namespace
 
 int scheduleCommand(CommandContext& context) {
   if (!context.arguments.empty()) throw UsageError("schedule takes \"add\", \"remove\" or nothing");
-  Entries entries(context.pc.platform());
-  const ListRows& rows = entries.dated.lstSchedule;
-  for (int row = 0; row < rows.ListCount(); ++row)
-    context.print(std::to_string(row + 1) + " " + rows.List(row));
+  int number = 0;
+  for (const std::string& line : datedWashes(context.pc.platform())) {
+    context.print(std::to_string(++number) + " " + line);
+  }
   return exitStatus::Done;
 }
 
 int scheduleAddCommand(CommandContext& context) {
-  if (context.arguments.size() < 2) throw UsageError("schedule add takes a date and a time");
-  Entries entries(context.pc.platform());
-  const int before = entries.dated.lstSchedule.ListCount();
-  entries.dated.txtDate.Text = context.arguments[0];
-  entries.dated.txtTime.Text = context.arguments[1];
-  // A time in the system's own form may come as two words: "2:20 PM".
-  for (std::size_t word = 2; word < context.arguments.size(); ++word) {
-    entries.dated.txtTime.Text += " " + context.arguments[word];
+  const std::vector<std::string> words = wordsOf(context.arguments);
+  if (words.size() < 2) throw UsageError("schedule add takes a date and a time");
+  const Platform& pc = context.pc.platform();
+  const SystemTime moment = momentOf(pc.clock, words);
+  if (secondsOf(moment) <= secondsOf(pc.clock.local())) {
+    throw UsageError(joinedWords(words) + " is past: no wash would come of it");
   }
-  entries.dated.cmdAdd_Click();
-  if (entries.dated.focus != nullptr) return exitStatus::Unusable;  // a field cannot be read, which is told
-  needCount(before + 1, entries.dated);
+  needTasks(context);
+  change(context, [&] {
+    openDatedTask(pc);  // one that it makes gets its parameters when it is found again
+    addDatedWash(pc, moment, moment);
+  });
   return exitStatus::Done;
 }
 
 int scheduleRemoveCommand(CommandContext& context) {
   if (context.arguments.size() != 1) throw UsageError("schedule remove takes a number of the list");
-  Entries entries(context.pc.platform());
+  needTasks(context);
+  const Platform& pc = context.pc.platform();
   const int number = rowNumber(context.arguments[0]);
-  const int before = entries.dated.lstSchedule.ListCount();
-  if (number < 1 || number > before) {
+  if (number < 1 || number > static_cast<int>(datedWashes(pc).size())) {
     throw UsageError("there is no dated wash " + context.arguments[0]);
   }
-  entries.dated.lstSchedule.ListIndex(number - 1);
-  entries.dated.cmdRemoveScheduled_Click();
-  needCount(before - 1, entries.dated);
+  change(context, [&] { removeDatedWash(pc, number); });
   return exitStatus::Done;
 }
 

@@ -1,18 +1,10 @@
-// The stand-alone scheduler: waits in the foreground and starts the program at each dated wash and interval.
+// Waits in the foreground while the scheduler works.
 #include <unistd.h>
 
-#include <algorithm>
 #include <csignal>
-#include <cstdio>
+#include <ctime>
 
-#include "app/console/Commands.h"
-#include "app/console/Store.h"
-#include "platform/folder/FolderTasks.h"
-#include "platform/folder/HostText.h"
-#include "platform/folder/PcError.h"
-#include "scheduler/AutomaticInterval.h"
-#include "scheduler/DatedEntries.h"
-#include "scheduler/DueTimes.h"
+#include "app/console/Scheduler.h"
 
 namespace zub {
 namespace {
@@ -25,97 +17,6 @@ void stop(int) {
 
 constexpr unsigned StepLength = 500000;  // microseconds
 
-class Scheduler {
- public:
-  explicit Scheduler(CommandContext& context)
-      : context_(context),
-        clock_(context.pc.platform().clock),
-        root_(openHostDir(context.pc.folder())),
-        due_(clock_.local()),
-        automatic_(clock_, options_) {
-    automatic_.startWash = [this] { start("", washCommand); };
-  }
-
-  void step() {
-    const SystemTime now = clock_.local();
-    if (now.wMinute != minute_) {
-      minute_ = now.wMinute;
-      guarded(optionsFailure_, [this] { readOptions(); });
-    }
-    guarded(tasksFailure_, [this] { readTasks(); });
-    for (int due = due_.look(times_, now); due > 0; --due) start(parameters_, startCommand);
-    automatic_.Timer_Tick();
-  }
-
- private:
-  // A text that somebody is just changing, or has damaged, is told once; what was read before stays in force.
-  // `told` is the failure of the last time.
-  template <class Work>
-  static void guarded(std::string& told, Work work) {
-    try {
-      work();
-      told.clear();
-    } catch (const std::exception& error) {
-      if (told != error.what()) std::fprintf(stderr, "zub: %s\n", error.what());
-      told = error.what();
-    }
-  }
-
-  // The PC as it is now. It can be washed while the tasks are damaged.
-  std::unique_ptr<ConsolePc> openPc(const std::string& commandLine) {
-    return openFolderPc(context_.pc.folder(), context_.loop, context_.loop, commandLine, DamagedTasks::Fail);
-  }
-
-  // The program's own task; others belong to other programs.
-  void readTasks() {
-    const std::string text = readHostText(*root_, FolderTasks::FileName).value_or("");
-    if (text == tasksText_) return;
-    const std::vector<TaskRecord> tasks = readTasksText(text, FolderTasks::FileName);
-    tasksText_ = text;
-    times_.clear();
-    const auto task = std::ranges::find(tasks, DatedEntries::TaskName, &TaskRecord::name);
-    if (task == tasks.end()) return;
-    parameters_ = task->parameters;
-    for (const TriggerRecord& trigger : task->triggers) times_.push_back(trigger.begin);
-  }
-
-  // The interval's two options, as the store keeps them now.
-  void readOptions() {
-    const auto pc = openPc("");
-    const Store store(pc->platform());
-    const int on = store.options.chkRunAuto.Value();
-    const int row = store.options.ComboInterval.ListIndex();
-    if (on == options_.chkRunAuto.Value() && row == options_.ComboInterval.ListIndex()) return;
-    options_.chkRunAuto.Value(on);
-    options_.ComboInterval.ListIndex(row);
-    automatic_.chkRunAuto_Click();
-  }
-
-  // Starts the program anew. Each start that fails is told.
-  void start(const std::string& commandLine, int (*command)(CommandContext&)) {
-    std::string told;
-    guarded(told, [&] {
-      const auto pc = openPc(commandLine);
-      CommandContext started{*pc, context_.loop, {}};
-      command(started);
-      std::fflush(stdout);
-    });
-  }
-
-  CommandContext& context_;
-  Clock& clock_;
-  std::unique_ptr<HostDir> root_;
-  DueTimes due_;
-  Options options_;
-  AutomaticInterval automatic_;
-  std::vector<SystemTime> times_;
-  std::string parameters_;  // of the task that the times belong to
-  std::string tasksText_;
-  std::string tasksFailure_;
-  std::string optionsFailure_;
-  int minute_ = -1;
-};
-
 }  // namespace
 
 int schedulerCommand(CommandContext& context) {
@@ -123,9 +24,9 @@ int schedulerCommand(CommandContext& context) {
   if (context.pc.folder().empty()) throw UsageError("Windows has a task scheduler of its own");
   std::signal(SIGINT, stop);
   std::signal(SIGTERM, stop);
-  Scheduler scheduler(context);
+  Scheduler scheduler(context, std::time(nullptr));
   while (stopped == 0) {
-    scheduler.step();
+    scheduler.step(std::time(nullptr));
     usleep(StepLength);
   }
   return exitStatus::Done;

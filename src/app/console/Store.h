@@ -8,10 +8,13 @@
 
 namespace zub {
 
+// Whether the settings could be saved: the program does not tell. RuntimeError where the registry refuses.
+void needStoreSaved(const Platform& pc, Options& options);
+
 class Store {
  public:
   explicit Store(const Platform& pc);
-  void save();
+  void save();  // RuntimeError where the registry refuses
 
   Options options;
   Engine engine;

@@ -1,7 +1,9 @@
 #include "app/console/ConsolePc.h"
+#include "app/console/Printable.h"
 #include "platform/win32/NtCalls.h"
 #include "platform/win32/Text.h"
 #include "platform/win32/Win32Platform.h"
+#include "platform/win32/Win32SystemFolders.h"
 
 namespace zub {
 namespace {
@@ -13,28 +15,38 @@ class NoTray : public Tray {
   void remove() override {}
 };
 
+// The program that a dated wash starts is the windowed one, which lies beside this.
+class FoldersOfZub : public Win32SystemFolders {
+ public:
+  std::string programFile() override { return "zub.exe"; }
+};
+
 class ThisPc : public ConsolePc {
  public:
   ThisPc(EventLoop& events, Messages& messages)
       : windows_(events, tray_, [] { return nullptr; }),
-        platform_(withMessages(windows_.platform(), messages)) {}
+        platform_(withOwn(windows_.platform(), folders_, messages)) {}
 
   Platform& platform() override { return platform_; }
   void save() override {}  // the system keeps what was changed
+  std::vector<std::string> failures() const override { return {}; }
   std::string folder() const override { return {}; }
-  std::string toTerminal(std::string_view text) const override { return std::string(text); }
+  std::string toTerminal(std::string_view text) const override {
+    return printable(std::string(text), Letters::OneByte);
+  }
   std::string fromTerminal(std::string_view text) const override {
     return narrow(wideName(std::string(text)));
   }
 
  private:
   // Messages are lines of the terminal here, not boxes.
-  static Platform withMessages(const Platform& pc, Messages& messages) {
-    return {pc.codePage, pc.registry, pc.files,  pc.drives, pc.folders, pc.restart, pc.shell,
-            pc.clock,    pc.process,  pc.events, messages,  pc.tray,    pc.tasks};
+  static Platform withOwn(const Platform& pc, SystemFolders& folders, Messages& messages) {
+    return {pc.codePage, pc.registry, pc.files,  pc.drives, folders, pc.restart, pc.shell,
+            pc.clock,    pc.process,  pc.events, messages,  pc.tray, pc.tasks};
   }
 
   NoTray tray_;
+  FoldersOfZub folders_;
   Win32Platform windows_;
   Platform platform_;
 };

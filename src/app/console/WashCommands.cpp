@@ -1,41 +1,34 @@
 #include <functional>
+#include <optional>
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "app/console/OddFolders.h"
+#include "app/console/Report.h"
+#include "app/console/Store.h"
 #include "platform/folder/PcError.h"
 
 namespace zub {
 namespace {
 
-// The report lies in memory with CR LF; a terminal wants neither CR nor a blank line at its end.
-std::string withoutCarriageReturns(std::string text) {
-  std::erase(text, '\r');
-  while (text.ends_with('\n')) text.pop_back();
-  return text;
-}
-
-// After each wash; what cannot be saved then is told when the program has ended.
-void saveIfPossible(ConsolePc& pc) {
+// What could not be saved. After a wash in the midst of the program it is tried again at the end.
+std::optional<PcError> saved(ConsolePc& pc) {
   try {
     pc.save();
-  } catch (const PcError&) {
+  } catch (const PcError& failure) {
+    return failure;
   }
+  return std::nullopt;
 }
-
-// The loop serves the program for as long as this lives.
-struct Attached {
-  Attached(ConsoleLoop& served, Program& program) : loop(served) { loop.attach(program); }
-  Attached(const Attached&) = delete;
-  Attached& operator=(const Attached&) = delete;
-  ~Attached() { loop.detach(); }
-  ConsoleLoop& loop;
-};
 
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
   context.needAlone();
+  for (const std::string& folder : oddFolders(context.pc.platform().registry)) {
+    context.tell(context.pc.toTerminal(folder));
+  }
   Program program(context.pc.platform());
-  program.engine.clean.cleaners.ended = [&context] { saveIfPossible(context.pc); };
+  program.engine.clean.cleaners.ended = [&context] { saved(context.pc); };
   {
     const Attached attached(context.loop, program);
     try {
@@ -46,17 +39,11 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
     } catch (const EndOfProcess&) {
     }
   }
-  context.pc.save();
-
-  if (!program.engine.clean.txtResult.empty()) {
-    context.print(withoutCarriageReturns(program.engine.clean.txtResult));
-    const frmAnimated::State& shown = program.engine.animated.peek().state;
-    context.print("");
-    context.print(shown.lblRemove.Caption);
-    context.print(shown.StatusBar1[1]);
-    context.print(program.options.lblLastRemoval.Caption);
-  }
-  return program.engine.leftBehind > 0 ? exitStatus::LeftBehind : exitStatus::Done;
+  const std::optional<PcError> unsaved = saved(context.pc);
+  printReport(context, program);
+  if (unsaved) throw *unsaved;
+  needStoreSaved(program.engine.pc, program.options);
+  return tellLeftBehind(context, program, "could not be removed");
 }
 
 }  // namespace

@@ -1,18 +1,20 @@
 // zub, the console program: a wash without windows.
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "app/console/Commands.h"
+#include "app/console/Printable.h"
 #include "base/RuntimeError.h"
 #include "platform/folder/FolderPc.h"
-#include "platform/folder/PcError.h"
 
 namespace {
 
 using namespace zub;
-
-constexpr const char* programName = "zub";
 
 void printHelp() {
   std::printf(
@@ -27,7 +29,8 @@ void printHelp() {
     std::printf("  %-40s %s\n", usage.c_str(), std::string(command.help).c_str());
   }
   std::printf(
-      "\nExit status: 0 all that was tried went, 1 something could not be removed, 2 wrong usage or an "
+      "\nExit status: 0 all that was tried went, 1 something could not be removed or looked at, 2 wrong "
+      "usage or an "
       "unusable PC.\n");
 }
 
@@ -85,23 +88,49 @@ int run(std::vector<std::string> arguments) {
   for (std::string& argument : arguments) argument = pc->fromTerminal(argument);
   CommandContext context{*pc, loop, std::move(arguments)};
   try {
-    return command.run(context);
+    return runCommand(context, command.run);
   } catch (const UsageError& error) {
     throw UsageError(pc->toTerminal(error.what()));
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.number(), pc->toTerminal(error.what()));
+  }
+}
+
+// A failure that nobody can catch is told in the program's own words too.
+[[noreturn]] void endAtOnce() {
+  std::fprintf(stderr, "%s: a failure in the midst of another one\n", programName);
+  std::_Exit(exitStatus::Unusable);
+}
+
+// What cannot be written is an error of the call, not the end of the process in the midst of a wash.
+void catchSignals() {
+#ifdef SIGXFSZ
+  std::signal(SIGXFSZ, SIG_IGN);
+#endif
+#ifdef SIGPIPE
+  std::signal(SIGPIPE, SIG_IGN);
+#endif
+}
+
+void finishOutput() {
+  if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    throw std::runtime_error("the output could not be written");
   }
 }
 
 }  // namespace
 
 int main(int count, char** words) {
+  std::set_terminate(endAtOnce);
+  catchSignals();
   try {
-    return run(commandWords(count, words));
+    const int status = run(commandWords(count, words));
+    finishOutput();
+    return status;
   } catch (const UsageError& error) {
     std::fprintf(stderr, "%s: %s\nSee \"%s --help\".\n", programName, error.what(), programName);
-  } catch (const PcError& error) {
-    std::fprintf(stderr, "%s: %s\n", programName, error.what());
-  } catch (const RuntimeError& error) {
-    std::fprintf(stderr, "%s: %s\n", programName, error.what());
+  } catch (...) {
+    std::fprintf(stderr, "%s: %s\n", programName, printableLines(textOfFailure()).c_str());
   }
   return exitStatus::Unusable;
 }

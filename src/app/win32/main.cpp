@@ -1,6 +1,7 @@
 // zub.exe: the program on the PC that it runs on, with its windows.
 #include "app/Program.h"
 #include "app/Timers.h"
+#include "base/Text.h"
 #include "platform/win32/Win32Platform.h"
 #include "ui/MessageBox.h"
 #include "ui/frmAbout.h"
@@ -26,14 +27,14 @@ using namespace zub;
   tray.attach(program.icon);
   program.icon.windows[frmIcon::MessageWindow] = [&messageBox]() -> Form& { return messageBox.form; };
 
-  const HWND main = windows.add(layout::bindMain(program.main)).hwnd();
-  windows.addLater(layout::bindProgress(program.engine.animated));
-  windows.addLater(layout::bindReport(program.engine.clean));
-  windows.addLater(layout::bindEditor(*program.editor));
-  windows.addLater(layout::bindCookies(*program.ieCookies));
-  windows.addLater(layout::bindCookies(*program.nsCookies));
-  windows.addLater(layout::bindAbout(about), [main] { return main; });
-  windows.addLater(layout::bindMessageBox(messageBox), [main] { return main; });
+  const HWND main = windows.add(layout::mainWindow(program.main)).hwnd();
+  windows.addLater(layout::progressWindow(program.engine.animated));
+  windows.addLater(layout::reportWindow(program.engine.clean));
+  windows.addLater(layout::editorWindow(*program.editor));
+  windows.addLater(layout::cookieWindow(*program.ieCookies));
+  windows.addLater(layout::cookieWindow(*program.nsCookies));
+  windows.addLater(layout::aboutWindow(about), [main] { return main; });
+  windows.addLater(layout::messageWindow(messageBox), [main] { return main; });
   program.main.showAbout = [&] {
     about.Form_Load();
     about.form.Show();
@@ -50,14 +51,32 @@ using namespace zub;
 
 }  // namespace
 
-int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
-  INITCOMMONCONTROLSEX controls{sizeof controls,
-                                ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
-  InitCommonControlsEx(&controls);
+// What the command line may hold. Asked for with other switches it says nothing: those are obeyed.
+bool tellsSwitches(const char* arguments) {
+  const std::string_view asked = trim(arguments);
+  if (asked != "/?" && asked != "-?") return false;
+  MessageBoxA(nullptr,
+              "zub.exe\tOpens the main window.\n\n"
+              "/STARTUP\tStarts in the tray, as with Windows, and cleans if \"Starts\" is ticked among the "
+              "options.\n\n"
+              "/SCHEDULER\tStarts in the tray and cleans at once.\n\n"
+              "The switches are written in capitals. zub-console.exe --help tells the commands of the "
+              "console program.",
+              "Zubrane", MB_OK | MB_ICONINFORMATION);
+  return true;
+}
+
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR arguments, int) {
+  if (tellsSwitches(arguments)) return 0;
+  // One by one: a library that does not know a kind of classes refuses all that are asked for with it.
+  for (const DWORD classes : {ICC_WIN95_CLASSES, ICC_STANDARD_CLASSES}) {
+    const INITCOMMONCONTROLSEX controls{sizeof controls, classes};
+    InitCommonControlsEx(&controls);
+  }
   try {
     runProgram(instance);
-  } catch (const std::exception& failure) {
-    MessageBoxA(nullptr, failure.what(), "Zubrane", MB_OK | MB_ICONSTOP);
+  } catch (...) {
+    MessageBoxA(nullptr, textOfFailure(), "Zubrane", MB_OK | MB_ICONSTOP);
     return 1;
   }
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/ToldName.h"
+
 namespace zub {
 namespace {
 
@@ -35,6 +37,13 @@ int byteOf(std::uint32_t character) {
   return found == HighControls.end() ? -1 : static_cast<int>(0x80 + (found - HighControls.begin()));
 }
 
+bool isSurrogate(std::uint32_t character) {
+  return character >= 0xD800 && character < 0xE000;
+}
+
+// A byte that is no UTF-8 goes as a unit that no UTF-8 gives.
+constexpr std::uint32_t RawBytes = 0xDC00;
+
 // Takes one character off the front of `utf8`; false where it is none in its shortest form.
 bool takeCharacter(std::string_view& utf8, std::uint32_t& character) {
   const auto at = [&](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
@@ -50,10 +59,19 @@ bool takeCharacter(std::string_view& utf8, std::uint32_t& character) {
       character = character << 6 | (at(i) & 0x3Fu);
     }
     constexpr std::array<std::uint32_t, 5> least = {0, 0, 0x80, 0x800, 0x10000};
-    if (character < least[length]) return false;
+    if (character < least[length] || character > 0x10FFFF || isSurrogate(character)) return false;
   }
   utf8.remove_prefix(length);
   return true;
+}
+
+std::string ansiOfUnit(char16_t unit) {
+  const int byte = byteOf(unit);
+  return byte < 0 ? std::string() : std::string(1, static_cast<char>(byte));
+}
+
+bool isAscii(std::string_view text) {
+  return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 }  // namespace
@@ -95,23 +113,65 @@ void appendUtf8(std::string& text, std::uint32_t character) {
   }
 }
 
-std::string utf8From1252(std::string_view text) {
+std::u16string utf16FromUtf8(std::string_view utf8) {
+  std::u16string text;
+  text.reserve(utf8.size());
+  while (!utf8.empty()) {
+    std::uint32_t character = 0;
+    if (!takeCharacter(utf8, character)) {
+      character = RawBytes | static_cast<unsigned char>(utf8.front());
+      utf8.remove_prefix(1);
+    }
+    if (character >= 0x10000) {
+      text += static_cast<char16_t>(0xD7C0 + (character >> 10));
+      character = 0xDC00 | (character & 0x3FF);
+    }
+    text += static_cast<char16_t>(character);
+  }
+  return text;
+}
+
+std::u16string utf16FromAnsi(std::string_view text) {
+  std::u16string units;
+  units.reserve(text.size());
+  for (const char c : text) units += static_cast<char16_t>(characterOf(static_cast<unsigned char>(c)));
+  return untold(units);
+}
+
+std::u16string folded(std::u16string text) {
+  for (char16_t& unit : text) {
+    const int byte = byteOf(unit);
+    if (byte >= 0) unit = static_cast<char16_t>(characterOf(UpperCase1252[static_cast<std::size_t>(byte)]));
+  }
+  return text;
+}
+
+std::string utf8FromAnsi(std::string_view text) {
   std::string result;
   result.reserve(text.size());
-  for (const char c : text) appendUtf8(result, characterOf(static_cast<unsigned char>(c)));
+  const std::u16string units = utf16FromAnsi(text);
+  for (std::size_t i = 0; i < units.size(); ++i) {
+    const std::uint32_t unit = units[i];
+    const bool pair =
+        unit >= 0xD800 && unit < 0xDC00 && i + 1 < units.size() && (units[i + 1] & 0xFC00) == 0xDC00;
+    if (pair)
+      appendUtf8(result, ((unit - 0xD7C0) << 10) | (units[++i] & 0x3FFu));
+    else if (unit >= (RawBytes | 0x80) && unit <= (RawBytes | 0xFF))
+      result += static_cast<char>(unit & 0xFF);
+    else
+      appendUtf8(result, unit);
+  }
   return result;
 }
 
 std::string ansiFromUtf8(std::string_view utf8) {
-  std::string text;
-  text.reserve(utf8.size());
-  for (std::string_view rest = utf8; !rest.empty();) {
-    std::uint32_t character = 0;
-    const int byte = takeCharacter(rest, character) ? byteOf(character) : -1;
-    if (byte < 0) return std::string(utf8);
-    text += static_cast<char>(byte);
-  }
-  return text;
+  return isAscii(utf8) && utf8.find('<') == std::string_view::npos
+             ? std::string(utf8)
+             : toldText(utf16FromUtf8(utf8), ansiOfUnit);
+}
+
+std::string toldNameFromUtf8(std::string_view utf8) {
+  return toldFileName(utf16FromUtf8(utf8), ansiOfUnit);
 }
 
 }  // namespace zub

@@ -25,10 +25,16 @@ struct FoldedLess {
   bool operator()(std::string_view a, std::string_view b) const { return compareFolded(a, b) < 0; }
 };
 
-std::string utf8From1252(std::string_view text);
-// The text in the code page. Where the bytes are no UTF-8 or hold a character that the code page lacks, they
-// stay as they are: nothing is lost, and equal texts stay equal.
+// Between the host's UTF-8 and the PC's ANSI texts, which tell what the code page lacks by stand-ins
+// (platform/ToldName.h), bytes that are no UTF-8 too. Nothing is lost on the way there and back.
 std::string ansiFromUtf8(std::string_view utf8);
+std::string utf8FromAnsi(std::string_view text);
+// The same for the name of a file.
+std::string toldNameFromUtf8(std::string_view utf8);
+std::u16string utf16FromUtf8(std::string_view utf8);
+std::u16string utf16FromAnsi(std::string_view text);
+// Upper case of what the code page holds.
+std::u16string folded(std::u16string text);
 // Appends a character as UTF-8.
 void appendUtf8(std::string& text, std::uint32_t character);
 

@@ -52,6 +52,19 @@ std::vector<Token> tokensOf(std::string_view text) {
   return tokens;
 }
 
+constexpr std::string_view MonthNames[] = {"january",   "february", "march",    "april",
+                                           "may",       "june",     "july",     "august",
+                                           "september", "october",  "november", "december"};
+
+// 1 to 12 for a month's name or the first three letters of it; 0 for another word.
+int monthOf(std::string_view word) {
+  for (int month = 1; const std::string_view name : MonthNames) {
+    if (equalFolded(word, name) || equalFolded(word, name.substr(0, 3))) return month;
+    ++month;
+  }
+  return 0;
+}
+
 class Parser {
  public:
   Parser(std::string_view text, const SystemTime& today) : tokens_(tokensOf(text)), today_(today) {}
@@ -115,15 +128,48 @@ class Parser {
     return time;
   }
 
+  // A day and a year around the month's name, the year being this one where it is not told.
+  SystemTime readNamedDate() {
+    std::vector<Token> numbers;
+    int month = 0;
+    while (place_ < tokens_.size() && !isTime()) {
+      const Token& token = tokens_[place_++];
+      if (token.kind == Token::Kind::Number && numbers.size() < 2) {
+        numbers.push_back(token);
+      } else if (token.kind == Token::Kind::Word && month == 0) {
+        month = monthOf(token.text);
+        if (month == 0) mismatch();
+      } else if (!isSign(place_ - 1, "/-.,")) {
+        mismatch();
+      }
+    }
+    if (month == 0 || numbers.empty()) mismatch();
+    if (numbers.size() == 2 && isYear(numbers[0])) std::swap(numbers[0], numbers[1]);
+    const bool hasYear = isYear(numbers.back()) || numbers.size() == 2;
+    const int year = hasYear ? fullYear(numbers.back()) : today_.wYear;
+    const int day = numbers.size() == 1 && hasYear ? 1 : numbers[0].number;
+    if (year < 100 || day < 1 || day > daysInMonth(year, month)) mismatch();
+    return dateOf(year, month, day);
+  }
+
+  // Whether a month's name comes before the time does.
+  bool hasMonthName() const {
+    for (std::size_t at = place_; at < tokens_.size() && !isSign(at + 1, ":"); ++at) {
+      if (tokens_[at].kind == Token::Kind::Word && monthOf(tokens_[at].text) != 0) return true;
+    }
+    return false;
+  }
+
+  static bool isYear(const Token& token) { return token.text.size() > 2 || token.number > 31; }
+
   SystemTime readDate() {
+    if (hasMonthName()) return readNamedDate();
     std::vector<Token> numbers = {takeNumber()};
     while (numbers.size() < 3 && isSign(place_, "/-.")) {
       ++place_;
       numbers.push_back(takeNumber());
     }
     if (numbers.size() == 1) mismatch();
-    const auto isYear = [](const Token& token) { return token.text.size() > 2 || token.number > 31; };
-
     int year = today_.wYear;
     int first = numbers[0].number;
     int second = numbers[1].number;

@@ -71,19 +71,15 @@ void FolderChannel::write(std::string_view bytes) {
   offset_ += bytes.size();
 }
 
-void FolderChannel::close() {
-  finish(false);
-}
-
-void FolderChannel::closeOnDisk() {
-  finish(true);
+void FolderChannel::sync() {
+  flush();
+  check(file_->sync());
 }
 
 // Closes whatever happens.
-void FolderChannel::finish(bool onDisk) {
+void FolderChannel::close() {
   if (!file_) return;
-  HostError error = give();
-  if (error == HostError::None && onDisk && writable_) error = file_->sync();
+  const HostError error = give();
   file_.reset();
   check(error);
 }

@@ -19,12 +19,11 @@ class FolderChannel : public FileChannel {
   std::size_t read(std::span<char> buffer) override;
   void write(std::string_view bytes) override;
   void close() override;
-  void closeOnDisk() override;
+  void sync() override;
 
  private:
   HostError give();
   void flush();
-  void finish(bool onDisk);
   HostFile& file() const;
 
   std::unique_ptr<HostFile> file_;  // null when closed

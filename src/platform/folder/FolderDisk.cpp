@@ -1,37 +1,22 @@
 #include "platform/folder/FolderDisk.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/HostFailure.h"
-#include "platform/folder/ShortName.h"
 
 namespace zub {
 namespace {
 
-// The host's name of an entry that is not there as written: found without regard to case, the first in the
-// host's order of bytes where there are several, else by its 8.3 name.
-std::optional<std::string> searchName(HostDir& folder, std::string_view name) {
-  const bool mayBeShort = name.find('~') != std::string_view::npos;
-  std::unique_ptr<HostList> listing;
-  if (folder.list(listing) != HostError::None) return std::nullopt;
-  std::optional<std::string> best;
-  std::vector<std::string> hostNames;
-  std::vector<std::string> names;
-  HostEntry entry;
-  while (listing->next(entry)) {
-    const std::string pcName = ansiFromUtf8(entry.name);
-    if (equalFolded(pcName, name) && (!best || entry.name < *best)) best = entry.name;
-    if (!mayBeShort) continue;
-    hostNames.push_back(entry.name);
-    names.push_back(pcName);
-  }
-  if (best || !mayBeShort) return best;
-  const std::vector<std::string> shorts = shortNames(names);
-  const auto found = std::ranges::find_if(shorts, [&](const auto& text) { return equalFolded(text, name); });
-  if (found == shorts.end()) return std::nullopt;
-  return hostNames[static_cast<std::size_t>(found - shorts.begin())];
+constexpr std::size_t MostFolders = 16;  // whose names are remembered
+
+// Of a deep path only some folders are held open: the last ones, and every so many of the others.
+constexpr std::size_t LastHeld = 32;
+constexpr std::size_t HeldStep = 256;
+
+bool isLink(HostDir& folder, const std::string& name) {
+  HostStat stat;
+  return folder.stat(name, stat) == HostError::None && stat.kind == HostKind::Link;
 }
 
 }  // namespace
@@ -55,6 +40,56 @@ std::size_t FolderDisk::sharedParts(const FolderPath& path, std::size_t parts) c
   return shared;
 }
 
+FolderNames& FolderDisk::namesOf(HostDir& folder, const FolderPath& path, std::size_t parts) {
+  FolderPath prefix{path.drive, {}};
+  prefix.parts.assign(path.parts.begin(), path.parts.begin() + static_cast<std::ptrdiff_t>(parts));
+  const std::string key = prefix.key();
+  auto known = names_.find(key);
+  if (known != names_.end() && !known->second.fresh()) {
+    names_.erase(known);
+    known = names_.end();
+  }
+  if (known != names_.end()) return known->second;
+  if (names_.size() == MostFolders) names_.clear();
+  return names_.emplace(key, FolderNames(folder)).first->second;
+}
+
+// Tries the part of the path as it is written and then by the names that it may mean. `hostName` is the one
+// that the last try was for; where nothing is there, as written.
+template <class Try>
+HostError FolderDisk::byAnyName(HostDir& folder, const FolderPath& path, std::size_t at,
+                                std::string& hostName, Try attempt) {
+  const std::string& name = path.parts[at];
+  hostName = utf8FromAnsi(name);
+  HostError error = attempt();
+  if (error != HostError::NotFound) return error;
+  FolderNames& names = namesOf(folder, path, at);
+  while (const auto found = names.find(name)) {
+    hostName = *found;
+    error = attempt();
+    if (error != HostError::NotFound) return error;
+    names.drop(*found);
+  }
+  hostName = utf8FromAnsi(name);
+  return error;
+}
+
+void FolderDisk::letGoBefore(std::size_t at) {
+  if (at >= LastHeld && (at - LastHeld) % HeldStep != 0) open_[at - LastHeld].dir.reset();
+}
+
+// Opens the last folder anew where it was let go, from the next one above it that is held.
+void FolderDisk::holdLast() {
+  std::size_t held = open_.size() - 1;
+  while (open_[held].dir == nullptr) --held;
+  for (std::size_t at = held + 1; at < open_.size(); ++at) {
+    const HostError error = open_[at - 1].dir->openDir(open_[at].hostName, open_[at].dir);
+    if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
+    check(error);
+    letGoBefore(at);
+  }
+}
+
 HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
   if (open_.empty() || open_[0].name[0] != path.drive) {
     open_.clear();
@@ -63,21 +98,19 @@ HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
   }
   std::size_t at = sharedParts(path, parts);
   open_.resize(at + 1);
+  holdLast();
   for (; at < parts; ++at) {
     HostDir& here = *open_.back().dir;
     const std::string& name = path.parts[at];
     std::unique_ptr<HostDir> next;
-    std::string hostName = utf8From1252(name);
-    HostError error = here.openDir(hostName, next);
-    if (error == HostError::NotFound) {
-      if (const auto found = searchName(here, name)) {
-        hostName = *found;
-        error = here.openDir(hostName, next);
-      }
-    }
+    std::string hostName;
+    const HostError error = byAnyName(here, path, at, hostName, [&] { return here.openDir(hostName, next); });
     if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
+    if (error == HostError::NotAFolder && isLink(here, hostName))
+      throw RuntimeError(ErrorNumber::PermissionDenied);
     check(error);
     open_.push_back({name, std::move(hostName), std::move(next)});
+    letGoBefore(open_.size() - 1);
   }
   return *open_.back().dir;
 }
@@ -87,9 +120,11 @@ HostDir& FolderDisk::walk(const FolderPath& path, std::size_t parts) {
   try {
     return openOn(path, parts);
   } catch (const RuntimeError& failure) {
-    if (!fromKept || failure.number() != ErrorNumber::PathNotFound) throw;
+    const bool stale =
+        failure.number() == ErrorNumber::PathNotFound || failure.number() == ErrorNumber::DeviceIo;
+    if (!fromKept || !stale) throw;
   }
-  forget();
+  open_.clear();
   return openOn(path, parts);
 }
 
@@ -101,28 +136,40 @@ FolderDisk::Place FolderDisk::place(const FolderPath& path) {
     place.exists = true;
     return place;
   }
-  place.name = utf8From1252(path.parts.back());
+  const std::size_t last = path.parts.size() - 1;
   for (bool fromKept = !open_.empty();; fromKept = false) {
-    place.parent = &walk(path, path.parts.size() - 1);
-    HostError error = place.parent->stat(place.name, place.stat);
-    if (error == HostError::NotFound) {
-      if (const auto found = searchName(*place.parent, path.parts.back())) {
-        place.name = *found;
-        error = place.parent->stat(place.name, place.stat);
-      }
-    }
+    place.parent = &walk(path, last);
+    const HostError error = byAnyName(*place.parent, path, last, place.name,
+                                      [&] { return place.parent->stat(place.name, place.stat); });
     place.exists = error == HostError::None;
     if (place.exists) return place;
     if (error != HostError::NotFound) check(error);
     if (!fromKept) return place;
-    forget();
+    open_.clear();
   }
+}
+
+std::string FolderDisk::shortName(const FolderPath& path) {
+  const Place found = place(path);
+  if (!found.exists) throw RuntimeError(ErrorNumber::FileNotFound);
+  if (found.parent == nullptr) return {};
+  const std::size_t last = path.parts.size() - 1;
+  // Some hosts find a name without regard to case, and then do not tell their own.
+  const auto told = [&] {
+    FolderNames& names = namesOf(*found.parent, path, last);
+    if (const auto name = names.shortName(found.name)) return name;
+    const auto own = names.find(path.parts[last]);
+    return own ? names.shortName(*own) : std::nullopt;
+  };
+  if (const auto name = told()) return *name;
+  names_.clear();  // it came later
+  return told().value_or(path.parts[last]);
 }
 
 FolderPath FolderDisk::pathOf(const Place& place) const {
   FolderPath path{open_.front().name[0], {}};
-  for (std::size_t i = 1; i < open_.size(); ++i) path.parts.push_back(ansiFromUtf8(open_[i].hostName));
-  if (place.parent != nullptr) path.parts.push_back(ansiFromUtf8(place.name));
+  for (std::size_t i = 1; i < open_.size(); ++i) path.parts.push_back(toldNameFromUtf8(open_[i].hostName));
+  if (place.parent != nullptr) path.parts.push_back(toldNameFromUtf8(place.name));
   return path;
 }
 

@@ -3,10 +3,12 @@
 // turns out stale is opened anew.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "platform/folder/FolderNames.h"
 #include "platform/folder/FolderPath.h"
 #include "platform/folder/HostDir.h"
 #include "platform/folder/PcFacts.h"
@@ -32,8 +34,15 @@ class FolderDisk {
   FolderPath pathOf(const Place& place) const;
   // The folder that a path names; fails in the same way, for the last part too. Good until the next call.
   HostDir& folder(const FolderPath& path) { return walk(path, path.parts.size()); }
-  // Forgets the handles. For those who change the disk in another way.
-  void forget() { open_.clear(); }
+  // The 8.3 name of what a path leads to, without its folder. RuntimeError 53 where it is missing.
+  std::string shortName(const FolderPath& path);
+  // Forgets the handles and names. For those who change the disk in another way.
+  void forget() {
+    open_.clear();
+    names_.clear();
+  }
+  // Forgets the names. For those who have made an entry.
+  void forgetNames() { names_.clear(); }
 
   // In the order of their letters: the directories named by one upper-case letter and the drives told by the
   // facts.
@@ -41,19 +50,27 @@ class FolderDisk {
 
  private:
   struct Open {
-    std::string name;      // as the path wrote it
-    std::string hostName;  // on the host
-    std::unique_ptr<HostDir> dir;
+    std::string name;              // as the path wrote it
+    std::string hostName;          // on the host
+    std::unique_ptr<HostDir> dir;  // null where it was let go
   };
 
   HostDir& walk(const FolderPath& path, std::size_t parts);
   HostDir& openOn(const FolderPath& path, std::size_t parts);
+  void letGoBefore(std::size_t at);
+  void holdLast();
+  template <class Try>
+  HostError byAnyName(HostDir& folder, const FolderPath& path, std::size_t at, std::string& hostName,
+                      Try attempt);
+  // Those of the folder that the first parts of the path lead to.
+  FolderNames& namesOf(HostDir& folder, const FolderPath& path, std::size_t parts);
   std::unique_ptr<HostDir> openDrive(char letter);
   std::size_t sharedParts(const FolderPath& path, std::size_t parts) const;
 
   HostDir& root_;
   const PcFacts& facts_;
-  std::vector<Open> open_;  // the drive, then folder by folder
+  std::vector<Open> open_;                    // the drive, then folder by folder
+  std::map<std::string, FolderNames> names_;  // by FolderPath::key of the folder
 };
 
 }  // namespace zub

@@ -1,6 +1,7 @@
 #include "platform/folder/FolderFiles.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/RuntimeError.h"
 #include "platform/folder/CodePage1252.h"
@@ -8,39 +9,37 @@
 #include "platform/folder/FolderSearch.h"
 #include "platform/folder/HostFailure.h"
 #include "platform/folder/HostText.h"
-#include "platform/folder/ShortName.h"
 
 namespace zub {
 namespace {
 
 // Some hosts do not remove a read-only file.
-void removeForced(HostDir& folder, const std::string& name) {
-  HostError error = folder.removeFile(name);
-  if (error == HostError::NoRights && folder.setReadOnly(name, false) == HostError::None) {
-    error = folder.removeFile(name);
-  }
-  check(error);
+HostError removeForced(HostDir& folder, const std::string& name) {
+  const HostError error = folder.removeFile(name);
+  if (error != HostError::NoRights || folder.setReadOnly(name, false) != HostError::None) return error;
+  return folder.removeFile(name);
 }
 
-// The 8.3 name of the entry that a path calls `part` and the host, if it knows it as told, `hostName`.
-std::string shortNameIn(HostList& listing, const std::string& hostName, const std::string& part) {
-  std::vector<std::string> names;
-  std::size_t place = std::string::npos;
-  HostEntry entry;
-  while (listing.next(entry)) {
-    if (entry.name == hostName) place = names.size();
-    names.push_back(ansiFromUtf8(entry.name));
+// What lies at one path.
+class OneEntry : public FileSearch {
+ public:
+  explicit OneEntry(FoundFile entry) : entry_(std::move(entry)) {}
+  bool next(FoundFile& found) override {
+    if (std::exchange(told_, true)) return false;
+    found = entry_;
+    return true;
   }
-  const std::vector<std::string> shorts = shortNames(names);
-  for (std::size_t i = 0; i < names.size() && place == std::string::npos; ++i) {
-    if (equalFolded(names[i], part) || equalFolded(shorts[i], part)) place = i;
-  }
-  if (place == std::string::npos) throw RuntimeError(ErrorNumber::FileNotFound);
-  return shorts[place];
-}
 
-bool isFolder(const FolderDisk::Place& place) {
-  return place.exists && place.stat.kind == HostKind::Folder;
+ private:
+  FoundFile entry_;
+  bool told_ = false;
+};
+
+bool isFolder(const HostStat& stat) {
+  return stat.kind == HostKind::Folder;
+}
+bool isFolderOrLink(const HostStat& stat) {
+  return isFolder(stat) || stat.toFolder;
 }
 
 }  // namespace
@@ -69,16 +68,31 @@ FolderDisk::Place FolderFiles::placeOf(FolderPath& path) {
   return place;
 }
 
-FolderDisk::Place FolderFiles::look(std::string_view path) {
+FolderDisk::Place FolderFiles::filePlaceOf(FolderPath& path) {
+  const bool namesFolder = path.namesFolder;
+  Place place = placeOf(path);
+  const bool isFile = !place.exists || !isFolderOrLink(place.stat);
+  if (isFile && namesFolder) throw RuntimeError(ErrorNumber::PathNotFound);
+  return place;
+}
+
+std::optional<FolderDisk::Place> FolderFiles::look(std::string_view path) {
   seenPath_.clear();
-  return disk_.place(parse(path));
+  try {
+    const FolderPath parts = parse(path);
+    Place place = disk_.place(parts);
+    if (place.exists && (!parts.namesFolder || isFolderOrLink(place.stat))) return place;
+  } catch (const RuntimeError& failure) {
+    if (!nothingThere(failure.number())) throw;
+  }
+  return std::nullopt;
 }
 
 const FolderDisk::Place& FolderFiles::lookOn(std::string_view path) {
   if (seenPath_.empty() || seenPath_ != path) {
     seenPath_.clear();
     seenParts_ = parse(path);
-    seen_ = placeOf(seenParts_);
+    seen_ = filePlaceOf(seenParts_);
     if (!seen_.exists) throw RuntimeError(ErrorNumber::FileNotFound);
     seenPath_ = path;
   }
@@ -105,24 +119,39 @@ std::unique_ptr<FileSearch> FolderFiles::find(std::string_view path) {
   seenPath_.clear();
   const auto behindFolder = path.find_last_of("\\/:") + 1;
   const std::string_view folder = path.substr(0, behindFolder);
+  const std::string_view pattern = path.substr(behindFolder);
   try {
+    // What may be an 8.3 name is found as in any path.
+    if (pattern.find('~') != std::string_view::npos && pattern.find_first_of("*?") == std::string_view::npos)
+      return findEntry(path);
     const FolderPath parts = folder.empty() ? facts_.current : parse(folder);
     std::unique_ptr<HostList> listing;
     check(disk_.folder(parts).list(listing));
-    auto search =
-        std::make_unique<FolderSearch>(std::move(listing), path.substr(behindFolder), parts, facts_);
+    auto search = std::make_unique<FolderSearch>(std::move(listing), pattern, parts, facts_);
     if (!search->any()) return nullptr;
     return search;
-  } catch (const RuntimeError&) {
-    return nullptr;
+  } catch (const RuntimeError& failure) {
+    if (nothingThere(failure.number())) return nullptr;
+    throw;
   }
+}
+
+std::unique_ptr<FileSearch> FolderFiles::findEntry(std::string_view path) {
+  const FolderPath parts = parse(path);
+  const Place place = disk_.place(parts);
+  if (!place.exists || parts.parts.empty()) return nullptr;
+  const FolderPath told = disk_.pathOf(place);
+  FoundFile found{told.parts.back(), attributesOf(place.stat, told, facts_)};
+  found.nFileSizeHigh = static_cast<std::uint32_t>(place.stat.size >> 32);
+  found.nFileSizeLow = static_cast<std::uint32_t>(place.stat.size);
+  return std::make_unique<OneEntry>(std::move(found));
 }
 
 std::uint32_t FolderFiles::attributes(std::string_view path) {
   seenPath_.clear();
   try {
     FolderPath parts = parse(path);
-    const Place place = placeOf(parts);
+    const Place place = filePlaceOf(parts);
     return place.exists ? attributesOf(place.stat, parts, facts_) : attribute::Invalid;
   } catch (const RuntimeError&) {
     return attribute::Invalid;
@@ -150,28 +179,27 @@ void FolderFiles::resetAttributes(std::string_view path) {
 std::unique_ptr<FileChannel> FolderFiles::open(std::string_view path, OpenMode mode) {
   seenPath_.clear();
   FolderPath parts = parse(path);
-  const Place place = placeOf(parts);
+  const Place place = filePlaceOf(parts);
   const bool writes = mode != OpenMode::Input;
   if (writes) checkWritable(parts, place);
   if (!writes && !place.exists) throw RuntimeError(ErrorNumber::FileNotFound);
   if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
   if (isLocked(parts)) throw RuntimeError(ErrorNumber::PermissionDenied);
-  const HostOpen how = !writes ? HostOpen::Read : mode == OpenMode::Output ? HostOpen::Empty : HostOpen::Make;
+  const HostOpen how = writes ? HostOpen::Make : HostOpen::Read;
   std::unique_ptr<HostFile> file;
   check(place.parent->openFile(place.name, how, file));
+  if (!place.exists) disk_.forgetNames();
   return std::make_unique<FolderChannel>(std::move(file), writes);
 }
 
 void FolderFiles::replace(std::string_view path, std::string_view bytes) {
   seenPath_.clear();
-  const FolderPath parts = parse(path);
-  const Place place = disk_.place(parts);
+  FolderPath parts = parse(path);
+  const Place place = filePlaceOf(parts);
   checkWritable(parts, place);
   if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
-  std::string beside = place.name + ".new";
-  HostStat taken;
-  while (place.parent->stat(beside, taken) == HostError::None) beside += '_';  // somebody's own file
-  replaceHostText(*place.parent, place.name, bytes, beside);
+  check(replaceHostFile(*place.parent, place.name, bytes));
+  if (!place.exists) disk_.forgetNames();
 }
 
 std::int64_t FolderFiles::openedLength(std::string_view path) {
@@ -190,20 +218,31 @@ void FolderFiles::remove(std::string_view path) {
   check(error);
 }
 
+std::int64_t FolderFiles::removable(std::string_view path, Removal how) {
+  const Place& place = lookOn(path);
+  checkDrive(seenParts_.drive);
+  if (isFolder(place.stat) != (how == Removal::EmptyFolder)) throw RuntimeError(ErrorNumber::PathFileAccess);
+  if (isLocked(seenParts_)) throw RuntimeError(ErrorNumber::PermissionDenied);
+  if (place.stat.readOnly && how == Removal::File) throw RuntimeError(ErrorNumber::PathFileAccess);
+  check(place.parent->mayRemove(place.name));
+  return static_cast<std::int64_t>(place.stat.size);
+}
+
 bool FolderFiles::fileExists(std::string_view path) {
   try {
-    const Place place = look(path);
-    return place.exists && !isFolder(place);
+    const auto place = look(path);
+    return place && !isFolderOrLink(place->stat);
   } catch (const RuntimeError&) {
-    return false;
+    return true;
   }
 }
 
 bool FolderFiles::folderExists(std::string_view path) {
   try {
-    return isFolder(look(path));
+    const auto place = look(path);
+    return place && isFolderOrLink(place->stat);
   } catch (const RuntimeError&) {
-    return false;
+    return true;
   }
 }
 
@@ -214,6 +253,7 @@ void FolderFiles::createFolder(std::string_view path) {
   checkDrive(parts.drive);
   if (place.exists) throw RuntimeError(ErrorNumber::PathFileAccess);
   check(place.parent->makeDir(place.name));
+  disk_.forgetNames();
 }
 
 void FolderFiles::deleteFolder(std::string_view path) {
@@ -222,44 +262,51 @@ void FolderFiles::deleteFolder(std::string_view path) {
   if (parsePath(path, facts_.current, parts) != PathFault::None)
     throw RuntimeError(ErrorNumber::PathNotFound);
   const Place place = placeOf(parts);
-  if (!isFolder(place)) throw RuntimeError(ErrorNumber::PathNotFound);
+  if (!place.exists || !isFolder(place.stat)) throw RuntimeError(ErrorNumber::PathNotFound);
   checkDrive(parts.drive);
   if (parts.parts.empty()) throw RuntimeError(ErrorNumber::PathFileAccess);
-  removeTree(*place.parent, place.name, parts);
+  check(removeTree(*place.parent, place.name, parts));
 }
 
 // Depth first. What comes in while the tree goes is left to another round, as long as a round gets on. The
 // folder is closed before it is removed, which some hosts need. `path` is the folder's own.
-void FolderFiles::removeTree(HostDir& parent, const std::string& name, FolderPath& path) {
+HostError FolderFiles::removeTree(HostDir& parent, const std::string& name, FolderPath& path) {
+  HostError kept = HostError::None;
   HostError error = HostError::NotEmpty;
-  for (bool removedSome = true; error == HostError::NotEmpty && removedSome;) {
-    removedSome = removeContent(parent, name, path);
+  for (bool removedSome = true; kept == HostError::None && error == HostError::NotEmpty && removedSome;) {
+    kept = removeContent(parent, name, path, removedSome);
     error = parent.removeDir(name);
   }
-  check(error);
-  if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
+  if (error == HostError::None && facts_.anyAttributes()) facts_.dropAttributes(path.key());
+  return kept != HostError::None ? kept : error;
 }
 
-bool FolderFiles::removeContent(HostDir& parent, const std::string& name, FolderPath& path) {
+HostError FolderFiles::removeContent(HostDir& parent, const std::string& name, FolderPath& path,
+                                     bool& removedSome) {
   std::unique_ptr<HostDir> folder;
   std::unique_ptr<HostList> listing;
-  check(parent.openDir(name, folder));
-  check(folder->list(listing));
-  bool removedSome = false;
+  removedSome = false;
+  HostError kept = parent.openDir(name, folder);
+  if (kept == HostError::None) kept = folder->list(listing);
+  if (kept != HostError::None) return kept;
   HostEntry entry;
   while (listing->next(entry)) {
-    path.parts.push_back(ansiFromUtf8(entry.name));
-    if (isLocked(path)) throw RuntimeError(ErrorNumber::PermissionDenied);
-    if (entry.stat.kind == HostKind::Folder) {
-      removeTree(*folder, entry.name, path);
-    } else {
-      removeForced(*folder, entry.name);
-      if (facts_.anyAttributes()) facts_.dropAttributes(path.key());
-    }
+    path.parts.push_back(toldNameFromUtf8(entry.name));
+    const HostError error = removeEntry(*folder, entry, path);
     path.parts.pop_back();
-    removedSome = true;
+    if (error == HostError::None) removedSome = true;
+    if (kept == HostError::None) kept = error;
   }
-  return removedSome;
+  return kept != HostError::None ? kept : listing->failure();
+}
+
+HostError FolderFiles::removeEntry(HostDir& folder, const HostEntry& entry, FolderPath& path) {
+  if (isLocked(path)) return HostError::InUse;
+  if (entry.stat.kind == HostKind::Folder) return removeTree(folder, entry.name, path);
+  const HostError error = removeForced(folder, entry.name);
+  if (error == HostError::NotFound) return HostError::None;  // gone meanwhile
+  if (error == HostError::None && facts_.anyAttributes()) facts_.dropAttributes(path.key());
+  return error;
 }
 
 std::string FolderFiles::shortPath(std::string_view path) {
@@ -270,12 +317,10 @@ std::string FolderFiles::shortPath(std::string_view path) {
     FolderPath result{parts.drive, {}};
     FolderPath walked{parts.drive, {}};
     for (const std::string& part : parts.parts) {
-      std::unique_ptr<HostList> listing;
-      check(disk_.folder(walked).list(listing));
       walked.parts.push_back(part);
-      result.parts.push_back(shortNameIn(*listing, disk_.place(walked).name, part));
+      result.parts.push_back(disk_.shortName(walked));
     }
-    return result.text();
+    return facts_.family->raisesShortNames ? folded(result.text()) : result.text();
   } catch (const RuntimeError&) {
     return {};
   }

@@ -1,6 +1,8 @@
 // Files and folders of a PC in a folder.
 #pragma once
 
+#include <optional>
+
 #include "platform/Files.h"
 #include "platform/folder/FolderDisk.h"
 #include "platform/folder/PcFacts.h"
@@ -17,16 +19,14 @@ class FolderFiles : public Files {
   void resetAttributes(std::string_view path) override;
   std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override;
   std::int64_t openedLength(std::string_view path) override;
+  std::int64_t removable(std::string_view path, Removal how) override;
   void remove(std::string_view path) override;
+  void replace(std::string_view path, std::string_view bytes) override;
   bool fileExists(std::string_view path) override;
   bool folderExists(std::string_view path) override;
   void createFolder(std::string_view path) override;
   void deleteFolder(std::string_view path) override;
   std::string shortPath(std::string_view path) override;
-
-  // Writes a file whole: at every moment it is the old one or the new one. RuntimeError as for opening it,
-  // PcError where the host fails; then it is the old one.
-  void replace(std::string_view path, std::string_view bytes);
 
   // Forgets what is remembered of the disk. For those who change it in another way.
   void forget();
@@ -34,19 +34,25 @@ class FolderFiles : public Files {
  private:
   using Place = FolderDisk::Place;
 
+  // The one entry that a path without a wildcard names.
+  std::unique_ptr<FileSearch> findEntry(std::string_view path);
   FolderPath parse(std::string_view path) const;
   // Where the path leads. It becomes the path as the disk has it, by which the facts know a file.
   Place placeOf(FolderPath& path);
-  Place look(std::string_view path);
+  // The same for a file: a path that ends in a backslash leads to none.
+  Place filePlaceOf(FolderPath& path);
+  // Nothing where it is known that the path leads nowhere; throws where it cannot be looked at.
+  std::optional<Place> look(std::string_view path);
   // Removing a file asks three things of it, one after the other. What resetting its attributes has seen is
   // good for the two calls that follow on the same path.
   const Place& lookOn(std::string_view path);
   void checkWritable(const FolderPath& path, const Place& place) const;
   bool isLocked(const FolderPath& path) const;
   void checkDrive(char drive) const;
-  // Whether anything was there to remove.
-  bool removeContent(HostDir& parent, const std::string& name, FolderPath& path);
-  void removeTree(HostDir& parent, const std::string& name, FolderPath& path);
+  // Removes all that can go; why something stays, first of all.
+  HostError removeTree(HostDir& parent, const std::string& name, FolderPath& path);
+  HostError removeContent(HostDir& parent, const std::string& name, FolderPath& path, bool& removedSome);
+  HostError removeEntry(HostDir& folder, const HostEntry& entry, FolderPath& path);
 
   FolderDisk& disk_;
   PcFacts& facts_;

@@ -1,8 +1,8 @@
 #include "platform/folder/FolderPath.h"
 
 #include <algorithm>
-#include <array>
 
+#include "platform/ToldName.h"
 #include "platform/folder/CodePage1252.h"
 
 namespace zub {
@@ -17,22 +17,19 @@ bool isIllegal(char c) {
          std::string_view("<>:\"|?*\\/").find(c) != std::string_view::npos;
 }
 
-// Devices have their names in every folder, with any extension.
-bool isDevice(std::string_view name) {
-  static constexpr std::array<std::string_view, 7> Plain = {"CON",    "PRN",     "AUX",   "NUL",
-                                                            "CONIN$", "CONOUT$", "CLOCK$"};
-  name = name.substr(0, name.find('.'));
-  name = name.substr(0, name.find_last_not_of(' ') + 1);
-  if (std::ranges::any_of(Plain, [&](std::string_view device) { return equalFolded(device, name); })) {
-    return true;
-  }
-  const std::string_view port = name.substr(0, 3);
-  return name.size() == 4 && name[3] >= '1' && name[3] <= '9' &&
-         (equalFolded(port, "COM") || equalFolded(port, "LPT"));
-}
-
 std::string_view withoutEnd(std::string_view part) {
   return part.substr(0, part.find_last_not_of(". ") + 1);
+}
+
+// No path leads to an entry by such a name; stand-ins are not looked into.
+bool isLegal(std::string_view name) {
+  if (name.empty() || isDeviceName(name)) return false;
+  while (!name.empty()) {
+    const std::size_t standIn = standInSize(name);
+    if (standIn == 0 && isIllegal(name.front())) return false;
+    name.remove_prefix(std::max<std::size_t>(standIn, 1));
+  }
+  return true;
 }
 
 }  // namespace
@@ -50,12 +47,6 @@ std::string FolderPath::key() const {
   return folded(text());
 }
 
-bool isLegalName(std::string_view name) {
-  constexpr std::size_t longest = 255;
-  return !name.empty() && name.size() <= longest && withoutEnd(name) == name &&
-         std::ranges::none_of(name, isIllegal) && !isDevice(name);
-}
-
 PathFault parsePath(std::string_view path, const FolderPath& current, FolderPath& result) {
   const auto isSeparator = [](char c) { return c == '\\' || c == '/'; };
   if (path.empty()) return PathFault::BadName;
@@ -63,6 +54,7 @@ PathFault parsePath(std::string_view path, const FolderPath& current, FolderPath
 
   result.drive = current.drive;
   result.parts.clear();
+  result.namesFolder = isSeparator(path.back());
   if (path.size() > 1 && path[1] == ':' && isLetter(path[0])) {
     result.drive = static_cast<char>(UpperCase1252[static_cast<unsigned char>(path[0])]);
     path.remove_prefix(2);
@@ -80,7 +72,7 @@ PathFault parsePath(std::string_view path, const FolderPath& current, FolderPath
       continue;
     }
     const std::string_view name = withoutEnd(part);
-    if (!isLegalName(name)) return PathFault::BadName;
+    if (!isLegal(name)) return PathFault::BadName;
     result.parts.emplace_back(name);
   }
   return PathFault::None;

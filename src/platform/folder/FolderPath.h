@@ -11,6 +11,7 @@ namespace zub {
 struct FolderPath {
   char drive = 'C';                // upper case
   std::vector<std::string> parts;  // as written, without blanks and dots at their ends; none for the root
+  bool namesFolder = false;        // written with a separator at its end: no file is meant
 
   // "C:\Parts\Of it", folded: equal for equal paths.
   std::string key() const;
@@ -20,16 +21,12 @@ struct FolderPath {
 
 enum class PathFault : std::uint8_t {
   None,
-  BadName,    // holds a part that no file can have: an illegal character, a device, blanks and dots only,
-              // more than 255 characters
+  BadName,    // holds a part that no file can have: an illegal character, a device, blanks and dots only
   NoNetwork,  // a network path; a PC in a folder has none
 };
 
 // "/" counts as a backslash, "." and ".." are worked out and never lead above the root. A path without a
 // drive or without a root begins at `current`.
 PathFault parsePath(std::string_view path, const FolderPath& current, FolderPath& result);
-
-// Whether some path leads to an entry of exactly this name.
-bool isLegalName(std::string_view name);
 
 }  // namespace zub

@@ -25,29 +25,21 @@ std::unique_ptr<HostDir> openRoot(const std::string& folder) {
   return root;
 }
 
-// Differs, as good as surely, when one of the texts does.
-std::size_t markOfTexts(HostDir& root) {
-  std::size_t mark = 0;
-  for (const char* name : {FolderPc::RegistryName, PcFacts::FileName}) {
-    mark = mark * 31 + std::hash<std::string>{}(readHostText(root, name).value_or(""));
+RegistryTree readRegistry(const std::optional<std::string>& text) {
+  RegistryTree tree;
+  if (!text) return tree;
+  tree = readRegistryText(*text, FolderPc::RegistryName);
+  if (!canBeWritten(tree, MostTextBytes)) {
+    throw PcError(FolderPc::RegistryName, 0, "is too large: it could not be saved");
   }
-  return mark;
-}
-
-RegistryTree readRegistry(HostDir& root, const std::string& folder) {
-  const auto text = readHostText(root, FolderPc::RegistryName);
-  HostStat facts;
-  if (!text && root.stat(PcFacts::FileName, facts) != HostError::None) {
-    throw PcError(folder, 0, "is no PC: it holds neither pc.txt nor registry.reg");
-  }
-  return text ? readRegistryText(*text, FolderPc::RegistryName) : RegistryTree{};
+  return tree;
 }
 
 void make(HostDir& folder, const std::string& name, std::unique_ptr<HostDir>& made) {
   HostError error = folder.makeDir(name);
   if (error == HostError::None) error = folder.openDir(name, made);
   if (error != HostError::None) {
-    throw PcError(name, 0, "cannot be made: " + std::string(descriptionOf(errorNumberOf(error))));
+    throw PcError(name, 0, "cannot be made: " + reasonOf(error));
   }
 }
 
@@ -65,21 +57,51 @@ std::unique_ptr<HostDir> openNew(std::string folder) {
 
 }  // namespace
 
+FolderPc::Texts FolderPc::readTexts(HostDir& root) {
+  return {readHostText(root, RegistryName), readHostText(root, PcFacts::FileName)};
+}
+
+std::size_t FolderPc::Texts::mark() const {
+  const std::hash<std::string_view> hash;
+  return hash(registry.value_or("")) * 31 + hash(facts.value_or(""));
+}
+
 FolderPc::FolderPc(const std::string& folder, std::string commandLine, DamagedTasks damaged)
-    : root_(openRoot(folder)),
-      textsRead_(markOfTexts(*root_)),
-      tree_(readRegistry(*root_, folder)),
-      facts_(readHostText(*root_, PcFacts::FileName).value_or("")),
-      rules_{!facts_.nt, facts_.noRights},
-      disk_(*root_, facts_),
+    : FolderPc(open(folder), std::move(commandLine), damaged) {}
+
+FolderPc::FolderPc(Opened opened, std::string commandLine, DamagedTasks damaged)
+    : root_(std::move(opened.root)),
+      textsRead_(opened.texts.mark()),
+      tree_(readRegistry(opened.texts.registry)),
+      facts_(opened.texts.facts.value_or("")),
+      rules_{facts_.family, facts_.noRights},
+      watched_(watched(*root_, failures_)),
+      disk_(*watched_, facts_),
       registry(tree_, rules_),
       files(disk_, facts_),
       drives(disk_, facts_),
       folders(facts_),
       restart(files, facts_),
-      shell(files, drives),
-      process(*root_, std::move(commandLine), [this] { return markOfTexts(*root_) != textsRead_; }),
+      shell(files, drives, *facts_.family),
+      process(*root_, std::move(commandLine), [this] { return isOutdated(); }),
       tasks(*root_, damaged) {}
+
+FolderPc::Opened FolderPc::open(const std::string& folder) {
+  auto root = openRoot(folder);
+  Texts texts = readTexts(*root);
+  if (!texts.registry && !texts.facts) {
+    throw PcError(folder, 0, "is no PC: it holds neither pc.txt nor registry.reg");
+  }
+  return {std::move(root), std::move(texts)};
+}
+
+// Asked once the folder is taken: nobody else saves meanwhile.
+bool FolderPc::isOutdated() {
+  for (const char* name : {RegistryName, PcFacts::FileName, FolderTasks::FileName}) {
+    removeLeftBeside(*root_, name);
+  }
+  return readTexts(*root_).mark() != textsRead_;
+}
 
 Platform FolderPc::platform(EventLoop& events, Messages& messages) {
   return {codePage, registry, files,  drives,   folders, restart, shell,
@@ -87,23 +109,39 @@ Platform FolderPc::platform(EventLoop& events, Messages& messages) {
 }
 
 void FolderPc::save() {
+  std::string failures;
+  const auto tried = [&](const auto& saving) {
+    try {
+      saving();
+    } catch (const PcError& error) {
+      failures += (failures.empty() ? "" : "; ") + std::string(error.what());
+    }
+  };
   if (registry.changed()) {
-    replaceHostText(*root_, RegistryName, writeRegistryText(tree_));
-    registry.changed(false);
+    tried([&] {
+      replaceHostText(*root_, RegistryName, writeRegistryText(tree_));
+      registry.changed(false);
+    });
   }
   if (facts_.changed()) {
-    replaceHostText(*root_, PcFacts::FileName, facts_.text());
-    facts_.saved();
+    tried([&] {
+      replaceHostText(*root_, PcFacts::FileName, facts_.text());
+      facts_.saved();
+    });
   }
+  tried([&] { tasks.throwUnsaved(); });
+  if (!failures.empty()) throw PcError(failures);
 }
 
 void createPc(const std::string& folder) {
   const auto root = openNew(folder);
+  if (root->take() == HostError::InUse) throw PcError(folder, 0, "is in use by another program: try again");
   std::unique_ptr<HostList> listing;
   HostEntry entry;
-  if (root->list(listing) != HostError::None || listing->next(entry)) {
-    throw PcError(folder, 0, "is not empty");
-  }
+  HostError error = root->list(listing);
+  if (error == HostError::None && listing->next(entry)) throw PcError(folder, 0, "is not empty");
+  if (error == HostError::None) error = listing->failure();
+  if (error != HostError::None) throw PcError(folder, 0, "cannot be read: " + reasonOf(error));
   std::unique_ptr<HostDir> drive;
   std::unique_ptr<HostDir> parent;
   std::unique_ptr<HostDir> child;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/Platform.h"
@@ -15,6 +16,7 @@
 #include "platform/folder/HostDir.h"
 #include "platform/folder/PcFacts.h"
 #include "platform/folder/RegistryTree.h"
+#include "platform/folder/WatchedDir.h"
 
 namespace zub {
 
@@ -33,9 +35,13 @@ class FolderPc {
   // All services; the event loop and the message box are the caller's, and outlive the platform.
   Platform platform(EventLoop& events, Messages& messages);
 
-  // Makes what has changed in registry and facts lasting. PcError where that fails: then the old text stands,
-  // and a later save tries again.
+  // Makes what has changed in registry and facts lasting. Each text is tried; PcError names all that could not
+  // be saved, a text of tasks that failed earlier too. Where it fails the old text stands, and a later save
+  // tries again.
   void save();
+
+  // What failed on the drives so far and that nobody may have told.
+  const HostFailures& failures() const { return failures_; }
 
   // The content, past all services.
   RegistryTree& registryTree() { return tree_; }
@@ -43,12 +49,29 @@ class FolderPc {
   HostDir& root() { return *root_; }
 
  private:
+  // As they stood when they were read, once and together.
+  struct Texts {
+    std::optional<std::string> registry;
+    std::optional<std::string> facts;
+    std::size_t mark() const;  // differs, as good as surely, when one of the texts does
+  };
+  struct Opened {
+    std::unique_ptr<HostDir> root;
+    Texts texts;
+  };
+  FolderPc(Opened opened, std::string commandLine, DamagedTasks damaged);
+  static Opened open(const std::string& folder);
+  static Texts readTexts(HostDir& root);
+  bool isOutdated();
+
   // Below the services that use them, so made before them.
   std::unique_ptr<HostDir> root_;
   std::size_t textsRead_;  // the mark of the texts as they were read
   RegistryTree tree_;
   PcFacts facts_;
   FolderRegistry::Rules rules_;
+  HostFailures failures_;
+  std::unique_ptr<HostDir> watched_;
   FolderDisk disk_;
 
  public:

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "base/Text.h"
+#include "platform/StoredData.h"
 
 namespace zub {
 namespace {
@@ -11,13 +12,8 @@ namespace {
 constexpr std::size_t MostSlots = 0xFFFF;
 constexpr std::uint32_t GenerationMask = 0x7FFF;  // keeps handles clear of the hives
 
-namespace right {
-constexpr std::uint32_t QueryValue = 1;
-constexpr std::uint32_t SetValue = 2;
-constexpr std::uint32_t CreateSubKey = 4;
-constexpr std::uint32_t EnumerateSubKeys = 8;
-constexpr std::uint32_t Writing = SetValue | CreateSubKey;
-}  // namespace right
+// What a key without rights refuses.
+constexpr std::uint32_t Writing = access::SetValue | access::CreateSubKey | access::Delete;
 
 struct KeyPath {
   RegistryStatus status = status::Success;
@@ -99,7 +95,7 @@ std::string FolderRegistry::pathOf(RegistryKey key) {
 }
 
 RegistryStatus FolderRegistry::openSlot(RegistryNode& node, std::uint32_t rights, RegistryKey& opened) {
-  if ((rights & right::Writing) != 0 && !writable(node)) return status::AccessDenied;
+  if ((rights & Writing) != 0 && !writable(node)) return status::AccessDenied;
   auto place = std::ranges::find(slots_, false, &Slot::used);
   if (place == slots_.end()) {
     if (slots_.size() == MostSlots) return status::TooManyOpen;
@@ -159,7 +155,7 @@ RegistryStatus FolderRegistry::enumKey(RegistryKey key, std::uint32_t index, cha
                                        std::uint32_t& length) {
   const Opened from = resolve(key);
   if (from.status != status::Success) return from.status;
-  if ((from.rights & right::EnumerateSubKeys) == 0) return status::AccessDenied;
+  if ((from.rights & access::EnumerateSubKeys) == 0) return status::AccessDenied;
   if (index >= from.node->keys.size()) return status::NoMoreItems;
   return copyName(from.node->keys.at(index).first, name, length);
 }
@@ -169,7 +165,7 @@ RegistryStatus FolderRegistry::enumValue(RegistryKey key, std::uint32_t index, c
                                          std::uint32_t& dataLength) {
   const Opened from = resolve(key);
   if (from.status != status::Success) return from.status;
-  if ((from.rights & right::QueryValue) == 0) return status::AccessDenied;
+  if ((from.rights & access::QueryValue) == 0) return status::AccessDenied;
   if (index >= from.node->values.size()) return status::NoMoreItems;
   const auto& [valueName, value] = from.node->values.at(index);
   const RegistryStatus named = copyName(valueName, name, length);
@@ -180,7 +176,7 @@ RegistryStatus FolderRegistry::query(RegistryKey key, std::string_view name, std
                                      std::uint8_t* data, std::uint32_t& dataLength) {
   const Opened from = resolve(key);
   if (from.status != status::Success) return from.status;
-  if ((from.rights & right::QueryValue) == 0) return status::AccessDenied;
+  if ((from.rights & access::QueryValue) == 0) return status::AccessDenied;
   const RegistryValue* value = from.node->values.find(StripAtNull(name));
   return value == nullptr ? status::FileNotFound : copyData(*value, type, data, dataLength);
 }
@@ -189,9 +185,9 @@ RegistryStatus FolderRegistry::set(RegistryKey key, std::string_view name, std::
                                    std::span<const std::uint8_t> data) {
   const Opened to = resolve(key);
   if (to.status != status::Success) return to.status;
-  if ((to.rights & right::SetValue) == 0) return status::AccessDenied;
+  if ((to.rights & access::SetValue) == 0) return status::AccessDenied;
   name = StripAtNull(name);
-  RegistryValue value{type, std::string(data.begin(), data.end())};
+  RegistryValue value{type, storedData({data.begin(), data.end()}, type, rules_.family->cutsTexts)};
   RegistryValue* present = to.node->values.find(name);
   if (present != nullptr && *present == value) return status::Success;
   (present != nullptr ? *present : to.node->values[name]) = std::move(value);
@@ -202,7 +198,7 @@ RegistryStatus FolderRegistry::set(RegistryKey key, std::string_view name, std::
 RegistryStatus FolderRegistry::deleteValue(RegistryKey key, std::string_view name) {
   const Opened from = resolve(key);
   if (from.status != status::Success) return from.status;
-  if ((from.rights & right::SetValue) == 0) return status::AccessDenied;
+  if ((from.rights & access::SetValue) == 0) return status::AccessDenied;
   if (!from.node->values.erase(StripAtNull(name))) return status::FileNotFound;
   changed_ = true;
   return status::Success;
@@ -216,7 +212,7 @@ RegistryStatus FolderRegistry::deleteKey(RegistryKey key, std::string_view path)
   RegistryNode* node = findBelow(from.node, parts);
   if (node == nullptr) return status::FileNotFound;
   const bool isHive = node->parent == nullptr;
-  if (isHive || (!rules_.deletesTrees && !node->keys.empty()) || !treeWritable(*node)) {
+  if (isHive || (!rules_.family->deletesTrees && !node->keys.empty()) || !treeWritable(*node)) {
     return status::AccessDenied;
   }
   for (Slot& slot : slots_) {

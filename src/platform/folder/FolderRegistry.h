@@ -6,21 +6,19 @@
 #include <vector>
 
 #include "platform/Registry.h"
+#include "platform/folder/Family.h"
 #include "platform/folder/RegistryTree.h"
 
 namespace zub {
 
 namespace status {
-inline constexpr RegistryStatus InvalidParameter = 87;  // a key that cannot be
-inline constexpr RegistryStatus BadPath = 161;          // an empty part in the path
-inline constexpr RegistryStatus KeyDeleted = 1018;
 inline constexpr RegistryStatus TooManyOpen = 4;
 }  // namespace status
 
 class FolderRegistry : public Registry {
  public:
   struct Rules {
-    bool deletesTrees = true;           // a key goes with its subkeys
+    const Family* family;
     std::vector<std::string> noRights;  // paths of keys that, with all below, can only be read
   };
 

@@ -1,11 +1,13 @@
 #include "platform/folder/FolderSearch.h"
 
 #include "platform/folder/CodePage1252.h"
+#include "platform/folder/HostFailure.h"
 
 namespace zub {
 
 std::uint32_t attributesOf(const HostStat& stat, const FolderPath& path, const PcFacts& facts) {
-  std::uint32_t bits = stat.kind == HostKind::Folder ? attribute::Directory : 0;
+  std::uint32_t bits = stat.kind == HostKind::Folder || stat.toFolder ? attribute::Directory : 0;
+  if (stat.kind == HostKind::Link) bits |= attribute::Link;
   if (stat.readOnly) bits |= attribute::ReadOnly;
   if (facts.anyAttributes()) {
     const std::string key = path.key();
@@ -17,29 +19,30 @@ std::uint32_t attributesOf(const HostStat& stat, const FolderPath& path, const P
 
 FolderSearch::FolderSearch(std::unique_ptr<HostList> listing, std::string_view pattern,
                            const FolderPath& folder, const PcFacts& facts)
-    : listing_(std::move(listing)), pattern_(pattern), path_(folder), facts_(facts) {
+    : listing_(std::move(listing)), pattern_(folded(utf16FromAnsi(pattern))), path_(folder), facts_(facts) {
   path_.parts.emplace_back();
-  ahead_ = advance();
+  waiting_ = advance();
 }
 
 bool FolderSearch::advance() {
-  std::string& name = path_.parts.back();
   while (listing_->next(entry_)) {
-    name = ansiFromUtf8(entry_.name);
-    if (pattern_.matches(name) && isLegalName(name)) return true;
+    if (!pattern_.matchesEverything() && !pattern_.matches(folded(utf16FromUtf8(entry_.name)))) continue;
+    path_.parts.back() = toldNameFromUtf8(entry_.name);
+    return true;
   }
+  check(listing_->failure());
   return false;
 }
 
 bool FolderSearch::next(FoundFile& found) {
-  if (!ahead_) return false;
+  if (!waiting_ && !advance()) return false;
+  waiting_ = false;
   const bool wanted = !pattern_.matchesEverything() && entry_.stat.kind == HostKind::File;
   if (wanted && !entry_.complete) listing_->complete(entry_);
   found.name = path_.parts.back();
   found.attributes = attributesOf(entry_.stat, path_, facts_);
   found.nFileSizeHigh = static_cast<std::uint32_t>(entry_.stat.size >> 32);
   found.nFileSizeLow = static_cast<std::uint32_t>(entry_.stat.size);
-  ahead_ = advance();
   return true;
 }
 

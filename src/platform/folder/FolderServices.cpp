@@ -1,14 +1,14 @@
 #include "platform/folder/FolderServices.h"
 
 #include <algorithm>
-#include <array>
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
-#include "platform/FileReader.h"
+#include "platform/FolderContent.h"
+#include "platform/ProfileText.h"
 #include "platform/folder/CodePage1252.h"
+#include "platform/folder/HostFailure.h"
 #include "platform/folder/PcError.h"
-#include "platform/folder/ProfileText.h"
 
 namespace zub {
 namespace {
@@ -56,55 +56,27 @@ void FolderRestart::deleteAtRestart(std::string_view file) {
 
 void FolderRestart::writeProfile(std::string_view section, std::string_view key, std::string_view value,
                                  std::string_view file) {
-  const bool hasFolder = file.find_first_of("\\/:") != std::string_view::npos;
-  const std::string path = hasFolder ? std::string(file) : JoinPath(facts_.windows.text(), file);
-  try {
-    std::string text;
-    if (files_.fileExists(path)) {
-      FileReader reader(files_, path);
-      for (int c = reader.get(); c != -1; c = reader.get()) text += static_cast<char>(c);
-    }
-    const std::string changed = withProfileKey(text, section, key, value);
-    if (changed != text) files_.replace(path, changed);
-  } catch (const RuntimeError&) {
-  } catch (const PcError&) {
-  }
+  static const CodePage1252 codePage;
+  writeProfileKey(files_, codePage, facts_.windows.text(), file, {section, key, value});
 }
 
 std::uint32_t FolderRestart::platformId(std::uint32_t recordSize) {
   const bool tellsItsSize = recordSize == VersionRecord || recordSize == LongVersionRecord;
   if (!tellsItsSize) return 0;
-  return facts_.nt ? 2 : 1;
+  return facts_.family->platformId;
+}
+
+std::vector<std::string> FolderShell::recycleBins() {
+  std::vector<std::string> folders;
+  for (const std::string& drive : drives_.list()) {
+    if (drives_.type(drive) != DriveType::Fixed) continue;
+    for (const std::string_view bin : family_.recycleBins) folders.push_back(JoinPath(drive, bin));
+  }
+  return folders;
 }
 
 std::int32_t FolderShell::emptyRecycleBin(std::uint32_t) {
-  static constexpr std::array<std::string_view, 3> Bins = {"Recycled", "Recycler", "$Recycle.Bin"};
-  bool emptied = true;
-  for (const std::string& drive : drives_.list()) {
-    if (drives_.type(drive) != DriveType::Fixed) continue;
-    for (const std::string_view bin : Bins) emptied &= emptyFolder(JoinPath(drive, bin));
-  }
-  return emptied ? 0 : Failed;
-}
-
-bool FolderShell::emptyFolder(const std::string& folder) {
-  bool emptied = true;
-  const auto search = files_.find(JoinPath(folder, "*"));
-  FoundFile found;
-  while (search && search->next(found)) {
-    const std::string path = JoinPath(folder, found.name);
-    try {
-      if ((found.attributes & attribute::Directory) != 0) {
-        files_.deleteFolder(path);
-      } else {
-        files_.resetAttributes(path);
-        files_.remove(path);
-      }
-    } catch (const RuntimeError&) {
-      emptied = false;
-    }
-  }
-  return emptied;
+  return emptyFolders(files_, recycleBins()) ? 0 : Failed;
 }
 
 void FolderShell::start(std::string_view) {
@@ -112,7 +84,12 @@ void FolderShell::start(std::string_view) {
 }
 
 bool FolderProcess::otherInstanceRuns() {
-  if (!taken_) taken_ = root_.take() != HostError::InUse && !outdated_();
+  if (taken_) return false;
+  const HostError error = root_.take();
+  if (error != HostError::None && error != HostError::InUse) {
+    throw PcError("the PC", 0, "cannot be locked: " + reasonOf(error));
+  }
+  taken_ = error == HostError::None && !outdated_();
   return !taken_;
 }
 

@@ -54,30 +54,32 @@ class FolderRestart : public Restart {
 // The shell of a PC that nobody sits at: there is nothing to open and nobody to ask.
 class FolderShell : public Shell {
  public:
-  FolderShell(Files& files, Drives& drives) : files_(files), drives_(drives) {}
+  FolderShell(Files& files, Drives& drives, const Family& family)
+      : files_(files), drives_(drives), family_(family) {}
 
   // Empties the bin folders of the fixed drives and leaves the folders themselves.
   std::int32_t emptyRecycleBin(std::uint32_t flags) override;
+  std::vector<std::string> recycleBins() override;
   void updateRecycleBinIcon() override {}
   void open(std::string_view) override {}
   void start(std::string_view program) override;
   FolderPick browseForFolder(std::string_view) override { return {}; }
 
  private:
-  bool emptyFolder(const std::string& folder);
-
   Files& files_;
   Drives& drives_;
+  const Family& family_;
 };
 
 class FolderProcess : public Process {
  public:
-  // `outdated`: another program has changed the PC since this one read it.
+  // `outdated`: another program has changed the PC since this one read it; asked with the folder taken.
   FolderProcess(HostDir& root, std::string commandLine, std::function<bool()> outdated)
       : root_(root), commandLine_(std::move(commandLine)), outdated_(std::move(outdated)) {}
 
   std::string commandLine() override { return commandLine_; }
-  // Takes the PC's folder for this process where no other one has it or had it since the PC was read.
+  // Takes the PC's folder for this process where no other one has it or had it since the PC was read. PcError
+  // where the host fails.
   bool otherInstanceRuns() override;
   [[noreturn]] void end() override;
 

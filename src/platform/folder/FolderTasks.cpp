@@ -108,6 +108,10 @@ void FolderTasks::load() {
   for (const TaskRecord& task : saved) tasks_.push_back(std::make_unique<Task>(*this, task));
 }
 
+void FolderTasks::throwUnsaved() const {
+  if (unsaved_) throw *unsaved_;
+}
+
 void FolderTasks::refresh() {
   try {
     load();
@@ -145,7 +149,9 @@ void FolderTasks::saveTask(const TaskRecord& task) {
     const std::string text = writeTasksText(tasks);
     readTasksText(text, FileName);  // what cannot be read again is not saved
     replaceHostText(root_, FileName, text);
-  } catch (const PcError&) {
+    unsaved_.reset();
+  } catch (const PcError& failure) {
+    unsaved_ = failure;
     refuse();
   }
 }

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/TaskScheduler.h"
 #include "platform/folder/HostDir.h"
+#include "platform/folder/PcError.h"
 
 namespace zub {
 
@@ -44,6 +46,9 @@ class FolderTasks : public ScheduleTasks {
   FolderTasks(HostDir& root, DamagedTasks damaged);
   ~FolderTasks() override;
 
+  // PcError where the last save of a task failed: those who asked for it were told only that it did.
+  void throwUnsaved() const;
+
   void refresh() override;
   int count() override;
   ScheduleTask& at(int position) override;
@@ -56,6 +61,7 @@ class FolderTasks : public ScheduleTasks {
 
   HostDir& root_;
   std::vector<std::unique_ptr<Task>> tasks_;
+  std::optional<PcError> unsaved_;
 };
 
 }  // namespace zub

@@ -35,6 +35,7 @@ enum class HostKind : std::uint8_t { File, Folder, Link, Other };
 
 struct HostStat {
   HostKind kind = HostKind::Other;
+  bool toFolder = false;   // of links only: a folder is behind it
   bool readOnly = false;   // of files only: no owner-write permission bit; on Windows the read-only attribute
   std::uint64_t size = 0;  // of files only, in bytes
 };
@@ -54,6 +55,8 @@ class HostList {
   virtual ~HostList() = default;
   // False at the end, and where the host fails. The name keeps its capacity from call to call.
   virtual bool next(HostEntry& entry) = 0;
+  // Why a listing ended before its end.
+  virtual HostError failure() const = 0;
   // Fills size and read-only of an entry that it told; for hosts whose listings lack them.
   virtual void complete(HostEntry&) {}
 };
@@ -94,6 +97,8 @@ class HostDir {
 
   // Removes anything but a folder (NotAFile for one). A read-only file goes too where the host allows it.
   virtual HostError removeFile(const std::string& name) = 0;
+  // Whether this user may remove the entry; changes nothing.
+  virtual HostError mayRemove(const std::string& name) = 0;
   // Removes an empty folder; NotAFolder for a link.
   virtual HostError removeDir(const std::string& name) = 0;
   virtual HostError makeDir(const std::string& name) = 0;
@@ -102,10 +107,10 @@ class HostDir {
   // Within this folder; an existing file of the new name is replaced in one step. On a POSIX host
   // the new one takes over its permissions and, where this user may give it away, its owner.
   virtual HostError rename(const std::string& from, const std::string& to) = 0;
-  // The names in this folder have reached the disk. Does nothing where the host needs no such thing.
+  // The names in this folder have reached the disk. Does nothing where the host needs or knows no such thing.
   virtual HostError sync() = 0;
   // Takes this folder for this process until the HostDir goes. InUse where another HostDir on the same
-  // folder, of this or another process, has taken it.
+  // folder, of this or another process, has taken it. A disk that knows no locks lets everybody.
   virtual HostError take() = 0;
 };
 

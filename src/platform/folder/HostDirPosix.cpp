@@ -22,14 +22,14 @@ HostError errorOf(int number) {
     HostError error;
   };
   static constexpr Row Rows[] = {
-      {ENOENT, HostError::NotFound},     {ESTALE, HostError::NotFound},    {ENOTDIR, HostError::NotAFolder},
-      {ELOOP, HostError::NotAFile},      {EISDIR, HostError::NotAFile},    {ENXIO, HostError::NotAFile},
-      {EOPNOTSUPP, HostError::NotAFile}, {EEXIST, HostError::Exists},      {ENOTEMPTY, HostError::NotEmpty},
-      {EACCES, HostError::NoRights},     {EPERM, HostError::NoRights},     {EBUSY, HostError::InUse},
-      {ETXTBSY, HostError::InUse},       {EWOULDBLOCK, HostError::InUse},  {EROFS, HostError::ReadOnlyDisk},
-      {ENOSPC, HostError::DiskFull},     {EDQUOT, HostError::DiskFull},    {EFBIG, HostError::DiskFull},
-      {EMFILE, HostError::TooManyOpen},  {ENFILE, HostError::TooManyOpen}, {ENAMETOOLONG, HostError::BadName},
-      {EINVAL, HostError::BadName},      {EILSEQ, HostError::BadName},
+      {ENOENT, HostError::NotFound},    {ENOTDIR, HostError::NotAFolder},   {ELOOP, HostError::NotAFile},
+      {EISDIR, HostError::NotAFile},    {ENXIO, HostError::NotAFile},       {EOPNOTSUPP, HostError::NotAFile},
+      {EEXIST, HostError::Exists},      {ENOTEMPTY, HostError::NotEmpty},   {EACCES, HostError::NoRights},
+      {EPERM, HostError::NoRights},     {EBUSY, HostError::InUse},          {ETXTBSY, HostError::InUse},
+      {EWOULDBLOCK, HostError::InUse},  {EROFS, HostError::ReadOnlyDisk},   {ENOSPC, HostError::DiskFull},
+      {EDQUOT, HostError::DiskFull},    {EFBIG, HostError::DiskFull},       {EMFILE, HostError::TooManyOpen},
+      {ENFILE, HostError::TooManyOpen}, {ENAMETOOLONG, HostError::BadName}, {EINVAL, HostError::BadName},
+      {EILSEQ, HostError::BadName},
   };
   for (const Row& row : Rows) {
     if (row.number == number) return row.error;
@@ -54,12 +54,19 @@ HostKind kindOf(mode_t mode) {
 }
 
 HostStat statOf(const struct stat& host) {
-  HostStat stat{kindOf(host.st_mode), false, 0};
+  HostStat stat;
+  stat.kind = kindOf(host.st_mode);
   if (stat.kind == HostKind::File) {
     stat.readOnly = (host.st_mode & S_IWUSR) == 0;
     stat.size = static_cast<std::uint64_t>(host.st_size);
   }
   return stat;
+}
+
+// The kind of what is behind a link is all that is ever asked of it.
+bool leadsToFolder(int folder, const char* name) {
+  struct stat behind {};
+  return ::fstatat(folder, name, &behind, 0) == 0 && S_ISDIR(behind.st_mode);
 }
 
 class Handle {
@@ -95,7 +102,13 @@ class PosixFile : public HostFile {
                                    static_cast<off_t>(offset + read));
       if (part < 0 && errno == EINTR) continue;
       if (part < 0) return errorOf(errno);
-      if (part == 0) break;
+      if (part == 0) {
+        // Some disks that fail tell nothing but an end.
+        std::uint64_t bytes = 0;
+        const HostError error = length(bytes);
+        if (error == HostError::None && bytes > offset + read) return HostError::DeviceFailure;
+        break;
+      }
       read += static_cast<std::size_t>(part);
     }
     done = read;
@@ -107,6 +120,7 @@ class PosixFile : public HostFile {
       const ssize_t part = ::pwrite(handle_.get(), bytes.data(), bytes.size(), static_cast<off_t>(offset));
       if (part < 0 && errno == EINTR) continue;
       if (part < 0) return errorOf(errno);
+      if (part == 0) return HostError::DeviceFailure;
       bytes.remove_prefix(static_cast<std::size_t>(part));
       offset += static_cast<std::uint64_t>(part);
     }
@@ -127,26 +141,45 @@ class PosixList : public HostList {
   ~PosixList() override { ::closedir(folder_); }
 
   bool next(HostEntry& entry) override {
-    while (const dirent* found = ::readdir(folder_)) {
+    while (const dirent* found = nextOfHost()) {
       entry.name = found->d_name;
       if (!isPart(entry.name)) continue;
       entry.stat = {};
       entry.complete = false;
-      if (kindByType(found->d_type, entry.stat.kind)) return true;
+      if (kindByType(found->d_type, entry.stat.kind)) {
+        if (entry.stat.kind == HostKind::Link)
+          entry.stat.toFolder = leadsToFolder(::dirfd(folder_), entry.name.c_str());
+        return true;
+      }
       complete(entry);
       if (entry.complete) return true;
     }
     return false;
   }
 
+  HostError failure() const override { return failure_; }
+
+  // An entry that is gone meanwhile is none.
   void complete(HostEntry& entry) override {
     struct stat host {};
-    if (::fstatat(::dirfd(folder_), entry.name.c_str(), &host, AT_SYMLINK_NOFOLLOW) < 0) return;
+    if (::fstatat(::dirfd(folder_), entry.name.c_str(), &host, AT_SYMLINK_NOFOLLOW) < 0) {
+      if (errno != ENOENT) failure_ = errorOf(errno);
+      return;
+    }
     entry.stat = statOf(host);
+    if (entry.stat.kind == HostKind::Link)
+      entry.stat.toFolder = leadsToFolder(::dirfd(folder_), entry.name.c_str());
     entry.complete = true;
   }
 
  private:
+  const dirent* nextOfHost() {
+    errno = 0;
+    const dirent* found = ::readdir(folder_);
+    if (found == nullptr && errno != 0) failure_ = errorOf(errno);
+    return found;
+  }
+
   static bool kindByType(unsigned char type, HostKind& kind) {
     if (type == DT_UNKNOWN) return false;
     kind = type == DT_REG   ? HostKind::File
@@ -157,6 +190,7 @@ class PosixList : public HostList {
   }
 
   DIR* folder_;
+  HostError failure_ = HostError::None;
 };
 
 constexpr int FolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
@@ -188,6 +222,7 @@ class PosixDir : public HostDir {
     struct stat host {};
     if (::fstatat(handle_.get(), name.c_str(), &host, AT_SYMLINK_NOFOLLOW) < 0) return errorOf(errno);
     found = statOf(host);
+    if (found.kind == HostKind::Link) found.toFolder = leadsToFolder(handle_.get(), name.c_str());
     return HostError::None;
   }
 
@@ -215,6 +250,19 @@ class PosixDir : public HostDir {
       return HostError::NotAFile;
     }
     return errorOf(failure);
+  }
+
+  HostError mayRemove(const std::string& name) override {
+    if (!isPart(name)) return HostError::BadName;
+    if (::faccessat(handle_.get(), ".", W_OK | X_OK, AT_EACCESS) < 0) return errorOf(errno);
+    struct stat folder {};
+    struct stat entry {};
+    if (::fstat(handle_.get(), &folder) < 0) return errorOf(errno);
+    if ((folder.st_mode & S_ISVTX) == 0 || ::geteuid() == 0 || ::geteuid() == folder.st_uid)
+      return HostError::None;
+    // In such a folder everybody removes only what is his.
+    if (::fstatat(handle_.get(), name.c_str(), &entry, AT_SYMLINK_NOFOLLOW) < 0) return errorOf(errno);
+    return entry.st_uid == ::geteuid() ? HostError::None : HostError::NoRights;
   }
 
   HostError removeDir(const std::string& name) override {
@@ -247,9 +295,16 @@ class PosixDir : public HostDir {
     return result(::renameat(handle_.get(), from.c_str(), handle_.get(), to.c_str()));
   }
 
-  HostError sync() override { return result(::fsync(handle_.get())); }
+  HostError sync() override {
+    const bool done = ::fsync(handle_.get()) == 0 || errno == EINVAL || errno == EOPNOTSUPP;
+    return done ? HostError::None : errorOf(errno);
+  }
 
-  HostError take() override { return result(::flock(handle_.get(), LOCK_EX | LOCK_NB)); }
+  HostError take() override {
+    if (::flock(handle_.get(), LOCK_EX | LOCK_NB) == 0) return HostError::None;
+    const bool unknown = errno == EBADF || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
+    return unknown ? HostError::None : errorOf(errno);
+  }
 
  private:
   // The permissions of a file that is replaced, and its owner. Not all disks and users can.

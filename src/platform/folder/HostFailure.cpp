@@ -29,6 +29,10 @@ ErrorNumber errorNumberOf(HostError error) {
   return ErrorNumber::DeviceIo;
 }
 
+std::string reasonOf(HostError error) {
+  return std::string(descriptionOf(errorNumberOf(error)));
+}
+
 void check(HostError error) {
   if (error != HostError::None) throw RuntimeError(errorNumberOf(error));
 }

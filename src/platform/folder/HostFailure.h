@@ -1,12 +1,17 @@
 // What the host's failures are to the program.
 #pragma once
 
+#include <string>
+
 #include "base/RuntimeError.h"
 #include "platform/folder/HostDir.h"
 
 namespace zub {
 
 ErrorNumber errorNumberOf(HostError error);
+
+// Its text, for a message.
+std::string reasonOf(HostError error);
 
 // Throws RuntimeError unless there is no error.
 void check(HostError error);

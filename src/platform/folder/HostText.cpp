@@ -1,26 +1,72 @@
 #include "platform/folder/HostText.h"
 
+#include <unistd.h>
+
 #include "platform/folder/HostFailure.h"
 #include "platform/folder/PcError.h"
 
 namespace zub {
 namespace {
 
-constexpr std::uint64_t MostBytes = std::uint64_t{1} << 28;
+constexpr int MostTries = 100;  // of names beside
+constexpr std::string_view BesideEnd = ".new";
 
-std::string reasonOf(HostError error) {
-  return std::string(descriptionOf(errorNumberOf(error)));
+// "is larger than 512 MiB".
+std::string tooLarge(const char* verb) {
+  return std::string(verb) + " larger than " + std::to_string(MostTextBytes >> 20) + " MiB";
 }
 
-HostError writeNew(HostDir& folder, const std::string& name, std::string_view text) {
-  // What a process that was killed while it saved has left.
-  const HostError removed = folder.removeFile(name);
-  if (removed != HostError::None && removed != HostError::NotFound) return removed;
-  std::unique_ptr<HostFile> file;
-  HostError error = folder.openFile(name, HostOpen::New, file);
-  if (error == HostError::None) error = file->write(0, text);
-  if (error == HostError::None) error = file->sync();
-  return error;
+// The file beside. It goes unless it has been put in place, whatever happens.
+class Beside {
+ public:
+  Beside(HostDir& folder, const std::string& name) : folder_(folder), name_(name) {}
+  Beside(const Beside&) = delete;
+  Beside& operator=(const Beside&) = delete;
+  ~Beside() {
+    file_.reset();
+    if (made_) folder_.removeFile(beside_);
+  }
+
+  HostError write(std::string_view bytes) {
+    HostError error = make();
+    if (error == HostError::None) error = file_->write(0, bytes);
+    if (error == HostError::None) error = file_->sync();
+    file_.reset();
+    return error;
+  }
+  HostError putInPlace() {
+    const HostError error = folder_.rename(beside_, name_);
+    made_ = error != HostError::None;
+    return error;
+  }
+
+ private:
+  // Under a name that nobody has: a file of somebody else's stays as it is.
+  HostError make() {
+    const std::string own = name_ + "." + std::to_string(::getpid());
+    HostError error = HostError::Exists;
+    for (int number = 0; error == HostError::Exists && number < MostTries; ++number) {
+      beside_ = own + (number == 0 ? "" : "-" + std::to_string(number)) + std::string(BesideEnd);
+      made_ = true;  // also where the call fails after that
+      error = folder_.openFile(beside_, HostOpen::New, file_);
+      if (error == HostError::Exists) made_ = false;
+    }
+    return error;
+  }
+
+  HostDir& folder_;
+  const std::string& name_;
+  std::string beside_;
+  std::unique_ptr<HostFile> file_;
+  bool made_ = false;
+};
+
+bool isBeside(std::string_view entry, std::string_view name) {
+  if (!entry.starts_with(name) || !entry.ends_with(BesideEnd)) return false;
+  entry.remove_prefix(name.size());
+  if (entry.size() < BesideEnd.size() + 2 || entry[0] != '.') return false;
+  entry = entry.substr(1, entry.size() - 1 - BesideEnd.size());
+  return entry.find_first_not_of("0123456789-") == std::string_view::npos;
 }
 
 }  // namespace
@@ -35,28 +81,36 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
   HostError error = opened;
   if (error == HostError::None) error = file->length(length);
   if (error == HostError::None) {
-    if (length > MostBytes) throw PcError(name, 0, "is larger than 256 MiB");
+    if (length > MostTextBytes) throw PcError(name, 0, tooLarge("is"));
     text.resize(static_cast<std::size_t>(length));
     error = file->read(0, text, done);
   }
   if (error != HostError::None) throw PcError(name, 0, "cannot be read: " + reasonOf(error));
-  text.resize(done);
+  if (done != length) throw PcError(name, 0, "was changed while it was read: try again");
   return text;
 }
 
-void replaceHostText(HostDir& folder, const std::string& name, std::string_view text) {
-  replaceHostText(folder, name, text, name + ".new");
+HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_view bytes) {
+  removeLeftBeside(folder, name);
+  Beside beside(folder, name);
+  HostError error = beside.write(bytes);
+  if (error == HostError::None) error = beside.putInPlace();
+  return error == HostError::None ? folder.sync() : error;
 }
 
-void replaceHostText(HostDir& folder, const std::string& name, std::string_view text,
-                     const std::string& beside) {
-  HostError error = writeNew(folder, beside, text);
-  if (error == HostError::None) error = folder.rename(beside, name);
-  if (error != HostError::None) {
-    folder.removeFile(beside);
-    throw PcError(name, 0, "cannot be saved: " + reasonOf(error));
+void replaceHostText(HostDir& folder, const std::string& name, std::string_view text) {
+  if (text.size() > MostTextBytes) throw PcError(name, 0, "cannot be saved: " + tooLarge("it would be"));
+  const HostError error = replaceHostFile(folder, name, text);
+  if (error != HostError::None) throw PcError(name, 0, "cannot be saved: " + reasonOf(error));
+}
+
+void removeLeftBeside(HostDir& folder, const std::string& name) {
+  std::unique_ptr<HostList> listing;
+  if (folder.list(listing) != HostError::None) return;
+  HostEntry entry;
+  while (listing->next(entry)) {
+    if (isBeside(entry.name, name)) folder.removeFile(entry.name);
   }
-  folder.sync();
 }
 
 }  // namespace zub

@@ -1,6 +1,7 @@
 // The texts of a PC folder: read whole, and replaced whole.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,15 +10,21 @@
 
 namespace zub {
 
-// Nothing where there is no such file. PcError where it cannot be read, is a link or is larger than 256 MiB.
+// What a text can have, on the disk and when it is saved.
+inline constexpr std::uint64_t MostTextBytes = std::uint64_t{1} << 29;
+
+// Nothing where there is no such file. PcError where it cannot be read, is a link or is too large.
 std::optional<std::string> readHostText(HostDir& folder, const std::string& name);
 
-// Writes the text beside the file (under its name and ".new") and puts it in the file's place once it has
-// reached the disk, so that at every moment the file is the old one or the new one. PcError where that fails;
-// the file is then the old one.
+// Writes the bytes beside the file, under a name of this process ("registry.reg.1234.new"), and puts them in the
+// file's place once they have reached the disk, so that at every moment the file is the old one or the new
+// one, and none stays beside it, of processes killed earlier neither. Where that fails the file is the old one, or the new one that may not last.
+HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_view bytes);
+// The same for a text. PcError where it fails or the text is too large.
 void replaceHostText(HostDir& folder, const std::string& name, std::string_view text);
-// The same under another name beside; a file of that name is lost.
-void replaceHostText(HostDir& folder, const std::string& name, std::string_view text,
-                     const std::string& beside);
+
+// Removes what processes that were killed while they replaced this file have left beside it. For those who have
+// taken the PC's folder.
+void removeLeftBeside(HostDir& folder, const std::string& name);
 
 }  // namespace zub

@@ -18,6 +18,9 @@ class PcError : public std::exception {
     text_ += reason_;
   }
 
+  // Several failures at once, told in one text.
+  explicit PcError(std::string text) : text_(std::move(text)) {}
+
   const std::string& file() const { return file_; }
   int line() const { return line_; }
   const std::string& reason() const { return reason_; }
@@ -25,7 +28,7 @@ class PcError : public std::exception {
 
  private:
   std::string file_;
-  int line_;
+  int line_ = 0;
   std::string reason_;
   std::string text_;
 };

@@ -36,7 +36,7 @@ FolderPath pathOf(std::string_view value) {
   FolderPath path;
   const bool absolute = value.size() > 2 && value[1] == ':' && value[2] == '\\';
   if (!absolute || parsePath(value, FolderPath{}, path) != PathFault::None) {
-    throw Refused{"\"" + utf8From1252(value) + "\" is no path such as C:\\WINDOWS"};
+    throw Refused{"\"" + utf8FromAnsi(value) + "\" is no path such as C:\\WINDOWS"};
   }
   return path;
 }
@@ -44,7 +44,7 @@ FolderPath pathOf(std::string_view value) {
 char driveOf(std::string_view value) {
   const char letter =
       value.size() == 1 ? static_cast<char>(UpperCase1252[static_cast<unsigned char>(value[0])]) : '\0';
-  if (letter < 'A' || letter > 'Z') throw Refused{"\"" + utf8From1252(value) + "\" is no drive letter"};
+  if (letter < 'A' || letter > 'Z') throw Refused{"\"" + utf8FromAnsi(value) + "\" is no drive letter"};
   return letter;
 }
 
@@ -52,13 +52,14 @@ DriveType kindOf(std::string_view value) {
   for (const DriveKind& kind : DriveKinds) {
     if (equalFolded(kind.name, value)) return kind.type;
   }
-  throw Refused{"\"" + utf8From1252(value) +
+  throw Refused{"\"" + utf8FromAnsi(value) +
                 "\" is no kind of drive: fixed, removable, network, cdrom, ramdisk or unknown"};
 }
 
-bool isNt(std::string_view value) {
-  if (equalFolded(value, "nt")) return true;
-  if (equalFolded(value, "9x")) return false;
+const Family* familyOf(std::string_view value) {
+  for (const Family* family : {&family9x, &familyNt}) {
+    if (equalFolded(value, family->name)) return family;
+  }
   throw Refused{"the family is 9x or nt"};
 }
 
@@ -67,7 +68,7 @@ std::string registryPath(std::string_view value) {
   const bool known =
       std::ranges::any_of(HiveNames, [&](const auto& row) { return equalFolded(row.name, hive); });
   if (!known || value.ends_with('\\')) {
-    throw Refused{"\"" + utf8From1252(value) + "\" is no path such as HKEY_LOCAL_MACHINE\\Software"};
+    throw Refused{"\"" + utf8FromAnsi(value) + "\" is no path such as HKEY_LOCAL_MACHINE\\Software"};
   }
   return std::string(value);
 }
@@ -79,7 +80,7 @@ struct Fact {
 };
 
 constexpr std::array<Fact, 11> Facts{{
-    {"family", false, [](PcFacts& pc, std::string_view value) { pc.nt = isNt(value); }},
+    {"family", false, [](PcFacts& pc, std::string_view value) { pc.family = familyOf(value); }},
     {"windows", false, [](PcFacts& pc, std::string_view value) { pc.windows = pathOf(value); }},
     {"temp", false, [](PcFacts& pc, std::string_view value) { pc.temp = pathOf(value); }},
     {"program", false, [](PcFacts& pc, std::string_view value) { pc.program = pathOf(value); }},
@@ -108,7 +109,7 @@ PcFacts::PcFacts(std::string_view text)
     const std::string_view line =
         text.substr(0, text.find('\n') + 1 == 0 ? text.size() : text.find('\n') + 1);
     text.remove_prefix(line.size());
-    lines_.push_back({std::string(line), {}});
+    lines_.emplace_back(line);
     try {
       take(trimmed(line.substr(0, line.find('\n'))), number);
     } catch (const Refused& refused) {
@@ -135,15 +136,19 @@ void PcFacts::take(std::string_view line, int number) {
     return;
   }
   const auto fact = std::ranges::find_if(Facts, [&](const Fact& row) { return equalFolded(row.name, name); });
-  if (fact == Facts.end()) throw Refused{"unknown name \"" + utf8From1252(name) + "\""};
+  if (fact == Facts.end()) throw Refused{"unknown name \"" + utf8FromAnsi(name) + "\""};
   if (!fact->many && !seen_.insert(folded(name)).second) throw Refused{"the name can stand only once"};
   fact->take(*this, value);
-  if (fact->name == "hidden" || fact->name == "system") lines_.back().key = pathOf(value).key();
+  if (fact->name == "hidden" || fact->name == "system") {
+    attributeLines_.emplace(pathOf(value).key(), lines_.size() - 1);
+  }
 }
 
 void PcFacts::dropAttributes(const std::string& key) {
   if (hidden.erase(key) + system.erase(key) == 0) return;
-  std::erase_if(lines_, [&](const Line& line) { return line.key == key; });
+  const auto [first, last] = attributeLines_.equal_range(key);
+  for (auto line = first; line != last; ++line) lines_[line->second].clear();
+  attributeLines_.erase(first, last);
   changed_ = true;
 }
 
@@ -151,14 +156,17 @@ void PcFacts::addRemoveAtRestart(const FolderPath& path) {
   const std::string text = path.text();
   if (std::ranges::find(removeAtRestart, text) != removeAtRestart.end()) return;
   removeAtRestart.push_back(text);
-  if (!lines_.empty() && !lines_.back().text.ends_with('\n')) lines_.back().text += '\n';
-  lines_.push_back({"remove at restart = " + utf8From1252(text) + "\n", {}});
+  lines_.push_back("remove at restart = " + utf8FromAnsi(text) + "\n");
   changed_ = true;
 }
 
 std::string PcFacts::text() const {
   std::string result;
-  for (const Line& line : lines_) result += line.text;
+  for (const std::string& line : lines_) {
+    // Only the last line that was read may lack its end.
+    if (!line.empty() && !result.empty() && !result.ends_with('\n')) result += '\n';
+    result += line;
+  }
   return result;
 }
 

@@ -7,9 +7,11 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/Services.h"
+#include "platform/folder/Family.h"
 #include "platform/folder/FolderPath.h"
 
 namespace zub {
@@ -22,7 +24,7 @@ class PcFacts {
   // or a fact that can stand once stands twice.
   explicit PcFacts(std::string_view text);
 
-  bool nt = false;
+  const Family* family = &family9x;
   FolderPath windows;
   FolderPath temp;
   FolderPath program;
@@ -47,14 +49,10 @@ class PcFacts {
   std::string text() const;
 
  private:
-  struct Line {
-    std::string text;  // with its end
-    std::string key;   // of a hidden or system fact
-  };
-
   void take(std::string_view line, int number);
 
-  std::vector<Line> lines_;
+  std::vector<std::string> lines_;  // with their ends; empty when taken away
+  std::unordered_multimap<std::string, std::size_t> attributeLines_;  // hidden and system, by FolderPath::key
   std::set<std::string> seen_;
   bool changed_ = false;
 };

@@ -198,14 +198,8 @@ class Reader {
     }
     if (digits == 0 || !take("):")) refuse("the type of a value is cut off");
     std::string bytes = readBytes();
+    // The newer form keeps texts in 16-bit characters.
     return {type, isNewForm_ && isText(type) ? ansiFromUtf8(utf8FromUtf16(bytes)) : std::move(bytes)};
-  }
-
-  // The newer form keeps the bytes of these types in 16-bit characters.
-  static bool isText(std::uint32_t type) {
-    constexpr std::uint32_t manyTexts = 7;
-    return type == static_cast<std::uint32_t>(ValueType::Text) ||
-           type == static_cast<std::uint32_t>(ValueType::ExpandText) || type == manyTexts;
   }
 
   std::string readNumber() {

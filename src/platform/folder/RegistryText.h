@@ -1,6 +1,7 @@
 // The text form of a registry that the Windows tools export and import.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -17,5 +18,8 @@ RegistryTree readRegistryText(std::string_view bytes, const std::string& file);
 // Always "REGEDIT4", 8-bit, CR LF, keys and values in the order of their names: the same text for the same
 // content.
 std::string writeRegistryText(RegistryTree& tree);
+
+// Whether the text would have at most this many bytes.
+bool canBeWritten(RegistryTree& tree, std::uint64_t mostBytes);
 
 }  // namespace zub

@@ -50,9 +50,12 @@ class NamedItems {
     if (map_.empty()) return false;
     const auto place = map_.find(name);
     if (place == map_.end()) return false;
+    if (place == place_) {
+      ++place_;
+    } else if (place_ != map_.end() && compareFolded(place->first, place_->first) < 0) {
+      --position_;
+    }
     map_.erase(place);
-    position_ = 0;
-    place_ = map_.end();
     return true;
   }
   // `position` is below size().
@@ -100,21 +103,6 @@ struct RegistryNode {
   // From the hive's name on.
   std::string path() const;
 };
-
-// One of the hives that every PC has.
-struct HiveName {
-  Hive hive;
-  std::string_view name;
-};
-inline constexpr std::array<HiveName, 7> HiveNames{{
-    {Hive::ClassesRoot, "HKEY_CLASSES_ROOT"},
-    {Hive::CurrentConfig, "HKEY_CURRENT_CONFIG"},
-    {Hive::CurrentUser, "HKEY_CURRENT_USER"},
-    {Hive::DynData, "HKEY_DYN_DATA"},
-    {Hive::LocalMachine, "HKEY_LOCAL_MACHINE"},
-    {Hive::PerformanceData, "HKEY_PERFORMANCE_DATA"},
-    {Hive::Users, "HKEY_USERS"},
-}};
 
 class RegistryTree {
  public:

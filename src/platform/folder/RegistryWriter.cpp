@@ -79,6 +79,16 @@ void appendKey(std::string& out, const RegistryNode& node, const std::string& pa
   for (const auto& [name, key] : node.keys) appendKey(out, *key, path + "\\" + name);
 }
 
+// At least the length that appendKey adds.
+std::uint64_t mostLength(const RegistryNode& node, std::uint64_t pathLength) {
+  std::uint64_t length = pathLength + 8;
+  for (const auto& [name, value] : node.values) {
+    length += 2 * name.size() + 4 * value.data.size() + LineWidth;
+  }
+  for (const auto& [name, key] : node.keys) length += mostLength(*key, pathLength + 1 + name.size());
+  return length;
+}
+
 }  // namespace
 
 std::string writeRegistryText(RegistryTree& tree) {
@@ -86,6 +96,14 @@ std::string writeRegistryText(RegistryTree& tree) {
   for (std::size_t i = 0; i < HiveNames.size(); ++i) appendKey(out, tree.hive(i), tree.hive(i).name);
   out += "\r\n";
   return out;
+}
+
+bool canBeWritten(RegistryTree& tree, std::uint64_t mostBytes) {
+  std::uint64_t length = LineWidth;
+  for (std::size_t i = 0; i < HiveNames.size(); ++i) {
+    length += mostLength(tree.hive(i), tree.hive(i).name.size());
+  }
+  return length <= mostBytes || writeRegistryText(tree).size() <= mostBytes;
 }
 
 }  // namespace zub

@@ -1,4 +1,4 @@
-// The 8.3 names of a folder's entries. They are not kept anywhere: each is a function of all the names in the
+// The 8.3 names of a folder's entries. They are kept on no disk: each is a function of all the names in the
 // folder, so it may change when a neighbour goes.
 #pragma once
 

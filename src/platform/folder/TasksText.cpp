@@ -121,8 +121,8 @@ std::string writeTasksText(const std::vector<TaskRecord>& tasks) {
   };
   for (const TaskRecord& task : tasks) {
     if (!text.empty()) text += '\n';
-    add("task", utf8From1252(task.name));
-    for (const TextField& field : TextFields) add(field.name, utf8From1252(task.*field.member));
+    add("task", utf8FromAnsi(task.name));
+    for (const TextField& field : TextFields) add(field.name, utf8FromAnsi(task.*field.member));
     for (const TriggerRecord& trigger : task.triggers) add("trigger", triggerText(trigger));
   }
   return text;

@@ -1,6 +1,8 @@
 // A counted reference to a component's object.
 #pragma once
 
+#include <cstdio>
+#include <string>
 #include <utility>
 
 #include "base/RuntimeError.h"
@@ -47,9 +49,12 @@ class ComLibrary {
   bool begun_;
 };
 
-// What a component refuses is an automation error.
+// What a component refuses is an automation error, told with the component's own number.
 inline void mustSucceed(HRESULT result) {
-  if (FAILED(result)) throw RuntimeError(ErrorNumber::Automation);
+  if (SUCCEEDED(result)) return;
+  char number[16];
+  std::snprintf(number, sizeof number, " %08lX", static_cast<unsigned long>(result));
+  throw RuntimeError(ErrorNumber::Automation, std::string(descriptionOf(ErrorNumber::Automation)) + number);
 }
 
 }  // namespace zub

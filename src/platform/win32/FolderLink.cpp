@@ -1,16 +1,38 @@
 #include "platform/win32/FolderLink.h"
 
+#include "platform/Files.h"
+#include "platform/win32/NtCalls.h"
+
 namespace zub {
 
-HANDLE openFolderLink(const char* path, DWORD access, DWORD sharing) {
-  constexpr DWORD link = FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DIRECTORY;
-  const DWORD attributes = GetFileAttributesA(path);
-  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & link) == link) {
-    const HANDLE file = CreateFileA(path, access, sharing, nullptr, OPEN_EXISTING,
-                                    FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+bool isLink(DWORD attributes, DWORD tag) {
+  return (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && (tag == 0 || IsReparseTagNameSurrogate(tag));
+}
+
+std::uint32_t toldAttributes(DWORD attributes, bool link) {
+  return link ? attributes | attribute::Link : attributes & ~attribute::Link;
+}
+
+DWORD tagOf(HANDLE file, DWORD attributes) {
+  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0 || nt().queryInformation == nullptr) return 0;
+  FILE_ATTRIBUTE_TAG_INFORMATION facts{};
+  IO_STATUS_BLOCK io;
+  const NTSTATUS status = nt().queryInformation(file, &io, &facts, sizeof facts, FileAttributeTagInformation);
+  return status >= 0 ? facts.ReparseTag : 0;
+}
+
+HANDLE openFolderLink(const SystemPath& path, DWORD access, DWORD sharing) {
+  const auto isFolderLink = [](DWORD attributes, DWORD tag) {
+    return isLink(attributes, tag) && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  };
+  const DWORD attributes = path.attributes();
+  if (attributes != INVALID_FILE_ATTRIBUTES && isFolderLink(attributes, 0)) {
+    const HANDLE file =
+        path.open(access, sharing, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS);
     if (file == INVALID_HANDLE_VALUE) return file;
     BY_HANDLE_FILE_INFORMATION opened;
-    if (GetFileInformationByHandle(file, &opened) != 0 && (opened.dwFileAttributes & link) == link)
+    if (GetFileInformationByHandle(file, &opened) != 0 &&
+        isFolderLink(opened.dwFileAttributes, tagOf(file, opened.dwFileAttributes)))
       return file;
     CloseHandle(file);
   }
@@ -18,13 +40,13 @@ HANDLE openFolderLink(const char* path, DWORD access, DWORD sharing) {
   return INVALID_HANDLE_VALUE;
 }
 
-bool removeFolderLink(const char* path) {
-  const HANDLE point =
+bool removeFolderLink(const SystemPath& path) {
+  const HANDLE link =
       openFolderLink(path, FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
-  if (point == INVALID_HANDLE_VALUE) return false;
-  const bool removed = RemoveDirectoryA(path) != 0;
+  if (link == INVALID_HANDLE_VALUE) return false;
+  const bool removed = path.removeFolder();
   const DWORD failure = GetLastError();
-  CloseHandle(point);
+  CloseHandle(link);
   SetLastError(failure);
   return removed;
 }

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "platform/folder/HostDir.h"
+#include "platform/win32/FolderLink.h"
 #include "platform/win32/HostFileNt.h"
 #include "platform/win32/HostListNt.h"
 #include "platform/win32/NtCalls.h"
@@ -13,7 +14,7 @@ namespace {
 constexpr ACCESS_MASK FolderRights = FILE_LIST_DIRECTORY | FILE_TRAVERSE | FILE_READ_ATTRIBUTES | SYNCHRONIZE;
 constexpr ACCESS_MASK RemoveRights = DELETE | FILE_READ_ATTRIBUTES | SYNCHRONIZE;
 constexpr ULONG ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-constexpr ULONG Itself = FILE_OPEN_REPARSE_POINT | FILE_SYNCHRONOUS_IO_NONALERT;
+constexpr ULONG Itself = FILE_OPEN_REPARSE_POINT;  // not what a reparse point stands for
 
 constexpr std::size_t LongestName = 255;  // in units of UTF-16
 
@@ -70,6 +71,7 @@ class HostDirNt : public HostDir {
   HostError stat(const std::string& name, HostStat& result) override;
   HostError openFile(const std::string& name, HostOpen mode, std::unique_ptr<HostFile>& file) override;
   HostError removeFile(const std::string& name) override;
+  HostError mayRemove(const std::string& name) override;
   HostError removeDir(const std::string& name) override;
   HostError makeDir(const std::string& name) override;
   HostError setReadOnly(const std::string& name, bool readOnly) override;
@@ -96,7 +98,7 @@ NTSTATUS HostDirNt::open(const std::string& name, ACCESS_MASK rights, ULONG disp
   InitializeObjectAttributes(&object, &text, OBJ_CASE_INSENSITIVE, folder_.get(), nullptr);
   IO_STATUS_BLOCK io;
   return nt().createFile(opened.out(), rights, &object, &io, nullptr, FILE_ATTRIBUTE_NORMAL, ShareAll,
-                         disposition, options | Itself, nullptr, 0);
+                         disposition, options | FILE_SYNCHRONOUS_IO_NONALERT, nullptr, 0);
 }
 
 // Opens what the name stands for, a reparse point as itself, and tells what it is. Wine opens the folder that
@@ -108,13 +110,22 @@ Opened HostDirNt::openKnown(const std::string& name, ACCESS_MASK rights, ULONG d
     return opened;
   }
   FILE_NETWORK_OPEN_INFORMATION facts{};
-  NTSTATUS status = open(name, rights, disposition, options, opened.handle);
+  NTSTATUS status = open(name, rights, disposition, options | Itself, opened.handle);
   if (status >= 0) status = getFacts(opened.handle, facts);
+  opened.stat =
+      hostStat(facts.FileAttributes, tagOf(opened.handle.get(), facts.FileAttributes), facts.EndOfFile);
+  // What a disk keeps in another way (deduplicated, in a cloud) is opened as the file that it is.
+  const bool keptElsewhere =
+      (facts.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && opened.stat.kind == HostKind::File;
+  if (status >= 0 && keptElsewhere) {
+    opened.handle = NtHandle();
+    status = open(name, rights, disposition, options, opened.handle);
+  }
   opened.error = hostError(status);
   opened.attributes = facts.FileAttributes;
-  opened.stat = hostStat(facts.FileAttributes, facts.EndOfFile);
   if (opened.stat.kind == HostKind::Folder && listedAsLink(name)) {
     opened.stat.kind = HostKind::Link;
+    opened.stat.toFolder = true;
     opened.handle = NtHandle();
   }
   return opened;
@@ -122,7 +133,7 @@ Opened HostDirNt::openKnown(const std::string& name, ACCESS_MASK rights, ULONG d
 
 bool HostDirNt::listedAsLink(const std::string& name) {
   NtHandle folder;
-  if (open("", FolderRights, FILE_OPEN, FILE_DIRECTORY_FILE, folder) < 0) return false;
+  if (open("", FolderRights, FILE_OPEN, FILE_DIRECTORY_FILE | Itself, folder) < 0) return false;
   HostListNt listing(std::move(folder), wideName(name));
   HostEntry entry;
   return listing.next(entry) && entry.stat.kind == HostKind::Link;
@@ -138,7 +149,7 @@ HostError HostDirNt::openDir(const std::string& name, std::unique_ptr<HostDir>& 
 
 HostError HostDirNt::list(std::unique_ptr<HostList>& listing) {
   NtHandle folder;
-  const NTSTATUS status = open("", FolderRights, FILE_OPEN, FILE_DIRECTORY_FILE, folder);
+  const NTSTATUS status = open("", FolderRights, FILE_OPEN, FILE_DIRECTORY_FILE | Itself, folder);
   if (status >= 0) listing = std::make_unique<HostListNt>(std::move(folder));
   return hostError(status);
 }
@@ -170,6 +181,12 @@ HostError HostDirNt::removeFile(const std::string& name) {
   return file.handle.get() != nullptr ? removeOpened(file.handle) : HostError::NoRights;
 }
 
+HostError HostDirNt::mayRemove(const std::string& name) {
+  const Opened entry = openKnown(name, RemoveRights, FILE_OPEN, 0);
+  if (entry.error != HostError::None) return entry.error;
+  return entry.handle.get() != nullptr ? HostError::None : HostError::NoRights;
+}
+
 HostError HostDirNt::removeDir(const std::string& name) {
   const Opened folder = openKnown(name, RemoveRights, FILE_OPEN, FILE_DIRECTORY_FILE);
   if (folder.error != HostError::None) return folder.error;
@@ -179,7 +196,7 @@ HostError HostDirNt::removeDir(const std::string& name) {
 HostError HostDirNt::makeDir(const std::string& name) {
   if (!isPart(name)) return HostError::BadName;
   NtHandle made;
-  return hostError(open(name, FolderRights, FILE_CREATE, FILE_DIRECTORY_FILE, made));
+  return hostError(open(name, FolderRights, FILE_CREATE, FILE_DIRECTORY_FILE | Itself, made));
 }
 
 HostError HostDirNt::setReadOnly(const std::string& name, bool readOnly) {

@@ -1,18 +1,23 @@
 #include "platform/win32/HostListNt.h"
 
+#include <ntstatus.h>
+
+#include "platform/win32/FolderLink.h"
+
 namespace zub {
 namespace {
 
-// Room in units of 8 bytes; a record takes at most 64 bytes and its name, of 255 units at most.
+// Room in units of 8 bytes; a record takes at most 72 bytes and its name, of 255 units at most.
 constexpr std::size_t OneEntry = 128;
 constexpr std::size_t ManyEntries = 8192;
 
 }  // namespace
 
-HostStat hostStat(ULONG attributes, LARGE_INTEGER size) {
-  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) return {HostKind::Link, false, 0};
-  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return {HostKind::Folder, false, 0};
-  return {HostKind::File, (attributes & FILE_ATTRIBUTE_READONLY) != 0,
+HostStat hostStat(ULONG attributes, ULONG tag, LARGE_INTEGER size) {
+  const bool folder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  if (isLink(attributes, tag)) return {HostKind::Link, folder, false, 0};
+  if (folder) return {HostKind::Folder, false, false, 0};
+  return {HostKind::File, false, (attributes & FILE_ATTRIBUTE_READONLY) != 0,
           static_cast<std::uint64_t>(size.QuadPart)};
 }
 
@@ -22,24 +27,26 @@ bool HostListNt::fill() {
   IO_STATUS_BLOCK io;
   const NTSTATUS status =
       nt().queryDirectory(folder_.get(), nullptr, nullptr, nullptr, &io, buffer_.data(),
-                          static_cast<ULONG>(buffer_.size() * sizeof(ULONGLONG)), FileDirectoryInformation,
-                          FALSE, name_.empty() ? nullptr : &only, FALSE);
+                          static_cast<ULONG>(buffer_.size() * sizeof(ULONGLONG)),
+                          FileFullDirectoryInformation, FALSE, name_.empty() ? nullptr : &only, FALSE);
+  if (status < 0 && status != STATUS_NO_MORE_FILES && status != STATUS_NO_SUCH_FILE)
+    failure_ = hostError(status);
   if (status < 0 || io.Information == 0) return false;
-  record_ = reinterpret_cast<const FILE_DIRECTORY_INFORMATION*>(buffer_.data());
+  record_ = reinterpret_cast<const FILE_FULL_DIR_INFORMATION*>(buffer_.data());
   return true;
 }
 
 bool HostListNt::next(HostEntry& entry) {
   while (record_ != nullptr || fill()) {
-    const FILE_DIRECTORY_INFORMATION& record = *record_;
+    const FILE_FULL_DIR_INFORMATION& record = *record_;
     record_ = record.NextEntryOffset == 0
                   ? nullptr
-                  : reinterpret_cast<const FILE_DIRECTORY_INFORMATION*>(
+                  : reinterpret_cast<const FILE_FULL_DIR_INFORMATION*>(
                         reinterpret_cast<const char*>(&record) + record.NextEntryOffset);
     const std::wstring_view name(record.FileName, record.FileNameLength / sizeof(wchar_t));
     if (name == L"." || name == L"..") continue;
     setName(entry.name, name.data(), name.size());
-    entry.stat = hostStat(record.FileAttributes, record.EndOfFile);
+    entry.stat = hostStat(record.FileAttributes, record.EaSize, record.EndOfFile);
     entry.complete = true;
     return true;
   }

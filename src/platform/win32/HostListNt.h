@@ -8,8 +8,8 @@
 
 namespace zub {
 
-// What a system's record tells.
-HostStat hostStat(ULONG attributes, LARGE_INTEGER size);
+// What a system's record tells; `tag` is that of a reparse point.
+HostStat hostStat(ULONG attributes, ULONG tag, LARGE_INTEGER size);
 
 class HostListNt : public HostList {
  public:
@@ -17,6 +17,7 @@ class HostListNt : public HostList {
   explicit HostListNt(NtHandle folder, std::wstring name = {})
       : folder_(std::move(folder)), name_(std::move(name)) {}
   bool next(HostEntry& entry) override;
+  HostError failure() const override { return failure_; }
 
  private:
   bool fill();
@@ -24,7 +25,8 @@ class HostListNt : public HostList {
   NtHandle folder_;
   std::wstring name_;
   std::vector<ULONGLONG> buffer_;  // aligned as the records want it
-  const FILE_DIRECTORY_INFORMATION* record_ = nullptr;
+  const FILE_FULL_DIR_INFORMATION* record_ = nullptr;
+  HostError failure_ = HostError::None;
 };
 
 }  // namespace zub

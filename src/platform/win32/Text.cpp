@@ -1,6 +1,24 @@
 #include "platform/win32/Text.h"
 
+#include <algorithm>
+
+#include "platform/ToldName.h"
+
 namespace zub {
+namespace {
+
+// Exactly: the code page's look-alikes do not count.
+std::string ansiOfUnit(char16_t unit) {
+  const std::wstring text(1, static_cast<wchar_t>(unit));
+  const std::string ansi = narrow(text);
+  return wide(ansi) == text ? ansi : std::string();
+}
+
+std::u16string unitsOf(std::wstring_view text) {
+  return {text.begin(), text.end()};
+}
+
+}  // namespace
 
 std::wstring wide(std::string_view text) {
   std::wstring result(text.size(), L'\0');  // no text grows: at most one unit for each byte
@@ -16,6 +34,41 @@ std::string narrow(std::wstring_view text) {
   std::string result(static_cast<std::size_t>(length), '\0');
   WideCharToMultiByte(CP_ACP, 0, text.data(), size, result.data(), length, nullptr, nullptr);
   return result;
+}
+
+bool isNtFamily() {
+  static const bool nt = (GetVersion() & 0x80000000) == 0;
+  return nt;
+}
+
+std::string told(std::wstring_view text) {
+  return toldText(unitsOf(text), ansiOfUnit);
+}
+
+std::string toldName(std::wstring_view name) {
+  return toldFileName(unitsOf(name), ansiOfUnit);
+}
+
+std::string toldPath(std::wstring_view path) {
+  const bool hasDrive = path.size() > 1 && path[1] == L':';
+  std::string result = hasDrive ? narrow(path.substr(0, 2)) : std::string();
+  if (hasDrive) path.remove_prefix(2);
+  while (!path.empty()) {
+    const std::size_t end = std::min(path.find(L'\\'), path.size());
+    result += toldName(path.substr(0, end));
+    if (end < path.size()) result += '\\';
+    path.remove_prefix(std::min(end + 1, path.size()));
+  }
+  return result;
+}
+
+std::wstring resolved(std::wstring_view text, const std::function<void(char16_t)>& see) {
+  const std::u16string units = untold(unitsOf(text), see);
+  return {units.begin(), units.end()};
+}
+
+std::wstring untoldWide(std::string_view text) {
+  return resolved(wide(text));
 }
 
 SYSTEMTIME recordOf(const SystemTime& time) {

@@ -1,6 +1,6 @@
 #include "platform/win32/Win32CodePage.h"
 
-#include "platform/win32/WindowsHeader.h"
+#include "platform/win32/Text.h"
 
 namespace zub {
 
@@ -8,6 +8,10 @@ std::string Win32CodePage::upper(std::string_view text) const {
   std::string result(text);
   CharUpperBuffA(result.data(), static_cast<DWORD>(result.size()));
   return result;
+}
+
+std::string Win32CodePage::toldPath(std::string_view path) const {
+  return told(untoldWide(path));
 }
 
 }  // namespace zub

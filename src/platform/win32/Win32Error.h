@@ -6,6 +6,7 @@
 
 namespace zub {
 
+// 57 for those that no row knows.
 ErrorNumber errorNumberOf(DWORD systemError);
 // Throws what the last call of this thread failed with.
 [[noreturn]] void throwLastError();

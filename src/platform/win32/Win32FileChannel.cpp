@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/win32/FolderLink.h"
+#include "platform/win32/Text.h"
 #include "platform/win32/Win32Error.h"
 
 namespace zub {
@@ -16,36 +17,49 @@ struct ModeRow {
   DWORD disposition;
 };
 
+constexpr DWORD Everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
 constexpr ModeRow modes[] = {
     {GENERIC_READ | GENERIC_WRITE, 0, OPEN_ALWAYS},  // Binary
-    {GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING},  // Input
-    {GENERIC_WRITE, 0, CREATE_ALWAYS},               // Output
+    {GENERIC_READ, Everything, OPEN_EXISTING},       // Input
 };
+
+// A file that its disk keeps in another way, deduplicated or in a cloud: by a reparse point that is no link.
+bool isKeptElsewhere(HANDLE file) {
+  BY_HANDLE_FILE_INFORMATION facts;
+  return GetFileInformationByHandle(file, &facts) != 0 &&
+         (facts.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+         !isLink(facts.dwFileAttributes, tagOf(file, facts.dwFileAttributes));
+}
 
 }  // namespace
 
-// The 9x family has no reparse points and does not know the flag.
-HANDLE openFile(const char* path, OpenMode mode, bool makes) {
-  static const bool family9x = (GetVersion() & 0x80000000) != 0;
+// The 9x family has no reparse points, and refuses a call that shares the removal.
+HANDLE openFile(const SystemPath& path, OpenMode mode, bool makes) {
   const ModeRow& row = modes[static_cast<std::size_t>(mode)];
   const DWORD disposition = makes ? row.disposition : OPEN_EXISTING;
-  const DWORD flags = FILE_ATTRIBUTE_NORMAL | (family9x ? 0 : FILE_FLAG_OPEN_REPARSE_POINT);
-  HANDLE file = CreateFileA(path, row.access, row.sharing, nullptr, disposition, flags, nullptr);
+  const DWORD sharing = isNtFamily() ? row.sharing : row.sharing & ~static_cast<DWORD>(FILE_SHARE_DELETE);
+  const DWORD itself = isNtFamily() ? FILE_FLAG_OPEN_REPARSE_POINT : 0;
+  HANDLE file = path.open(row.access, sharing, disposition, FILE_ATTRIBUTE_NORMAL | itself);
   if (file == INVALID_HANDLE_VALUE && GetLastError() == ERROR_ACCESS_DENIED)
-    file = openFolderLink(path, row.access, row.sharing);
+    file = openFolderLink(path, row.access, sharing);
+  if (file == INVALID_HANDLE_VALUE) throwLastError();
+  if (!isKeptElsewhere(file)) return file;
+  CloseHandle(file);
+  file = path.open(row.access, sharing, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
   if (file == INVALID_HANDLE_VALUE) throwLastError();
   return file;
 }
 
 std::int64_t lengthOf(HANDLE file) {
-  BY_HANDLE_FILE_INFORMATION information;
-  if (GetFileInformationByHandle(file, &information) == 0) throwLastError();
-  if ((information.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) return 0;
-  return static_cast<std::int64_t>(information.nFileSizeHigh) << 32 | information.nFileSizeLow;
+  BY_HANDLE_FILE_INFORMATION facts;
+  if (GetFileInformationByHandle(file, &facts) == 0) throwLastError();
+  if (isLink(facts.dwFileAttributes, tagOf(file, facts.dwFileAttributes))) return 0;
+  return static_cast<std::int64_t>(facts.nFileSizeHigh) << 32 | facts.nFileSizeLow;
 }
 
 Win32FileChannel::~Win32FileChannel() {
-  finish(false);
+  finish();
 }
 
 std::int64_t Win32FileChannel::length() {
@@ -77,18 +91,18 @@ void Win32FileChannel::write(std::string_view bytes) {
 }
 
 void Win32FileChannel::close() {
-  if (!finish(false)) throwLastError();
+  if (!finish()) throwLastError();
 }
 
-void Win32FileChannel::closeOnDisk() {
-  if (!finish(true)) throwLastError();
+void Win32FileChannel::sync() {
+  flush();
+  if (FlushFileBuffers(file_) == 0) throwLastError();
 }
 
 // Gives bytes to the system. False, with the last error set, where it does not take them all.
 bool Win32FileChannel::give(std::string_view bytes) {
   DWORD count = 0;
   if (WriteFile(file_, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr) == 0) return false;
-  given_ = true;
   if (count == bytes.size()) return true;
   SetLastError(ERROR_DISK_FULL);
   return false;
@@ -103,14 +117,13 @@ void Win32FileChannel::flush() {
 }
 
 // Closes whatever happens. False, with the last error set, where something written has been lost.
-bool Win32FileChannel::finish(bool onDisk) {
+bool Win32FileChannel::finish() {
   if (file_ == INVALID_HANDLE_VALUE) return true;
   const bool taken = kept_.empty() || give(kept_);
-  const bool done = taken && (!onDisk || !given_ || FlushFileBuffers(file_) != 0);
   const DWORD failure = GetLastError();
   CloseHandle(std::exchange(file_, INVALID_HANDLE_VALUE));
   SetLastError(failure);
-  return done;
+  return taken;
 }
 
 }  // namespace zub

@@ -1,14 +1,14 @@
-// An open file with a write-behind buffer. A reparse point is opened as itself and is empty.
+// An open file with a write-behind buffer. A link is opened as itself and is empty.
 #pragma once
 
 #include "platform/Files.h"
-#include "platform/win32/WindowsHeader.h"
+#include "platform/win32/SystemPath.h"
 
 namespace zub {
 
 // Opens as the mode says; `makes` false: never makes a missing file. Throws.
-HANDLE openFile(const char* path, OpenMode mode, bool makes);
-// 0 for a reparse point.
+HANDLE openFile(const SystemPath& path, OpenMode mode, bool makes);
+// 0 for a link.
 std::int64_t lengthOf(HANDLE file);
 
 class Win32FileChannel : public FileChannel {
@@ -23,16 +23,15 @@ class Win32FileChannel : public FileChannel {
   std::size_t read(std::span<char> buffer) override;
   void write(std::string_view bytes) override;
   void close() override;
-  void closeOnDisk() override;
+  void sync() override;
 
  private:
   bool give(std::string_view bytes);
   void flush();
-  bool finish(bool onDisk);
+  bool finish();
 
   HANDLE file_;
-  std::string kept_;    // written by the program, not yet given to the system
-  bool given_ = false;  // something was given
+  std::string kept_;  // written by the program, not yet given to the system
 };
 
 }  // namespace zub

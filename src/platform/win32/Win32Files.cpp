@@ -1,110 +1,213 @@
 #include "platform/win32/Win32Files.h"
 
-#include <algorithm>
-#include <array>
+#include <optional>
 
 #include "base/Text.h"
 #include "platform/win32/FolderLink.h"
+#include "platform/win32/SystemPath.h"
+#include "platform/win32/Text.h"
 #include "platform/win32/Win32Error.h"
 #include "platform/win32/Win32FileChannel.h"
 #include "platform/win32/Win32FileSearch.h"
+#include "platform/win32/Win32Replace.h"
 
 namespace zub {
 namespace {
 
-// All that can be wrong with the name of a file is, for a reset, that there is no such file.
-constexpr DWORD missing[] = {ERROR_FILE_NOT_FOUND, ERROR_PATH_NOT_FOUND, ERROR_INVALID_NAME,
-                             ERROR_BAD_PATHNAME,   ERROR_BAD_NETPATH,    ERROR_BAD_NET_NAME};
-
-void clearAttributes(const char* path) {
-  SetFileAttributesA(path, FILE_ATTRIBUTE_NORMAL);
+// With the tag of a reparse point; the system tells both together only in a search.
+std::uint32_t attributesOf(const SystemPath& path) {
+  const DWORD bits = path.attributes();
+  if (bits == INVALID_FILE_ATTRIBUTES) return attribute::Invalid;
+  if ((bits & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return toldAttributes(bits, false);
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = path.findItself(found);
+  if (search != INVALID_HANDLE_VALUE) FindClose(search);
+  return toldAttributes(bits, isLink(bits, found.dwReserved0));
 }
 
-// Removes a file or a reparse point.
-bool removeEntry(const char* path) {
-  if (DeleteFileA(path) != 0) return true;
-  return GetLastError() == ERROR_ACCESS_DENIED && removeFolderLink(path);
+bool isFolderOrLink(std::uint32_t attributes) {
+  return isFolder(attributes) || isFolderLink(attributes);
 }
 
-void deleteTree(const std::string& folder) {
-  {
-    Win32FileSearch search((folder + "\\*").c_str());
+// Of a file: one with a backslash at its end leads to none.
+SystemPath filePath(std::string_view text) {
+  SystemPath path(text);
+  if (path.namesFolder() && !isFolderOrLink(attributesOf(path)))
+    throw RuntimeError(ErrorNumber::PathNotFound);
+  return path;
+}
+
+// The attributes at a path; nothing where it is known that it leads nowhere, Invalid where it cannot be looked
+// at.
+std::optional<std::uint32_t> look(std::string_view text) {
+  try {
+    const SystemPath path(text);
+    const std::uint32_t bits = attributesOf(path);
+    if (bits == attribute::Invalid && nothingThere(errorNumberOf(GetLastError()))) return std::nullopt;
+    if (bits != attribute::Invalid && path.namesFolder() && !isFolderOrLink(bits)) return std::nullopt;
+    return bits;
+  } catch (const RuntimeError&) {
+    return std::nullopt;  // no path at all
+  }
+}
+
+// Where the pattern of a search begins. A backslash that is the second byte of a character separates nothing.
+std::size_t endOfFolder(std::string_view path) {
+  std::size_t end = 0;
+  for (std::size_t place = 0; place < path.size(); ++place) {
+    if (IsDBCSLeadByte(static_cast<BYTE>(path[place])) != 0)
+      ++place;
+    else if (path[place] == '\\' || path[place] == '/' || path[place] == ':')
+      end = place + 1;
+  }
+  return end;
+}
+
+void removeEntry(const SystemPath& path) {
+  if (path.removeFile()) return;
+  if (GetLastError() != ERROR_ACCESS_DENIED || !removeFolderLink(path)) throwLastError();
+}
+
+// All that can go goes; the first failure is told.
+class TreeRemoval {
+ public:
+  void remove(const std::string& folder) {
+    attempt([&] { removeContent(folder); });
+    attempt([&] {
+      const SystemPath path(folder);
+      if ((path.attributes() & FILE_ATTRIBUTE_READONLY) != 0) path.setAttributes(FILE_ATTRIBUTE_NORMAL);
+      if (!path.removeFolder()) throwLastError();
+    });
+  }
+
+  void tell() const {
+    if (failure_) throw RuntimeError(*failure_);
+  }
+
+ private:
+  void removeContent(const std::string& folder) {
+    Win32FileSearch search(folder + '\\', "*");
     FoundFile found;
     while (search.next(found)) {
-      if (found.name == "." || found.name == "..") continue;
-      const std::string path = folder + '\\' + found.name;
-      if ((found.attributes & attribute::Directory) != 0) {
-        deleteTree(path);
-        continue;
-      }
-      if ((found.attributes & attribute::ReadOnly) != 0) clearAttributes(path.c_str());
-      if (!removeEntry(path.c_str())) throwLastError();
+      const std::string entry = folder + '\\' + found.name;
+      if (isFolder(found.attributes))
+        remove(entry);
+      else
+        attempt([&] {
+          const SystemPath path(entry);
+          if ((found.attributes & attribute::ReadOnly) != 0) path.setAttributes(FILE_ATTRIBUTE_NORMAL);
+          removeEntry(path);
+        });
     }
   }
-  if ((GetFileAttributesA(folder.c_str()) & FILE_ATTRIBUTE_READONLY) != 0) clearAttributes(folder.c_str());
-  if (RemoveDirectoryA(folder.c_str()) == 0) throwLastError();
-}
+
+  template <class Step>
+  void attempt(Step step) {
+    try {
+      step();
+    } catch (const RuntimeError& failure) {
+      const bool gone = failure.number() == ErrorNumber::FileNotFound;  // meanwhile
+      if (!failure_ && !gone) failure_ = failure.number();
+    }
+  }
+
+  std::optional<ErrorNumber> failure_;
+};
 
 }  // namespace
 
 std::unique_ptr<FileSearch> Win32Files::find(std::string_view path) {
-  auto search = std::make_unique<Win32FileSearch>(std::string(path).c_str());
-  if (!search->any()) return nullptr;
-  return search;
+  const std::size_t behindFolder = endOfFolder(path);
+  try {
+    auto search = std::make_unique<Win32FileSearch>(path.substr(0, behindFolder), path.substr(behindFolder));
+    if (!search->any()) return nullptr;
+    return search;
+  } catch (const RuntimeError& failure) {
+    if (nothingThere(failure.number())) return nullptr;
+    throw;
+  }
 }
 
 std::uint32_t Win32Files::attributes(std::string_view path) {
-  return seenAttributes(GetFileAttributesA(std::string(path).c_str()));
+  return look(path).value_or(attribute::Invalid);
 }
 
 void Win32Files::resetAttributes(std::string_view path) {
-  if (SetFileAttributesA(std::string(path).c_str(), FILE_ATTRIBUTE_NORMAL) != 0) return;
-  const DWORD failure = GetLastError();
-  if (std::ranges::find(missing, failure) != std::end(missing)) throw RuntimeError(ErrorNumber::FileNotFound);
-  throw RuntimeError(errorNumberOf(failure));
+  try {
+    if (!filePath(path).setAttributes(FILE_ATTRIBUTE_NORMAL)) throwLastError();
+  } catch (const RuntimeError& failure) {
+    const bool missing = nothingThere(failure.number()) && failure.number() != ErrorNumber::DiskNotReady;
+    if (missing) throw RuntimeError(ErrorNumber::FileNotFound);
+    throw;
+  }
 }
 
 std::unique_ptr<FileChannel> Win32Files::open(std::string_view path, OpenMode mode) {
-  return std::make_unique<Win32FileChannel>(openFile(std::string(path).c_str(), mode, true));
+  return std::make_unique<Win32FileChannel>(openFile(filePath(path), mode, true));
 }
 
 std::int64_t Win32Files::openedLength(std::string_view path) {
-  return Win32FileChannel(openFile(std::string(path).c_str(), OpenMode::Binary, false)).length();
+  return Win32FileChannel(openFile(filePath(path), OpenMode::Binary, false)).length();
+}
+
+// The 9x family asks for no right to remove, and opens no folder.
+std::int64_t Win32Files::removable(std::string_view path, Removal how) {
+  const bool asFolder = how == Removal::EmptyFolder;
+  const SystemPath place = asFolder ? SystemPath(path) : filePath(path);
+  const std::uint32_t bits = attributesOf(place);
+  if (bits == attribute::Invalid) throwLastError();
+  const bool readOnly = (bits & attribute::ReadOnly) != 0 && how == Removal::File;
+  if (isFolder(bits) != asFolder || readOnly) throw RuntimeError(ErrorNumber::PathFileAccess);
+  const bool nt = isNtFamily();
+  if (asFolder && !nt) return 0;
+  constexpr DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const DWORD sharing = how == Removal::File || !nt ? 0 : everything;
+  const DWORD rights = nt ? DELETE | FILE_READ_ATTRIBUTES : GENERIC_READ;
+  const DWORD flags = nt ? FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS : 0;
+  const HANDLE opened = place.open(rights, sharing, OPEN_EXISTING, flags);
+  if (opened == INVALID_HANDLE_VALUE) throwLastError();
+  return asFolder ? (CloseHandle(opened), 0) : Win32FileChannel(opened).length();
 }
 
 void Win32Files::remove(std::string_view path) {
-  if (!removeEntry(std::string(path).c_str())) throwLastError();
+  removeEntry(filePath(path));
+}
+
+void Win32Files::replace(std::string_view path, std::string_view bytes) {
+  replaceFile(std::string(path), bytes);
 }
 
 bool Win32Files::fileExists(std::string_view path) {
-  return (attributes(path) & attribute::Directory) == 0;  // Invalid has every bit
+  const auto bits = look(path);
+  return bits && (*bits == attribute::Invalid || !isFolderOrLink(*bits));
 }
 
 bool Win32Files::folderExists(std::string_view path) {
-  const std::uint32_t bits = attributes(path);
-  return bits != attribute::Invalid && (bits & attribute::Directory) != 0;
+  const auto bits = look(path);
+  return bits && (*bits == attribute::Invalid || isFolderOrLink(*bits));
 }
 
 void Win32Files::createFolder(std::string_view path) {
-  if (CreateDirectoryA(std::string(path).c_str(), nullptr) == 0) throwLastError();
+  if (!SystemPath(path).makeFolder()) throwLastError();
 }
 
-// By its full path: "C:" is not the drive, and no way of writing the drive removes what is on it.
+// No way of writing the drive removes what is on it.
 void Win32Files::deleteFolder(std::string_view path) {
-  if (!folderExists(path)) throw RuntimeError(ErrorNumber::PathNotFound);
-  std::array<char, MAX_PATH> full;
-  const DWORD length = GetFullPathNameA(std::string(path).c_str(), MAX_PATH, full.data(), nullptr);
-  if (length >= full.size()) throw RuntimeError(ErrorNumber::PathNotFound);
-  std::string_view folder(full.data(), length);
-  folder = folder.substr(0, folder.find_last_not_of('\\') + 1);
-  if (folder.empty() || folder.ends_with(':')) throw RuntimeError(ErrorNumber::PathFileAccess);
-  deleteTree(std::string(folder));
+  const auto bits = look(path);
+  if (!bits || (*bits != attribute::Invalid && !isFolder(*bits)))
+    throw RuntimeError(ErrorNumber::PathNotFound);
+  if (SystemPath(path).isRoot()) throw RuntimeError(ErrorNumber::PathFileAccess);
+  TreeRemoval removal;
+  removal.remove(std::string(path.substr(0, path.find_last_not_of("\\/") + 1)));
+  removal.tell();
 }
 
 std::string Win32Files::shortPath(std::string_view path) {
-  std::array<char, MAX_PATH> result;
-  const DWORD length = GetShortPathNameA(std::string(path).c_str(), result.data(), MAX_PATH);
-  return length < result.size() ? std::string(result.data(), length) : std::string();
+  try {
+    return SystemPath(path).shortPath();
+  } catch (const RuntimeError&) {
+    return {};
+  }
 }
 
 }  // namespace zub

@@ -1,4 +1,4 @@
-// The PC's own files. Names that the ANSI code page cannot write go by their short form, where they have one.
+// The PC's own files.
 #pragma once
 
 #include "platform/Files.h"
@@ -12,7 +12,9 @@ class Win32Files : public Files {
   void resetAttributes(std::string_view path) override;
   std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override;
   std::int64_t openedLength(std::string_view path) override;
+  std::int64_t removable(std::string_view path, Removal how) override;
   void remove(std::string_view path) override;
+  void replace(std::string_view path, std::string_view bytes) override;
   bool fileExists(std::string_view path) override;
   bool folderExists(std::string_view path) override;
   void createFolder(std::string_view path) override;

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "base/RuntimeError.h"
 #include "platform/win32/WindowsHeader.h"
 
 namespace zub {
@@ -32,13 +33,22 @@ class OthersDisabled {
   std::vector<HWND> disabled_;
 };
 
+// Whether the program was ended while a loop of the system ran, which leaves the quit message to its caller.
+bool programEnds() {
+  MSG quit;
+  return PeekMessageA(&quit, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE) != 0;
+}
+
 }  // namespace
 
 void Win32Messages::show(std::string_view prompt, int style, std::string_view title) {
   const auto owner = static_cast<HWND>(owner_());
-  const OthersDisabled others(owner);
-  MessageBoxA(owner, std::string(prompt).c_str(), std::string(title).c_str(),
-              static_cast<UINT>(style) | MB_SETFOREGROUND);
+  {
+    const OthersDisabled others(owner);
+    MessageBoxA(owner, std::string(prompt).c_str(), std::string(title).c_str(),
+                static_cast<UINT>(style) | MB_SETFOREGROUND);
+  }
+  if (programEnds()) throw EndOfProcess{};
 }
 
 }  // namespace zub

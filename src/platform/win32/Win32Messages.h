@@ -1,4 +1,5 @@
-// The system's message box. While it is open, none of the program's windows takes input.
+// The system's message box. While it is open, none of the program's windows takes input. Throws EndOfProcess where
+// the program is ended meanwhile: from the tray, by a timer, with the session.
 #pragma once
 
 #include "platform/Services.h"

@@ -6,8 +6,12 @@
 
 namespace zub {
 
-Win32Process::Win32Process() : mutex_(CreateMutexA(nullptr, FALSE, "Zubrane runs")) {
-  other_ = mutex_ != nullptr && GetLastError() == ERROR_ALREADY_EXISTS;
+// A mutex of a program with other rights, as one that runs as administrator, is there and cannot be had.
+Win32Process::Win32Process() {
+  SetLastError(ERROR_SUCCESS);
+  mutex_ = CreateMutexA(nullptr, FALSE, "Zubrane runs");
+  const DWORD result = GetLastError();
+  other_ = result == ERROR_ALREADY_EXISTS || result == ERROR_ACCESS_DENIED;
 }
 
 Win32Process::~Win32Process() {

@@ -1,9 +1,10 @@
 #include "platform/win32/Win32Registry.h"
 
+#include <array>
+#include <cstring>
 #include <string>
-#include <vector>
 
-#include "platform/win32/WindowsHeader.h"
+#include "platform/win32/Text.h"
 
 namespace zub {
 namespace {
@@ -14,8 +15,14 @@ HKEY handleOf(RegistryKey key) {
   return reinterpret_cast<HKEY>(key);
 }
 
-bool isText(std::uint32_t type) {
-  return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ;
+// The most that a name of a value has, in characters, with its NUL.
+constexpr DWORD NameRoom = 16384;
+
+RegistryStatus hand(const std::string& told, char* name, std::uint32_t& length) {
+  if (told.size() >= length) return ERROR_MORE_DATA;
+  std::memcpy(name, told.c_str(), told.size() + 1);
+  length = static_cast<std::uint32_t>(told.size());
+  return ERROR_SUCCESS;
 }
 
 }  // namespace
@@ -28,7 +35,9 @@ RegistryKey Win32Registry::hive(Hive which) const {
 RegistryStatus Win32Registry::open(RegistryKey parent, std::string_view path, std::uint32_t rights,
                                    RegistryKey& opened) {
   HKEY key = nullptr;
-  const LONG result = RegOpenKeyExA(handleOf(parent), std::string(path).c_str(), 0, rights, &key);
+  const LONG result = isNtFamily()
+                          ? RegOpenKeyExW(handleOf(parent), untoldWide(path).c_str(), 0, rights, &key)
+                          : RegOpenKeyExA(handleOf(parent), std::string(path).c_str(), 0, rights, &key);
   if (result == ERROR_SUCCESS) opened = reinterpret_cast<RegistryKey>(key);
   return result;
 }
@@ -45,15 +54,43 @@ RegistryStatus Win32Registry::create(RegistryKey parent, std::string_view path, 
 
 RegistryStatus Win32Registry::enumKey(RegistryKey key, std::uint32_t index, char* name,
                                       std::uint32_t& length) {
+  if (isNtFamily()) {
+    std::array<wchar_t, NameRoom> wideName;
+    DWORD room = NameRoom;
+    const LONG result =
+        RegEnumKeyExW(handleOf(key), index, wideName.data(), &room, nullptr, nullptr, nullptr, nullptr);
+    return result == ERROR_SUCCESS ? hand(told({wideName.data(), room}), name, length) : result;
+  }
   DWORD room = length;
   const LONG result = RegEnumKeyExA(handleOf(key), index, name, &room, nullptr, nullptr, nullptr, nullptr);
   if (result == ERROR_SUCCESS) length = room;
   return result;
 }
 
+// The wide call tells the name and the ANSI one the data, which is told as the code page's text.
 RegistryStatus Win32Registry::enumValue(RegistryKey key, std::uint32_t index, char* name,
                                         std::uint32_t& length, std::uint32_t& type, std::uint8_t* data,
                                         std::uint32_t& dataLength) {
+  if (isNtFamily()) {
+    std::array<wchar_t, NameRoom> wideName;
+    DWORD wideRoom = NameRoom;
+    const LONG result =
+        RegEnumValueW(handleOf(key), index, wideName.data(), &wideRoom, nullptr, nullptr, nullptr, nullptr);
+    if (result != ERROR_SUCCESS) return result;
+    const RegistryStatus named = hand(told({wideName.data(), wideRoom}), name, length);
+    if (named != ERROR_SUCCESS) return named;
+    std::array<char, std::size_t{2} * NameRoom> ansiName;
+    DWORD room = static_cast<DWORD>(ansiName.size());
+    DWORD kind = 0;
+    DWORD size = dataLength;
+    const LONG read =
+        RegEnumValueA(handleOf(key), index, ansiName.data(), &room, nullptr, &kind, data, &size);
+    if (read == ERROR_SUCCESS) {
+      type = kind;
+      dataLength = size;
+    }
+    return read;
+  }
   DWORD room = length;
   DWORD kind = 0;
   DWORD size = dataLength;
@@ -80,22 +117,19 @@ RegistryStatus Win32Registry::query(RegistryKey key, std::string_view name, std:
 
 RegistryStatus Win32Registry::set(RegistryKey key, std::string_view name, std::uint32_t type,
                                   std::span<const std::uint8_t> data) {
-  const DWORD size = static_cast<DWORD>(data.size());
-  const std::string valueName(name);
-  if (!isText(type)) return RegSetValueExA(handleOf(key), valueName.c_str(), 0, type, data.data(), size);
-  // The NT family looks behind a text that does not end in a NUL and stores one more byte if it finds a NUL
-  // there. It finds none in this copy.
-  std::vector<std::uint8_t> bytes(data.begin(), data.end());
-  bytes.push_back('.');
-  return RegSetValueExA(handleOf(key), valueName.c_str(), 0, type, bytes.data(), size);
+  const std::string bytes(data.begin(), data.end());
+  return RegSetValueExA(handleOf(key), std::string(name).c_str(), 0, type,
+                        reinterpret_cast<const BYTE*>(bytes.c_str()), static_cast<DWORD>(data.size()));
 }
 
 RegistryStatus Win32Registry::deleteValue(RegistryKey key, std::string_view name) {
-  return RegDeleteValueA(handleOf(key), std::string(name).c_str());
+  return isNtFamily() ? RegDeleteValueW(handleOf(key), untoldWide(name).c_str())
+                      : RegDeleteValueA(handleOf(key), std::string(name).c_str());
 }
 
 RegistryStatus Win32Registry::deleteKey(RegistryKey key, std::string_view path) {
-  return RegDeleteKeyA(handleOf(key), std::string(path).c_str());
+  return isNtFamily() ? RegDeleteKeyW(handleOf(key), untoldWide(path).c_str())
+                      : RegDeleteKeyA(handleOf(key), std::string(path).c_str());
 }
 
 RegistryStatus Win32Registry::close(RegistryKey key) {

@@ -2,14 +2,29 @@
 
 #include "base/RuntimeError.h"
 #include "platform/win32/LoadedCall.h"
+#include "platform/win32/RecycleBins.h"
 
 namespace zub {
+namespace {
+
+// With the variables of the environment in place of their names.
+std::string expanded(const std::string& text) {
+  char room[2048];
+  const DWORD length = ExpandEnvironmentStringsA(text.c_str(), room, sizeof room);
+  return length > 0 && length <= sizeof room ? room : text;
+}
+
+}  // namespace
 
 // The recycle bin's calls came with Internet Explorer 4; where they are missing the program starts all the
 // same.
 std::int32_t Win32Shell::emptyRecycleBin(std::uint32_t flags) {
   const auto call = loadedCall<HRESULT(WINAPI*)(HWND, LPCSTR, DWORD)>("shell32.dll", "SHEmptyRecycleBinA");
   return call != nullptr ? call(nullptr, "", flags) : E_NOTIMPL;
+}
+
+std::vector<std::string> Win32Shell::recycleBins() {
+  return recycleBinFolders();
 }
 
 void Win32Shell::updateRecycleBinIcon() {
@@ -22,8 +37,12 @@ void Win32Shell::open(std::string_view document) {
                 SW_SHOWNORMAL);
 }
 
+// The system parts a line into program and arguments itself. Only a path with blanks that stands without quotes
+// could be taken for another program with arguments.
 void Win32Shell::start(std::string_view program) {
-  std::string line = '"' + std::string(program) + '"';
+  std::string line = expanded(std::string(program));
+  const DWORD attributes = GetFileAttributesA(line.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES) line = '"' + line + '"';
   STARTUPINFOA startup{};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION process;
@@ -35,6 +54,7 @@ void Win32Shell::start(std::string_view program) {
 }
 
 FolderPick Win32Shell::browseForFolder(std::string_view prompt) {
+  owner_();  // brings the windows up to their forms: the one that asks is to be disabled by now
   const std::string title(prompt);
   BROWSEINFOA browse{};
   browse.lpszTitle = title.c_str();

@@ -10,6 +10,7 @@ class Win32Shell : public Shell {
  public:
   explicit Win32Shell(OwnerWindow owner) : owner_(std::move(owner)) {}
   std::int32_t emptyRecycleBin(std::uint32_t flags) override;
+  std::vector<std::string> recycleBins() override;
   void updateRecycleBinIcon() override;
   void open(std::string_view document) override;
   void start(std::string_view program) override;

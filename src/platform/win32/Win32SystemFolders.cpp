@@ -1,32 +1,42 @@
 #include "platform/win32/Win32SystemFolders.h"
 
 #include "base/Text.h"
-#include "platform/win32/WindowsHeader.h"
+#include "platform/win32/Text.h"
 
 namespace zub {
 namespace {
 
-std::string programPath() {
-  char path[MAX_PATH] = "";
-  const DWORD length = GetModuleFileNameA(nullptr, path, sizeof path);
-  return {path, length};
+// What a call that fills a buffer tells on this family; empty where it fails, as one does whose room is too
+// small.
+template <class Wide, class Ansi>
+std::string pathFrom(Wide wideCall, Ansi ansiCall) {
+  std::wstring path(MAX_PATH, L'\0');
+  if (!isNtFamily()) {
+    std::string ansi(MAX_PATH, '\0');
+    const DWORD length = ansiCall(ansi.data(), MAX_PATH);
+    path = length <= ansi.size() ? wide(ansi.substr(0, length)) : std::wstring();
+  } else {
+    DWORD length = wideCall(path.data(), MAX_PATH);
+    path.resize(length <= path.size() ? length : 0);
+  }
+  return toldPath(path);
 }
 
-// What a call that fills a buffer answered: more than the room is a failure, as 0 is.
-std::string filled(const std::string& buffer, DWORD length) {
-  return length <= buffer.size() ? buffer.substr(0, length) : std::string();
+std::string programPath() {
+  return pathFrom([](wchar_t* path, DWORD room) { return GetModuleFileNameW(nullptr, path, room); },
+                  [](char* path, DWORD room) { return GetModuleFileNameA(nullptr, path, room); });
 }
 
 }  // namespace
 
 std::string Win32SystemFolders::temp(std::uint32_t room) {
-  std::string path(room, '\0');
-  return filled(path, GetTempPathA(room, path.data()));
+  const std::string path = pathFrom([](wchar_t* buffer, DWORD size) { return GetTempPathW(size, buffer); },
+                                    [](char* buffer, DWORD size) { return GetTempPathA(size, buffer); });
+  return path.size() < room ? path : std::string();
 }
 
 std::string Win32SystemFolders::windows() {
-  std::string path(MAX_PATH, '\0');
-  return filled(path, GetWindowsDirectoryA(path.data(), MAX_PATH));
+  return pathFrom(GetWindowsDirectoryW, GetWindowsDirectoryA);
 }
 
 std::string Win32SystemFolders::programFolder() {
@@ -40,8 +50,8 @@ std::string Win32SystemFolders::programFile() {
 }
 
 std::string Win32SystemFolders::current() {
-  std::string path(MAX_PATH, '\0');
-  return filled(path, GetCurrentDirectoryA(MAX_PATH, path.data()));
+  return pathFrom([](wchar_t* buffer, DWORD size) { return GetCurrentDirectoryW(size, buffer); },
+                  [](char* buffer, DWORD size) { return GetCurrentDirectoryA(size, buffer); });
 }
 
 }  // namespace zub

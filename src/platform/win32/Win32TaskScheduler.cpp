@@ -27,19 +27,23 @@ std::string taskName(std::wstring_view stored) {
   return name;
 }
 
-std::string environment(const char* name) {
-  char text[256] = "";
-  const DWORD length = GetEnvironmentVariableA(name, text, sizeof text);
-  return length < sizeof text ? text : "";
+// Names of users may lie beyond the code page.
+std::wstring environment(const wchar_t* name) {
+  constexpr DWORD Room = 512;
+  wchar_t text[Room] = L"";
+  const DWORD length = GetEnvironmentVariableW(name, text, Room);
+  return length < Room ? std::wstring(text, length) : std::wstring();
 }
 
 // The NT family starts no task without an account: this one is the user's, and runs while the user is logged
-// on, so that it needs no password. The 9x family knows no accounts and refuses it.
+// on, so that it needs no password. The 9x family knows no accounts.
 void runAsThisUser(ComPointer<ITask>& task) {
   task->SetFlags(TASK_FLAG_RUN_ONLY_IF_LOGGED_ON);
-  const std::string domain = environment("USERDOMAIN");
-  const std::string user = environment("USERNAME");
-  task->SetAccountInformation(wide(domain.empty() ? user : domain + '\\' + user).c_str(), nullptr);
+  const bool family9x = (GetVersion() & 0x80000000) != 0;
+  if (family9x) return;
+  const std::wstring domain = environment(L"USERDOMAIN");
+  const std::wstring user = environment(L"USERNAME");
+  mustSucceed(task->SetAccountInformation((domain.empty() ? user : domain + L'\\' + user).c_str(), nullptr));
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 
 namespace zub {
 
-// The bitmap files that are built into the program.
+// The files of the pictures that are built into the program.
 std::span<const EmbeddedFile> artFiles();
 
 }  // namespace zub
@@ -19,10 +19,10 @@ namespace zub::controls {
 
 class Art {
  public:
-  // The files must outlive the object.
+  // The files' names must outlive the object.
   explicit Art(std::span<const EmbeddedFile> files = artFiles());
 
-  // By the name of its file without ".bmp"; the empty picture where there is none.
+  // By the name of its file without ".qoi"; the empty picture where there is none.
   const Bitmap& operator[](std::string_view name) const;
 
  private:

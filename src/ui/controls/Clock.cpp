@@ -6,10 +6,11 @@ namespace zub::controls {
 
 namespace {
 
-constexpr Box Picture1 = pixels(Box{15, 15, 1020, 390});
-constexpr int ImgCharLeft[] = {pixels(60), pixels(270), pixels(570), pixels(780)};
-constexpr int ImgCharTop = pixels(45);
-constexpr Point ImgBlink = {pixels(480), pixels(105)};
+// In twips; those of the digits and of the colon are counted from the panel's corner.
+constexpr Box Picture1 = {15, 15, 1020, 390};
+constexpr int ImgCharLeft[] = {60, 270, 570, 780};
+constexpr int ImgCharTop = 45;
+constexpr Point ImgBlink = {480, 105};
 
 int digitAt(std::string_view text, std::size_t place) {
   const bool isDigit = place < text.size() && text[place] >= '0' && text[place] <= '9';
@@ -29,15 +30,23 @@ void Clock::Blink() {
   show(colonIsVisible_, !colonIsVisible_);
 }
 
+Described Clock::described() const {
+  std::string time;
+  for (const int digit : digits_)
+    if (digit != Blank) time += std::to_string(digit);
+  if (time.size() > 2) time.insert(time.size() - 2, 1, ':');
+  return {.role = Role::Clock, .name = time};
+}
+
 void Clock::paint(Surface& surface) const {
   surface.clear(BackColor());
-  Surface panel = surface.within(Picture1);
-  panel.draw(kit_.art["clock-background"], {});
+  Surface panel = surface.within(pixels(Picture1));
+  draw(panel, "clock-background", {});
   for (std::size_t i = 0; i < digits_.size(); ++i) {
     const std::string name = digits_[i] == Blank ? "blank" : std::to_string(digits_[i]);
-    panel.draw(kit_.art["digit-" + name], {ImgCharLeft[i], ImgCharTop});
+    draw(panel, "digit-" + name, pixels(Point{ImgCharLeft[i], ImgCharTop}));
   }
-  if (colonIsVisible_) panel.draw(kit_.art["clock-colon"], ImgBlink);
+  if (colonIsVisible_) draw(panel, "clock-colon", pixels(ImgBlink));
 }
 
 }  // namespace zub::controls

@@ -25,6 +25,7 @@ class Clock : public Control {
   bool colonIsVisible() const { return colonIsVisible_; }
 
   void paint(Surface& surface) const override;
+  Described described() const override;
 
  private:
   std::array<int, 4> digits_ = {Blank, Blank, Blank, Blank};

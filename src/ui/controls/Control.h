@@ -1,6 +1,6 @@
 // What all controls of the kit have in common. A control owns its look and its events; a host gives it a
 // rectangle of a window, hands it the input, runs its timer, and paints it whenever `revision` has moved.
-// Places are pixels, counted from the control's corner.
+// Places are pixels of the screen, counted from the control's corner.
 #pragma once
 
 #include <cstdint>
@@ -26,11 +26,23 @@ class PointerSource {
   virtual Point pointerOver(const Control& control) = 0;
 };
 
+// What a control, or a part of it, is to those who cannot see it.
+enum class Role : std::uint8_t { Picture, Button, CheckBox, Group, List, ListItem, Clock };
+struct Described {
+  Role role = Role::Picture;
+  std::string name;  // with the ampersand before its access key
+  bool checkable = false;
+  bool checked = false;
+  bool selected = false;
+  bool operator==(const Described&) const = default;
+};
+
 // What a control needs of its surroundings; all of it must outlive the control.
 struct Kit {
   const Art& art;
   TextPainter& text;
   PointerSource& pointer;
+  Scale scale = {};
 };
 
 inline constexpr std::int16_t LeftButton = 1;
@@ -100,6 +112,14 @@ class Control {
   void keyPress(std::int16_t ascii);
   // A click without the mouse: the caption's access key, or automation.
   void press();
+  // For those who cannot see it. The parts that count by themselves are numbered from 0.
+  virtual Described described() const { return {}; }
+  virtual int parts() const { return 0; }
+  virtual Described describedPart(int) const { return {}; }
+  virtual Box partPlace(int) const { return {}; }
+  virtual void selectPart(int) {}
+  virtual void pressPart(int) {}
+
   // The control has come in sight.
   virtual void shown() {}
 
@@ -114,7 +134,9 @@ class Control {
   virtual void WriteProperties(PropertyBag&, const Ambient&) const {}
 
  protected:
-  explicit Control(const Kit& kit, Size size = {}) : kit_(kit), size_(size) {}
+  // `size` is told for 96 pixels an inch.
+  explicit Control(const Kit& kit, Size size = {})
+      : kit_(kit), size_(kit.scale.ofPicture(size.width, size.height)) {}
 
   static constexpr int Nothing = -1;
   // The part of the control at a place. The part that a press meets gets all that follows until the release.
@@ -132,6 +154,12 @@ class Control {
   virtual void onTimer() {}
   virtual void onResize() {}
 
+  int pixels(int twips) const { return kit_.scale.pixels(twips); }
+  Point pixels(Point twips) const { return kit_.scale.pixels(twips); }
+  Box pixels(const Box& twips) const { return kit_.scale.pixels(twips); }
+  void draw(Surface& surface, std::string_view picture, Point at) const {
+    surface.draw(kit_.art[picture], at, kit_.scale);
+  }
   bool isPressed() const { return pressed_ != Nothing; }
   // The right and the lower edge count as inside.
   bool holds(float x, float y) const;

@@ -39,23 +39,36 @@ constexpr Box common(const Box& a, const Box& b) {
           std::max(0, std::min(a.bottom(), b.bottom()) - top)};
 }
 
-// The program draws for 96 pixels an inch.
+// What the kit is told in: most of it for 96 pixels an inch, tabs and title buttons for 120, where the areas for the
+// mouse cover the pictures.
 inline constexpr int TwipsPerPixel = 15;
-// Tabs and title buttons are told at 120 pixels an inch: there the areas for the mouse cover the pictures.
 inline constexpr int TitleTwipsPerPixel = 12;
 
-// The nearest pixel, halves upward.
-constexpr int pixels(int twips, int twipsPerPixel = TwipsPerPixel) {
-  const int doubled = 2 * twips + twipsPerPixel;
-  const int unit = 2 * twipsPerPixel;
-  return doubled >= 0 ? doubled / unit : -((unit - 1 - doubled) / unit);
-}
+// From what the kit is told in to the pixels of the screen that it is painted on.
+struct Scale {
+  static constexpr int DesignDpi = 96;
+  int dpi = DesignDpi;  // pixels an inch
 
-constexpr Box pixels(const Box& twips, int twipsPerPixel = TwipsPerPixel) {
-  const int left = pixels(twips.left, twipsPerPixel);
-  const int top = pixels(twips.top, twipsPerPixel);
-  return {left, top, pixels(twips.right(), twipsPerPixel) - left,
-          pixels(twips.bottom(), twipsPerPixel) - top};
-}
+  // The nearest pixel, halves upward.
+  constexpr int pixels(int twips, int twipsPerPixel = TwipsPerPixel) const {
+    const int doubled = 2 * twips * dpi + twipsPerPixel * DesignDpi;
+    const int unit = 2 * twipsPerPixel * DesignDpi;
+    return doubled >= 0 ? doubled / unit : -((unit - 1 - doubled) / unit);
+  }
+  constexpr Point pixels(Point twips, int twipsPerPixel = TwipsPerPixel) const {
+    return {pixels(twips.x, twipsPerPixel), pixels(twips.y, twipsPerPixel)};
+  }
+  // Boxes that touch in twips touch in pixels.
+  constexpr Box pixels(const Box& twips, int twipsPerPixel = TwipsPerPixel) const {
+    const int left = pixels(twips.left, twipsPerPixel);
+    const int top = pixels(twips.top, twipsPerPixel);
+    return {left, top, pixels(twips.right(), twipsPerPixel) - left,
+            pixels(twips.bottom(), twipsPerPixel) - top};
+  }
+  // The size of a picture of so many pixels.
+  constexpr Size ofPicture(int width, int height) const { return {pixels(width, 1), pixels(height, 1)}; }
+  // How wide a line of one pixel is: lines grow in whole steps, so that all are alike.
+  constexpr int line() const { return std::max(1, dpi / DesignDpi); }
+};
 
 }  // namespace zub::controls

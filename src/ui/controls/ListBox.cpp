@@ -33,22 +33,13 @@ constexpr std::int16_t LeftKey = 37, RightKey = 39;
 // Parts, as events meet them: the items' pictures, their boxes, the scroll bar.
 constexpr int FirstCheck = ListBox::Items, FirstScrollPart = 2 * ListBox::Items;
 
-constexpr Point pixels(Point twips) {
-  return {controls::pixels(twips.x), controls::pixels(twips.y)};
-}
-
-Box checkPlace(int item) {
-  const Point at = ItemPlaces[item].check;
-  return controls::pixels(Box{at.x, at.y, CheckSize.width, CheckSize.height});
-}
-
 }  // namespace
 
 ListBox::ListBox(const Kit& kit)
     : Control(kit, {407, 75}), thumbTop_(ImgScroll.y), thumbAreaTop_(ImgClick[Thumb].top) {
   for (int item = 0; item < Items; ++item) {
     SimpleCheck& check = checks_.emplace_back(kit);
-    check.resize(controls::pixels(CheckSize.width), controls::pixels(CheckSize.height));
+    check.resize(pixels(CheckSize.width), pixels(CheckSize.height));
     check.Click = [this, item] {
       std::int16_t index = static_cast<std::int16_t>(item);
       raise(ClickCheck, index);
@@ -74,8 +65,33 @@ void ListBox::Check(std::int16_t index, std::int16_t value) {
   changeLook();
 }
 
+void ListBox::ItemName(std::int16_t index, std::string_view name) {
+  names_[static_cast<std::size_t>(index)] = name;
+}
+
+Described ListBox::describedPart(int item) const {
+  const auto index = static_cast<std::int16_t>(item);
+  return {.role = Role::ListItem,
+          .name = names_[static_cast<std::size_t>(item)],
+          .checkable = true,
+          .checked = Check(index) != 0,
+          .selected = index == selected_};
+}
+
+// With its box, also where it is scrolled out of sight.
+Box ListBox::partPlace(int item) const {
+  const Box window = pixels(PicContainer), check = checkPlace(item), shown = picturePlace(item);
+  const int left = std::min(check.left, shown.left), top = std::min(check.top, shown.top);
+  return {window.left + left, window.top + panel().top + top, shown.right() - left, shown.bottom() - top};
+}
+
+void ListBox::pressPart(int item) {
+  checks_[static_cast<std::size_t>(item)].press();
+  changeLook();
+}
+
 Box ListBox::panel() const {
-  return controls::pixels(Box{0, panelTop_, PicContainer.width, PanelHeights * PicContainer.height});
+  return pixels(Box{0, panelTop_, PicContainer.width, PanelHeights * PicContainer.height});
 }
 
 const Bitmap& ListBox::picture(int item) const {
@@ -86,35 +102,48 @@ const Bitmap& ListBox::picture(int item) const {
 // An item takes the size of the picture that it shows.
 Box ListBox::picturePlace(int item) const {
   const Point at = pixels(ItemPlaces[item].picture);
-  return {at.x, at.y, picture(item).width(), picture(item).height()};
+  const Size size = kit_.scale.ofPicture(picture(item).width(), picture(item).height());
+  return {at.x, at.y, size.width, size.height};
+}
+
+Box ListBox::checkPlace(int item) const {
+  const Point at = ItemPlaces[item].check;
+  return pixels(Box{at.x, at.y, CheckSize.width, CheckSize.height});
 }
 
 Box ListBox::hitArea(int index) const {
   Box area = ImgClick[index];
   if (index == Thumb) area.top = thumbAreaTop_;
-  return controls::pixels(area);
+  return pixels(area);
 }
 
 void ListBox::paint(Surface& surface) const {
   surface.clear(BackColor());
-  surface.draw(kit_.art["list-frame"], {});  // as large as it is: the track of the scroll bar is part of it
-  surface.draw(kit_.art["scroll-arrow-down"], pixels(ImgScrollArrows[DownArrow]));
-  surface.draw(kit_.art["scroll-arrow-up"], pixels(ImgScrollArrows[UpArrow]));
-  surface.draw(kit_.art["scroll-thumb"], pixels(Point{ImgScroll.x, thumbTop_}));
+  draw(surface, "list-frame", {});  // as large as it is: the track of the scroll bar is part of it
+  draw(surface, "scroll-arrow-down", pixels(ImgScrollArrows[DownArrow]));
+  draw(surface, "scroll-arrow-up", pixels(ImgScrollArrows[UpArrow]));
+  draw(surface, "scroll-thumb", pixels(Point{ImgScroll.x, thumbTop_}));
 
-  const Surface inner = surface.within(controls::pixels(PicContainer)).within(panel());
+  Surface inner = surface.within(pixels(PicContainer)).within(panel());
   for (int item = 0; item < Items; ++item) {
-    const Box place = picturePlace(item);
-    Surface(inner).draw(picture(item), {place.left, place.top});
+    inner.draw(picture(item), pixels(ItemPlaces[item].picture), kit_.scale);
     Surface box = inner.within(checkPlace(item));
     checks_[static_cast<std::size_t>(item)].paint(box);
   }
 }
 
+Box ListBox::focusPlace() const {
+  const Box window = pixels(PicContainer), place = picturePlace(selected_);
+  const int air = pixels(TwipsPerPixel);
+  const Box seen = common(window, {window.left + place.left - air, window.top + panel().top + place.top - air,
+                                   place.width + 2 * air, place.height + 2 * air});
+  return seen.height > 0 ? seen : window;
+}
+
 int ListBox::partAt(float x, float y) const {
   for (const int index : {Thumb, DownArrow, UpArrow})
     if (hitArea(index).contains(x, y)) return FirstScrollPart + index;
-  const Box container = controls::pixels(PicContainer);
+  const Box container = pixels(PicContainer);
   if (!container.contains(x, y)) return Nothing;
   const float panelX = x - static_cast<float>(container.left);
   const float panelY = y - static_cast<float>(container.top + panel().top);
@@ -128,7 +157,7 @@ int ListBox::partAt(float x, float y) const {
 
 // The event with its place counted from the corner of an item's box.
 Mouse ListBox::onCheck(int item, Mouse mouse) const {
-  const Box container = controls::pixels(PicContainer), place = checkPlace(item);
+  const Box container = pixels(PicContainer), place = checkPlace(item);
   mouse.X -= static_cast<float>(container.left + place.left);
   mouse.Y -= static_cast<float>(container.top + panel().top + place.top);
   return mouse;

@@ -36,7 +36,18 @@ class ListBox : public Control {
   int panelTop() const { return panelTop_; }  // twips, 0 to -1200
   int thumbTop() const { return thumbTop_; }  // twips
 
+  // What the items are called; they are not shown.
+  void ItemName(std::int16_t index, std::string_view name);
+
   void paint(Surface& surface) const override;
+  Box focusPlace() const override;  // around the selected item; around all where it is out of sight
+
+  Described described() const override { return {.role = Role::List, .name = "Items"}; }
+  int parts() const override { return Items; }
+  Described describedPart(int item) const override;
+  Box partPlace(int item) const override;
+  void selectPart(int item) override { select(static_cast<std::int16_t>(item)); }
+  void pressPart(int item) override;
 
  protected:
   int partAt(float x, float y) const override;
@@ -49,6 +60,7 @@ class ListBox : public Control {
  private:
   Box panel() const;
   Box picturePlace(int item) const;
+  Box checkPlace(int item) const;
   Box hitArea(int index) const;
   const Bitmap& picture(int item) const;
   Mouse onCheck(int item, Mouse mouse) const;
@@ -57,6 +69,7 @@ class ListBox : public Control {
   void scroll(int direction);
 
   std::deque<SimpleCheck> checks_;
+  std::array<std::string, Items> names_;
   std::int16_t selected_ = 0;
   std::array<bool, Items> highlighted_ = {};
   int direction_ = 0;  // of the thumb: 1 down, -1 up, 0 not yet known

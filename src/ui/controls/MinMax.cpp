@@ -4,8 +4,7 @@ namespace zub::controls {
 
 namespace {
 
-constexpr Box Buttons[] = {pixels(Box{0, 0, 252, 300}, TitleTwipsPerPixel),
-                           pixels(Box{240, 0, 252, 300}, TitleTwipsPerPixel)};
+constexpr Box Buttons[] = {{0, 0, 252, 300}, {240, 0, 252, 300}};  // twips
 constexpr std::string_view ToolTips[] = {"Minimise to tray", "Close"};
 constexpr std::string_view HotPictures[] = {"minmax-minimise-hot", "minmax-close-hot"};
 constexpr std::string_view PressedPictures[] = {"minmax-minimise-pressed", "minmax-close-pressed"};
@@ -23,17 +22,22 @@ std::string_view MinMax::toolTip(Point at) const {
 
 void MinMax::paint(Surface& surface) const {
   surface.clear(BackColor());
-  surface.draw(kit_.art["minmax-background"], {});
+  draw(surface, "minmax-background", {});
   for (std::size_t i = 0; i < shown_.size(); ++i) {
     if (shown_[i] == Empty) continue;
     const std::string_view name = shown_[i] == Hot ? HotPictures[i] : PressedPictures[i];
-    surface.draw(kit_.art[name], {Buttons[i].left, Buttons[i].top});
+    const Box place = buttonPlace(i);
+    draw(surface, name, {place.left, place.top});
   }
 }
 
+Box MinMax::buttonPlace(std::size_t button) const {
+  return kit_.scale.pixels(Buttons[button], TitleTwipsPerPixel);
+}
+
 int MinMax::partAt(float x, float y) const {
-  if (Buttons[1].contains(x, y)) return 1;
-  return Buttons[0].contains(x, y) ? 0 : Nothing;
+  if (buttonPlace(1).contains(x, y)) return 1;
+  return buttonPlace(0).contains(x, y) ? 0 : Nothing;
 }
 
 void MinMax::onMouseDown(int part, Mouse&) {

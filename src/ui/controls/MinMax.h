@@ -29,6 +29,8 @@ class MinMax : public Control {
   enum Look { Empty, Hot, Pressed };
   using Looks = std::array<Look, 2>;
 
+  Box buttonPlace(std::size_t button) const;
+
   Looks shown_ = {Empty, Empty};
 };
 

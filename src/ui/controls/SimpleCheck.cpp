@@ -2,11 +2,13 @@
 
 #include <cmath>
 
+#include "ui/controls/CheckBox.h"
+
 namespace zub::controls {
 
 namespace {
 
-constexpr Box PicCheck = pixels(Box{0, 30, 195, 195});
+constexpr Box PicCheck = {0, 30, 195, 195};  // twips
 
 }  // namespace
 
@@ -17,12 +19,11 @@ void SimpleCheck::Value(float value) {
 }
 
 void SimpleCheck::paint(Surface& surface) const {
-  surface.draw(kit_.art[value_ == Ticked ? "simple-check-ticked" : "simple-check-empty"],
-               {PicCheck.left, PicCheck.top});
+  paintCheckBox(surface, kit_, pixels(PicCheck), value_ == Ticked ? CheckLook::On : CheckLook::Off);
 }
 
 int SimpleCheck::partAt(float x, float y) const {
-  return PicCheck.contains(x, y) ? 0 : Nothing;
+  return pixels(PicCheck).contains(x, y) ? 0 : Nothing;
 }
 
 // The bitwise complement of the whole number: 0 and -1 turn into each other.

@@ -27,6 +27,7 @@ class SimpleCheck : public Control {
  protected:
   int partAt(float x, float y) const override;
   void onClick(int part) override;
+  void onPress() override { onClick(0); }
 
  private:
   float value_ = Empty;

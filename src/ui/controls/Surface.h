@@ -29,12 +29,15 @@ class Surface {
   void fill(const Box& box, Color color);
   void clear(Color color) { fill({0, 0, width(), height()}, color); }
 
-  // Stretches a part of the picture over the box `to`: each pixel takes the one at its own place in the
-  // picture, nearest to its middle, mixed in by its opacity. What lies outside the picture, or outside the
-  // surface, is left as it is. An empty or negative box paints nothing.
+  // Stretches a part of the picture over the box `to`: each pixel takes the mean of what lies under it, mixed in
+  // by its opacity, so that whole multiples stay sharp and all others are smooth. What lies outside the picture,
+  // or outside the surface, is left as it is. An empty or negative box paints nothing.
   void copy(const Bitmap& picture, const Box& from, const Box& to);
-  // The whole picture, not stretched.
-  void draw(const Bitmap& picture, Point at);
+  // The whole picture in its size on this screen.
+  void draw(const Bitmap& picture, Point at, Scale scale = {});
+  // A part of the picture as a frame around its middle: the four corners of `edge` pixels a side and the edges
+  // between them grow in whole lines, the middle takes the room that is left.
+  void frame(const Bitmap& picture, const Box& from, int edge, const Box& to, Scale scale);
 
  private:
   std::uint32_t* row(int y);

@@ -18,7 +18,7 @@ constexpr Size sizeOf(int width, int height) {
 
 TabStrip::TabStrip(const Kit& kit, Size size, std::span<const Box> areas, std::string art)
     : Control(kit, size), art_(std::move(art)) {
-  for (const Box& area : areas) areas_.push_back(pixels(area, TitleTwipsPerPixel));
+  for (const Box& area : areas) areas_.push_back(kit.scale.pixels(area, TitleTwipsPerPixel));
 }
 
 void TabStrip::ShowTab(std::int16_t Index) {
@@ -30,7 +30,7 @@ void TabStrip::ShowTab(std::int16_t Index) {
 
 void TabStrip::paint(Surface& surface) const {
   surface.clear(BackColor());
-  surface.draw(kit_.art[art_ + std::to_string(active_)], {});
+  draw(surface, art_ + std::to_string(active_), {});
 }
 
 // Where two areas overlap, the later one lies above.

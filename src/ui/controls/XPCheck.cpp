@@ -4,8 +4,7 @@ namespace zub::controls {
 
 namespace {
 
-constexpr int BoxLeft = 90, BoxSide = 195, LabelLeft = 405;  // twips
-constexpr std::string_view ImgCheck[] = {"check-off", "check-on", "check-off-disabled", "check-on-disabled"};
+constexpr int BoxLeft = 90, LabelLeft = 405;  // twips
 
 }  // namespace
 
@@ -29,26 +28,26 @@ void XPCheck::Value(float value) {
 
 void XPCheck::Draw_Control() {
   if (value_ == 0)
-    show(picture_, Enabled() ? Off : OffDisabled);
+    show(look_, Enabled() ? CheckLook::Off : CheckLook::OffDisabled);
   else if (value_ == 1)
-    show(picture_, Enabled() ? On : OnDisabled);
+    show(look_, Enabled() ? CheckLook::On : CheckLook::OnDisabled);
 }
 
 // Box and caption are centred on one line.
 Box XPCheck::boxPlace() const {
-  return pixels(Box{BoxLeft, (height() * TwipsPerPixel - BoxSide) / 2, BoxSide, BoxSide});
+  const int side = pixels(CheckBoxTwips);
+  return {pixels(BoxLeft), (height() - side) / 2, side, side};
 }
 
 Box XPCheck::labelPlace() const {
   const Size size = label_.size(kit_.text);
-  const int top = (height() - size.height) * TwipsPerPixel / 2;
-  return {pixels(LabelLeft), pixels(top), size.width, size.height};
+  return {pixels(LabelLeft), (height() - size.height) / 2, size.width, size.height};
 }
 
 void XPCheck::paint(Surface& surface) const {
-  const Box box = boxPlace(), label = labelPlace();
+  const Box label = labelPlace();
   surface.clear(BackColor());
-  surface.draw(kit_.art[ImgCheck[picture_]], {box.left, box.top});
+  paintCheckBox(surface, kit_, boxPlace(), look_);
   label_.paint(surface, kit_.text, {label.left, label.top});
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "ui/controls/CaptionLabel.h"
-#include "ui/controls/Control.h"
+#include "ui/controls/CheckBox.h"
 
 namespace zub::controls {
 
@@ -27,6 +27,10 @@ class XPCheck : public Control {
   void paint(Surface& surface) const override;
   Box focusPlace() const override;  // around the caption
 
+  Described described() const override {
+    return {.role = Role::CheckBox, .name = Caption(), .checkable = true, .checked = value_ != 0};
+  }
+
   // Loading raises no Click.
   void InitProperties(const Ambient& ambient) override;
   void ReadProperties(const PropertyBag& bag, const Ambient& ambient) override;
@@ -38,14 +42,12 @@ class XPCheck : public Control {
   void onPress() override;
 
  private:
-  enum Picture { Off, On, OffDisabled, OnDisabled };
-
   Box boxPlace() const;
   Box labelPlace() const;
 
   CaptionLabel label_;
   float value_ = 0;
-  Picture picture_ = Off;
+  CheckLook look_ = CheckLook::Off;
 };
 
 }  // namespace zub::controls

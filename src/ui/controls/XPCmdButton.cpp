@@ -45,21 +45,10 @@ void XPCmdButton::Redraw() {
 }
 
 void XPCmdButton::paint(Surface& surface) const {
-  const int w = width(), h = height();
-  const struct {
-    Box to, from;
-  } pieces[] = {
-      {{0, 0, 3, 3}, {0, 0, 3, 3}},           {{w - 3, 0, 3, 3}, {15, 0, 3, 3}},
-      {{w - 3, h - 3, 3, 3}, {15, 18, 3, 3}}, {{0, h - 3, 3, 3}, {0, 18, 3, 3}},
-      {{3, 0, w - 6, 3}, {3, 0, 12, 3}},      {{w - 3, 3, 3, h - 6}, {15, 3, 3, 15}},
-      {{0, 3, 3, h - 6}, {0, 3, 3, 15}},      {{3, h - 3, w - 6, 3}, {3, 18, 12, 3}},
-      {{3, 3, w - 6, h - 6}, {3, 3, 12, 15}},
-  };
-  constexpr int CellWidth = 18;
-  const Bitmap& strip = kit_.art["button-strip"];
+  constexpr int CellWidth = 18, CellHeight = 21, Edge = 3;
   surface.clear(BackColor());
-  for (const auto& [to, from] : pieces)
-    surface.copy(strip, {from.left + cell_ * CellWidth, from.top, from.width, from.height}, to);
+  surface.frame(kit_.art["button-strip"], {cell_ * CellWidth, 0, CellWidth, CellHeight}, Edge,
+                {0, 0, width(), height()}, kit_.scale);
   const Corner corner = labelCorner();
   const Point at = {static_cast<int>(std::floor(corner.left + 0.5F)),
                     static_cast<int>(std::floor(corner.top + 0.5F))};

@@ -32,6 +32,8 @@ class XPCmdButton : public Control {
   void paint(Surface& surface) const override;
   void shown() override { Redraw(); }
 
+  Described described() const override { return {.role = Role::Button, .name = Caption()}; }
+
   // A stored State is lost: only code sets it.
   void InitProperties(const Ambient& ambient) override;
   void ReadProperties(const PropertyBag& bag, const Ambient& ambient) override;

@@ -4,7 +4,7 @@ namespace zub::controls {
 
 namespace {
 
-constexpr int TitleLeft = 15;
+constexpr int TitleLeft = 15;  // pixels of 96 an inch
 
 }  // namespace
 
@@ -33,27 +33,28 @@ void XPGroupBox::Font(const FontRef& font) {
 
 Box XPGroupBox::titleBox() const {
   const Size size = title_.size(kit_.text);
-  return {TitleLeft, 0, size.width, size.height};
+  return {kit_.scale.pixels(TitleLeft, 1), 0, size.width, size.height};
 }
 
 void XPGroupBox::paint(Surface& surface) const {
   const Box title = titleBox();
+  const int line = kit_.scale.line(), corner = 3 * line;
   const int top = title.height / 2;  // the title stands centred on the upper line
-  const int right = width() - 3, bottom = height() - 3;
-  const int across = width() - 6, down = height() - 6 - top;
+  const int right = width() - corner, bottom = height() - corner;
+  const int across = width() - 2 * corner, down = height() - 2 * corner - top;
   // The lower right corner is taken one row too low, so its last row lies past the picture's end and is not
   // painted; the picture is drawn for that.
   const struct {
     Box to, from;
   } pieces[] = {
-      {{0, top, 3, 3}, {0, 0, 3, 3}},
-      {{right, top, 3, 3}, {19, 0, 3, 3}},
-      {{right, bottom, 3, 3}, {19, 18, 3, 3}},
-      {{0, bottom, 3, 3}, {0, 17, 3, 3}},
-      {{3, top, across, 1}, {3, 0, 16, 1}},
-      {{right + 2, top + 3, 1, down}, {21, 3, 1, 14}},
-      {{3, bottom + 2, across, 1}, {3, 19, 16, 1}},
-      {{0, top + 3, 1, down}, {0, 3, 1, 14}},
+      {{0, top, corner, corner}, {0, 0, 3, 3}},
+      {{right, top, corner, corner}, {19, 0, 3, 3}},
+      {{right, bottom, corner, corner}, {19, 18, 3, 3}},
+      {{0, bottom, corner, corner}, {0, 17, 3, 3}},
+      {{corner, top, across, line}, {3, 0, 16, 1}},
+      {{width() - line, top + corner, line, down}, {21, 3, 1, 14}},
+      {{corner, height() - line, across, line}, {3, 19, 16, 1}},
+      {{0, top + corner, line, down}, {0, 3, 1, 14}},
   };
   surface.clear(BackColor());
   for (const auto& [to, from] : pieces) surface.copy(kit_.art["group-frame"], from, to);
@@ -66,7 +67,7 @@ int XPGroupBox::partAt(float x, float y) const {
 }
 
 void XPGroupBox::forward(const MouseEvent& event, int part, Mouse mouse) const {
-  if (part == Title) mouse.X -= TitleLeft;
+  if (part == Title) mouse.X -= static_cast<float>(titleBox().left);
   raise(event, mouse.Button, mouse.Shift, mouse.X, mouse.Y);
 }
 

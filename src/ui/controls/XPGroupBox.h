@@ -24,6 +24,8 @@ class XPGroupBox : public Control {
 
   void paint(Surface& surface) const override;
 
+  Described described() const override { return {.role = Role::Group, .name = Caption()}; }
+
   void InitProperties(const Ambient& ambient) override;
   void ReadProperties(const PropertyBag& bag, const Ambient& ambient) override;
   void WriteProperties(PropertyBag& bag, const Ambient& ambient) const override;

@@ -4,7 +4,7 @@ namespace zub::controls {
 
 namespace {
 
-constexpr Box PicClose = pixels(Box{15, 15, 360, 240}, TitleTwipsPerPixel);
+constexpr Box PicClose = {15, 15, 360, 240};  // twips
 constexpr std::string_view ImgActions[] = {"close-rest", "close-pressed", "close-hot"};
 
 }  // namespace
@@ -15,11 +15,16 @@ ZUBCloseButton::ZUBCloseButton(const Kit& kit) : Control(kit, {29, 23}) {
 
 void ZUBCloseButton::paint(Surface& surface) const {
   surface.clear(BackColor());
-  surface.draw(kit_.art[ImgActions[shown_]], {PicClose.left, PicClose.top});
+  const Box place = picturePlace();
+  draw(surface, ImgActions[shown_], {place.left, place.top});
+}
+
+Box ZUBCloseButton::picturePlace() const {
+  return kit_.scale.pixels(PicClose, TitleTwipsPerPixel);
 }
 
 int ZUBCloseButton::partAt(float x, float y) const {
-  return PicClose.contains(x, y) ? 0 : Nothing;
+  return picturePlace().contains(x, y) ? 0 : Nothing;
 }
 
 void ZUBCloseButton::onMouseDown(int, Mouse&) {
@@ -29,7 +34,8 @@ void ZUBCloseButton::onMouseDown(int, Mouse&) {
 // The place is counted from the picture's corner, but held against the size of the whole control.
 void ZUBCloseButton::onMouseMove(int, Mouse& mouse) {
   timer_.Enabled = true;
-  if (holds(mouse.X - static_cast<float>(PicClose.left), mouse.Y - static_cast<float>(PicClose.top)))
+  const Box place = picturePlace();
+  if (holds(mouse.X - static_cast<float>(place.left), mouse.Y - static_cast<float>(place.top)))
     show(shown_, mouse.Button == LeftButton ? Pressed : Hot);
 }
 

@@ -12,6 +12,7 @@ class ZUBCloseButton : public Control {
   Handler Click;
 
   void paint(Surface& surface) const override;
+  Described described() const override { return {.role = Role::Button, .name = "Close"}; }
 
  protected:
   int partAt(float x, float y) const override;
@@ -23,6 +24,8 @@ class ZUBCloseButton : public Control {
 
  private:
   enum Action { Rest, Pressed, Hot };
+
+  Box picturePlace() const;
 
   Action shown_ = Rest;
 };

@@ -8,6 +8,7 @@
 
 #include "platform/win32/WindowsHeader.h"
 #include "state/Controls.h"
+#include "ui/controls/Geometry.h"
 #include "ui/layout/WindowSpec.h"
 
 namespace zub {
@@ -17,7 +18,8 @@ COLORREF plainColor(Color color);
 
 class Fonts {
  public:
-  Fonts();
+  // For so many pixels an inch.
+  explicit Fonts(int dpi) : scale_{dpi} {}
   Fonts(const Fonts&) = delete;
   Fonts& operator=(const Fonts&) = delete;
   ~Fonts();
@@ -26,13 +28,12 @@ class Fonts {
   HFONT font(const layout::TextFont& font) { return this->font(font.name, font.points, font.bold); }
   HBRUSH brush(COLORREF color);
 
-  int pixels(int twips) const { return MulDiv(twips, dpi_, 1440); }
+  int pixels(int twips) const { return scale_.pixels(twips); }
   RECT pixels(const layout::Place& place) const;
-  // How much larger than at 96 pixels an inch, in 96ths.
-  int dpi() const { return dpi_; }
+  controls::Scale scale() const { return scale_; }
 
  private:
-  int dpi_;
+  controls::Scale scale_;
   std::map<std::tuple<std::string, int, bool>, HFONT> fonts_;  // by name, height in pixels, boldness
   std::map<COLORREF, HBRUSH> brushes_;
 };

@@ -23,8 +23,10 @@ class FormPage : public OwnWindow {
   void frame(HDC dc) const {
     RECT box;
     GetClientRect(hwnd(), &box);
-    --box.top;  // the headers draw the upper line
-    FrameRect(dc, &box, ui_.fonts.brush(rgb(208, 208, 191)));
+    const int line = ui_.fonts.scale().line();
+    box.top -= line;  // the headers draw the upper line
+    for (int ring = 0; ring < line; ++ring, InflateRect(&box, -1, -1))
+      FrameRect(dc, &box, ui_.fonts.brush(rgb(208, 208, 191)));
   }
 };
 

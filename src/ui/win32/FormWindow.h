@@ -15,8 +15,8 @@ namespace zub {
 
 class FormWindow : public OwnWindow {
  public:
-  // `owner` may be null. The binding's objects outlive the window.
-  FormWindow(Ui& ui, layout::WindowBinding binding, HWND owner);
+  // `owner` may be null.
+  FormWindow(Ui& ui, layout::WindowSpec window, HWND owner);
   ~FormWindow() override;
 
   // The window of a handle; null for a window that is none of these.
@@ -24,42 +24,49 @@ class FormWindow : public OwnWindow {
 
   // The two halves of a turn: windows that come are shown before others go, so that the program keeps the
   // user's attention.
-  void showForm();
-  void hideForm();
-  // A key that works on the window as a whole: Esc, the keys of the tab headers. False:
-  // it goes its usual way.
-  bool takesKey(const MSG& key);
+  // `covered`: a modal window lies over this one, which gets no input then, whatever its form says.
+  void showForm(bool covered);
+  void hideForm(bool covered);
+  // Keys that work on the window as a whole: Esc, those of the tab headers and of the controls' order, access
+  // keys. False: the message goes its usual way.
+  bool takesMessage(MSG& message);
 
  protected:
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
   void showIcon();
-  void makeControls();
-  void makePage(const layout::ControlSpec& spec);
-  void makeView(const layout::ControlSpec& spec);
+  void makeToolTips();
+  void makeControls(const layout::Controls& controls, HWND holder, Color ground);
+  HWND makePage(const layout::ControlSpec& spec);
+  // `continues`: the arrow keys go on to it from the control before.
+  HWND makeView(const layout::ControlSpec& spec, HWND holder, COLORREF ground, bool continues);
   void addToolTip(HWND control, std::string_view text);
-  HWND windowOf(std::string_view parent) const;
+  COLORREF backdropUnder(const layout::ControlSpec& spec) const;
+  void paintBackdrop(HDC dc) const;
   void place();
   void showPage(int page);
 
   bool isWanted() const;
+  void enable(const Form& form, bool covered);
+  void beginAnew(const Form& form);
   void appear(Form& form);
   void showControls();
   void takeFocus();
+  bool takesKey(const MSG& key);
   bool takesEscape(HWND control);
   bool turnPage(int direction);
 
+  void showPointer(const Form& form);
   void stateChanged(WPARAM how);
   void queryEnd();
   void drag();
 
-  layout::WindowBinding binding_;
+  const layout::WindowSpec window_;
   HWND owner_;
   HWND toolTips_ = nullptr;
   HWND tabs_ = nullptr;
   HWND lastFocus_ = nullptr;
-  std::map<std::string_view, HWND> holders_;  // pages and groups by name
   std::vector<std::unique_ptr<FormPage>> pages_;
   std::vector<std::unique_ptr<View>> views_;
   std::map<const TextBox*, View*> boxes_;
@@ -67,6 +74,8 @@ class FormWindow : public OwnWindow {
   bool enabled_ = true;
   unsigned broughtUp_ = 0;
   bool placed_ = false;
+  bool grabbed_ = false;  // a button went down on the window's own ground
+  MousePointer pointer_ = MousePointer::Default;
 };
 
 }  // namespace zub

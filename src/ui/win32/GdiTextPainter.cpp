@@ -11,18 +11,12 @@ SIZE extent(HDC dc, std::string_view text) {
 
 }  // namespace
 
-GdiTextPainter::GdiTextPainter(Fonts& fonts) : fonts_(fonts), measuring_(CreateCompatibleDC(nullptr)) {}
-
-GdiTextPainter::~GdiTextPainter() {
-  DeleteDC(measuring_);
-}
-
 controls::Size GdiTextPainter::measure(std::string_view text, const controls::Font& font) {
-  const HGDIOBJ before = SelectObject(measuring_, native(font));
+  const HGDIOBJ before = SelectObject(canvas_, native(font));
   TEXTMETRICA metrics;
-  GetTextMetricsA(measuring_, &metrics);
-  const int width = static_cast<int>(extent(measuring_, text).cx);
-  SelectObject(measuring_, before);
+  GetTextMetricsA(canvas_, &metrics);
+  const int width = static_cast<int>(extent(canvas_, text).cx);
+  SelectObject(canvas_, before);
   return {width, static_cast<int>(metrics.tmHeight)};
 }
 

@@ -8,13 +8,8 @@ namespace zub {
 
 class GdiTextPainter : public controls::TextPainter {
  public:
-  explicit GdiTextPainter(Fonts& fonts);
-  GdiTextPainter(const GdiTextPainter&) = delete;
-  GdiTextPainter& operator=(const GdiTextPainter&) = delete;
-  ~GdiTextPainter() override;
-
-  // The device context whose pixels the surfaces of the next draws are.
-  void paintOn(HDC canvas) { canvas_ = canvas; }
+  // `canvas` is the device context of the surfaces that are painted on.
+  GdiTextPainter(Fonts& fonts, HDC canvas) : fonts_(fonts), canvas_(canvas) {}
 
   controls::Size measure(std::string_view text, const controls::Font& font) override;
   void draw(controls::Surface& surface, controls::Point at, std::string_view text, int underlined,
@@ -24,8 +19,7 @@ class GdiTextPainter : public controls::TextPainter {
   HFONT native(const controls::Font& font) { return fonts_.font(font.Name, font.Size, font.Bold); }
 
   Fonts& fonts_;
-  HDC measuring_;
-  HDC canvas_ = nullptr;
+  HDC canvas_;
 };
 
 }  // namespace zub

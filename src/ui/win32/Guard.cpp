@@ -10,8 +10,8 @@ void Guard::end() {
   PostQuitMessage(0);
 }
 
-void Guard::tell(const std::string& failure) {
-  MessageBoxA(GetActiveWindow(), failure.c_str(), "Zubrane", MB_OK | MB_ICONEXCLAMATION);
+void Guard::tell(const char* failure) {
+  MessageBoxA(GetActiveWindow(), failure, "Zubrane", MB_OK | MB_ICONEXCLAMATION);
 }
 
 }  // namespace zub

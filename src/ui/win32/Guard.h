@@ -3,9 +3,6 @@
 // absorbed is told and forgotten.
 #pragma once
 
-#include <exception>
-#include <string>
-
 #include "base/RuntimeError.h"
 
 namespace zub {
@@ -19,8 +16,8 @@ class Guard {
       work();
     } catch (const EndOfProcess&) {
       end();
-    } catch (const std::exception& failure) {
-      tell(failure.what());
+    } catch (...) {
+      tell(textOfFailure());
     }
   }
 
@@ -32,7 +29,7 @@ class Guard {
 
  private:
   void end();
-  static void tell(const std::string& failure);
+  static void tell(const char* failure);
 
   bool ended_ = false;
 };

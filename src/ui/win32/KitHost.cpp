@@ -1,10 +1,11 @@
 #include "ui/win32/KitHost.h"
 
+#include "ui/win32/KitAccessible.h"
+
 namespace zub {
 namespace {
 
 constexpr UINT_PTR TimerId = 1;
-constexpr int DesignDpi = 96;
 
 std::int16_t shiftState() {
   const auto down = [](int key) { return GetKeyState(key) < 0; };
@@ -31,19 +32,23 @@ KitHost::KitHost(const ViewSite& site, Parts parts)
   const bool holdsOthers = site.spec.kind == layout::Kind::Group;
   create({"ZubraneControl", caption.c_str(), style | (parts_.takesFocus ? WS_TABSTOP : 0),
           holdsOthers ? DWORD{WS_EX_CONTROLPARENT} : 0, site.place, site.parent});
-  makeCanvas();
+  layOut();
   parts_.control->shown();
 }
 
-void KitHost::makeCanvas() {
+KitHost::~KitHost() {
+  if (accessible_ == nullptr) return;
+  accessible_->disconnect();
+  accessible_->Release();
+}
+
+void KitHost::layOut() {
   RECT all;
   GetClientRect(hwnd(), &all);
-  const int dpi = parts_.stretched ? ui_.fonts.dpi() : DesignDpi;
-  canvas_.emplace(MulDiv(static_cast<int>(all.right), DesignDpi, dpi),
-                  MulDiv(static_cast<int>(all.bottom), DesignDpi, dpi));
   parts_.control->BackColor(background());
-  parts_.control->resize(canvas_->width(), canvas_->height());
-  ui_.places.put(*parts_.control, {hwnd(), dpi});
+  parts_.control->resize(static_cast<int>(all.right), static_cast<int>(all.bottom));
+  ui_.places.put(*parts_.control, hwnd());
+  isLaidOut_ = true;
 }
 
 void KitHost::show() {
@@ -62,32 +67,54 @@ void KitHost::show() {
 
 void KitHost::refresh() {
   serveTimer();
-  if (painted_ == parts_.control->revision()) return;
-  painted_ = parts_.control->revision();
-  paintCanvas();
+  if (!changes(shownLook_, parts_.control->revision())) return;
   InvalidateRect(hwnd(), nullptr, FALSE);
+  if (accessible_ != nullptr) tellChanges();
 }
 
-void KitHost::paintCanvas() {
-  ui_.text.paintOn(canvas_->dc());
-  controls::Surface surface = canvas_->surface();
-  parts_.control->paint(surface);
-  const controls::Box place = parts_.control->focusPlace();
-  if (!focused_ || place.width == 0) return;
-  const RECT frame{place.left, place.top, place.right(), place.bottom()};
-  SetTextColor(canvas_->dc(), colors::Black);
-  SetBkColor(canvas_->dc(), colors::White);
-  DrawFocusRect(canvas_->dc(), &frame);
+LRESULT KitHost::handOutAccessible(WPARAM wParam) {
+  if (accessible_ == nullptr) {
+    accessible_ = KitAccessible::make(hwnd(), *parts_.control);
+    if (accessible_ == nullptr) return 0;
+    tellChanges();
+  }
+  return accessible_->handOut(wParam);
+}
+
+void KitHost::tellChanges() {
+  const controls::Control& control = *parts_.control;
+  std::vector<controls::Described> now = {control.described()};
+  for (int part = 0; part < control.parts(); ++part) now.push_back(control.describedPart(part));
+  for (std::size_t at = 0; at < told_.size() && at < now.size(); ++at) {
+    const auto child = static_cast<LONG>(at);
+    if (now[at].name != told_[at].name) tellAccessible(EVENT_OBJECT_NAMECHANGE, hwnd(), child);
+    if (now[at].checked != told_[at].checked) tellAccessible(EVENT_OBJECT_STATECHANGE, hwnd(), child);
+    if (!now[at].selected || told_[at].selected) continue;
+    tellAccessible(EVENT_OBJECT_SELECTION, hwnd(), child);
+    if (focused_) tellAccessible(EVENT_OBJECT_FOCUS, hwnd(), child);
+  }
+  told_ = std::move(now);
 }
 
 void KitHost::paint() {
   PAINTSTRUCT painting;
   const HDC dc = BeginPaint(hwnd(), &painting);
-  RECT all;
-  GetClientRect(hwnd(), &all);
-  StretchBlt(dc, 0, 0, static_cast<int>(all.right), static_cast<int>(all.bottom), canvas_->dc(), 0, 0,
-             canvas_->width(), canvas_->height(), SRCCOPY);
+  const HDC canvas = ui_.canvas.dc();
+  const controls::Control& control = *parts_.control;
+  controls::Surface surface = ui_.canvas.surface(control.width(), control.height());
+  control.paint(surface);
+  if (focused_) paintFocus(canvas);
+  BitBlt(dc, 0, 0, control.width(), control.height(), canvas, 0, 0, SRCCOPY);
   EndPaint(hwnd(), &painting);
+}
+
+void KitHost::paintFocus(HDC canvas) const {
+  const controls::Box place = parts_.control->focusPlace();
+  if (place.width == 0) return;
+  const RECT frame{place.left, place.top, place.right(), place.bottom()};
+  SetTextColor(canvas, colors::Black);
+  SetBkColor(canvas, colors::White);
+  DrawFocusRect(canvas, &frame);
 }
 
 void KitHost::serveTimer() {
@@ -99,11 +126,9 @@ void KitHost::serveTimer() {
     KillTimer(hwnd(), TimerId);
 }
 
-controls::Mouse KitHost::mouseAt(std::int16_t buttons, LPARAM place) const {
-  const float scale =
-      parts_.stretched ? static_cast<float>(DesignDpi) / static_cast<float>(ui_.fonts.dpi()) : 1.0F;
-  return {buttons, shiftState(), static_cast<float>(static_cast<short>(LOWORD(place))) * scale,
-          static_cast<float>(static_cast<short>(HIWORD(place))) * scale};
+controls::Mouse KitHost::mouseAt(std::int16_t buttons, LPARAM place) {
+  return {buttons, shiftState(), static_cast<float>(static_cast<short>(LOWORD(place))),
+          static_cast<float>(static_cast<short>(HIWORD(place)))};
 }
 
 bool KitHost::onMouse(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -131,6 +156,15 @@ bool KitHost::onMouse(UINT message, WPARAM wParam, LPARAM lParam) {
   return false;
 }
 
+// The control itself (0), or a part of it, numbered from 1.
+void KitHost::press(int part) {
+  if (part > 0 && part <= parts_.control->parts())
+    parts_.control->pressPart(part - 1);
+  else
+    parts_.control->press();
+  refresh();
+}
+
 void KitHost::onKey(UINT message, WPARAM wParam) {
   controls::Control& control = *parts_.control;
   const auto code = static_cast<std::int16_t>(wParam);
@@ -147,7 +181,7 @@ void KitHost::onKey(UINT message, WPARAM wParam) {
 }
 
 LRESULT KitHost::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (!canvas_) return OwnWindow::onMessage(message, wParam, lParam);  // it is being made
+  if (!isLaidOut_) return OwnWindow::onMessage(message, wParam, lParam);  // it is being made
   if (onMouse(message, wParam, lParam)) {
     refresh();
     return 0;
@@ -170,15 +204,27 @@ LRESULT KitHost::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
       focused_ = message == WM_SETFOCUS;
-      painted_.reset();
-      refresh();
+      InvalidateRect(hwnd(), nullptr, FALSE);
       return 0;
-    case WM_GETDLGCODE:
-      return parts_.dialogCode;
+    case WM_SYSKEYDOWN:
+      if (!parts_.takesKeys) break;
+      onKey(WM_KEYDOWN, wParam);
+      if (wParam == VK_F10) return 0;  // by default it opens the window's menu
+      break;
+    case WM_GETDLGCODE: {
+      const auto* key = reinterpret_cast<const MSG*>(lParam);
+      const bool wanted =
+          parts_.takesKeys && key != nullptr && key->message == WM_KEYDOWN && wParam != VK_TAB;
+      return parts_.dialogCode | (wanted ? DLGC_WANTALLKEYS : 0);
+    }
     case BM_CLICK:
-      parts_.control->press();
-      refresh();
+      press(static_cast<int>(wParam));
       return 0;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(lParam) == LONG{OBJID_CLIENT}) {
+        if (const LRESULT object = handOutAccessible(wParam); object != 0) return object;
+      }
+      break;
     default:
       break;
   }

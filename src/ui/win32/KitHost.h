@@ -3,13 +3,14 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
+#include <vector>
 
 #include "ui/win32/OwnWindow.h"
-#include "ui/win32/PixelCanvas.h"
 #include "ui/win32/View.h"
 
 namespace zub {
+
+class KitAccessible;
 
 class KitHost : public OwnWindow, public View {
  public:
@@ -21,9 +22,10 @@ class KitHost : public OwnWindow, public View {
     LRESULT dialogCode = DLGC_STATIC;
     bool takesFocus = false;
     bool takesSpace = false;  // the bar is a click
-    bool stretched = false;   // painted for 96 pixels an inch, whatever the screen has
+    bool takesKeys = false;   // all but Tab, and what is held down with Alt
   };
   KitHost(const ViewSite& site, Parts parts);
+  ~KitHost() override;
 
   HWND hwnd() const override { return OwnWindow::hwnd(); }
   void show() override;
@@ -33,19 +35,24 @@ class KitHost : public OwnWindow, public View {
   LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  void makeCanvas();
-  void refresh();  // paints the control anew where its look has changed
-  void paintCanvas();
+  void layOut();
+  void refresh();  // has the control painted anew where its look has changed
   void paint();
+  void paintFocus(HDC canvas) const;
   void serveTimer();
+  LRESULT handOutAccessible(WPARAM wParam);
+  void tellChanges();  // to those who cannot see them
+  void press(int part);
   bool onMouse(UINT message, WPARAM wParam, LPARAM lParam);
   void onKey(UINT message, WPARAM wParam);
-  controls::Mouse mouseAt(std::int16_t buttons, LPARAM place) const;
+  static controls::Mouse mouseAt(std::int16_t buttons, LPARAM place);
 
   Parts parts_;
-  std::optional<PixelCanvas> canvas_;
-  std::optional<unsigned> painted_;  // the look that the canvas shows
+  unsigned shownLook_ = 0;
+  KitAccessible* accessible_ = nullptr;    // made when somebody asks
+  std::vector<controls::Described> told_;  // the control, then its parts
   std::string caption_;
+  bool isLaidOut_ = false;
   bool visible_ = true;
   bool enabled_ = true;
   bool focused_ = false;

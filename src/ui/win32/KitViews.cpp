@@ -1,4 +1,5 @@
 // The controls of the kit, each tied to the state that it shows.
+#include "engine/TaskTable.h"
 #include "ui/controls/Clock.h"
 #include "ui/controls/ListBox.h"
 #include "ui/controls/XPCheck.h"
@@ -16,7 +17,7 @@ using layout::Kind;
 KitHost::Parts button(const ViewSite& site) {
   auto control = std::make_unique<controls::XPCmdButton>(site.ui.kit);
   controls::XPCmdButton& button = *control;
-  button.Caption(std::string(site.spec.caption));
+  button.Caption(site.caption());
   button.Click = site.click();
   KitHost::Parts parts;
   parts.control = std::move(control);
@@ -35,7 +36,7 @@ KitHost::Parts button(const ViewSite& site) {
 KitHost::Parts check(const ViewSite& site) {
   auto control = std::make_unique<controls::XPCheck>(site.ui.kit);
   controls::XPCheck& box = *control;
-  box.Caption(std::string(site.spec.caption));
+  box.Caption(site.caption());
   CheckOption& option = *site.bound<CheckOption*>();
   KitHost::Parts parts;
   parts.control = std::move(control);
@@ -57,7 +58,7 @@ KitHost::Parts check(const ViewSite& site) {
 
 KitHost::Parts group(const ViewSite& site) {
   auto control = std::make_unique<controls::XPGroupBox>(site.ui.kit);
-  control->Caption(std::string(site.spec.caption));
+  control->Caption(site.caption());
   KitHost::Parts parts;
   parts.control = std::move(control);
   if (const auto* state = site.bound<const Group*>()) parts.visible = [state] { return state->Visible; };
@@ -73,6 +74,8 @@ KitHost::Parts iconList(const ViewSite& site) {
     state.checks->Check(row, list.Check(row));
     state.ClickCheck(row);
   };
+  for (const TaskRow& task : taskTable())
+    if (task.iconRow >= 0) list.ItemName(static_cast<std::int16_t>(task.iconRow), task.status);
   list.Initialise();
   KitHost::Parts parts;
   parts.control = std::move(control);
@@ -82,9 +85,8 @@ KitHost::Parts iconList(const ViewSite& site) {
         list.Check(row, static_cast<std::int16_t>(state.checks->Check(row)));
     }
   };
-  parts.dialogCode = DLGC_WANTARROWS;
   parts.takesFocus = true;
-  parts.stretched = true;
+  parts.takesKeys = true;
   return parts;
 }
 
@@ -98,7 +100,6 @@ KitHost::Parts clock(const ViewSite& site) {
     if (changes(shown, display->text)) clock.SetText(shown);
     if (clock.colonIsVisible() != display->colon) clock.Blink();
   };
-  parts.stretched = true;
   return parts;
 }
 
@@ -107,7 +108,6 @@ KitHost::Parts closeButton(const ViewSite& site) {
   control->Click = site.click();
   KitHost::Parts parts;
   parts.control = std::move(control);
-  parts.stretched = true;
   return parts;
 }
 
@@ -120,7 +120,6 @@ KitHost::Parts picture(const ViewSite& site) {
   if (const auto* image = site.bound<const Image*>())
     parts.show = [&picture, image] { picture.picture(artOf(image->picture)); };
   if (const auto* shown = site.bound<const bool*>()) parts.visible = [shown] { return *shown; };
-  parts.stretched = true;
   return parts;
 }
 

@@ -31,6 +31,11 @@ class RowsView : public NativeView {
   virtual void select(int row) = 0;
 
   bool isShowing() const { return showing_; }
+  // The highlight has left its row: the next show gives it to the current one, unless a row is picked first.
+  void rowLeft() {
+    current_ = -1;
+    stale_ = true;
+  }
   void rowPicked(int row) {
     if (row < 0 || row >= rows_->ListCount()) return;
     current_ = row;
@@ -98,33 +103,63 @@ class PlainListView : public RowsView {
 class CheckListView : public RowsView {
  public:
   explicit CheckListView(const ViewSite& site) : RowsView(site) {
-    create(WC_LISTVIEWA, WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS, {},
-           Framed);
+    create(WC_LISTVIEWA,
+           WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS |
+               LVS_SHAREIMAGELISTS,
+           {}, Framed);
     send(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
+    showBoxes();
     LVCOLUMNA column{};
     send(LVM_INSERTCOLUMNA, 0, reinterpret_cast<LPARAM>(&column));
   }
 
   LRESULT notify(NMHDR& notice) override {
+    if (notice.code == NM_SETFOCUS) showFocus();
     if (isShowing()) return 0;
     if (notice.code == LVN_ITEMCHANGED) itemChanged(reinterpret_cast<const NMLISTVIEW&>(notice));
     // A click on the row that is current already counts as well.
-    if (notice.code == NM_CLICK && !std::exchange(servedByPress_, false))
-      rowPicked(reinterpret_cast<const NMITEMACTIVATE&>(notice).iItem);
+    if (notice.code == NM_CLICK && !std::exchange(servedByPress_, false)) {
+      const int row = reinterpret_cast<const NMITEMACTIVATE&>(notice).iItem;
+      if (!highlight(row)) rowPicked(row);
+    }
     return 0;
   }
 
  private:
+  // In place of the system's own boxes.
+  void showBoxes() {
+    const HIMAGELIST boxes = site_.ui.checks.list(site_.ui.kit, site_.ui.canvas);
+    const LRESULT own = send(LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(boxes));
+    if (own != 0) ImageList_Destroy(reinterpret_cast<HIMAGELIST>(own));
+  }
+
   static constexpr UINT checkState(bool checked) { return INDEXTOSTATEIMAGEMASK(checked ? 2U : 1U); }
 
   void itemChanged(const NMLISTVIEW& change) {
     if ((change.uChanged & LVIF_STATE) == 0 || change.iItem < 0) return;
     const UINT mark = change.uNewState & LVIS_STATEIMAGEMASK;
-    if (mark != 0 && mark != (change.uOldState & LVIS_STATEIMAGEMASK))
+    if (mark != 0 && mark != (change.uOldState & LVIS_STATEIMAGEMASK)) {
       rowChecked(change.iItem, mark == checkState(true));
+      highlight(change.iItem);
+    }
+    if ((change.uOldState & ~change.uNewState & LVIS_SELECTED) != 0) rowLeft();
     if ((change.uNewState & ~change.uOldState & LVIS_SELECTED) == 0) return;
     servedByPress_ = GetKeyState(VK_LBUTTON) < 0;
     rowPicked(change.iItem);
+  }
+
+  // A click on a row's box is the control's own affair, and leaves the highlight where it was: it is moved to
+  // the row, which picks it. Whether it had to be.
+  bool highlight(int row) {
+    if (row < 0 || send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0) return false;
+    setState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    return true;
+  }
+
+  // Where the keyboard is shows on a row only.
+  void showFocus() {
+    if (send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED) < 0)
+      setState(0, LVIS_FOCUSED, LVIS_FOCUSED);
   }
 
   void setState(int row, UINT state, UINT mask) {

@@ -32,8 +32,18 @@ LRESULT CALLBACK NativeView::procedure(HWND window, UINT message, WPARAM wParam,
 
 LRESULT NativeView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const LRESULT result = original(message, wParam, lParam);
-  if (message == WM_NCPAINT && (GetWindowLongA(hwnd_, GWL_EXSTYLE) & WS_EX_CLIENTEDGE) != 0) paintFrame();
-  return result;
+  switch (message) {
+    case WM_NCPAINT:
+      if ((GetWindowLongA(hwnd_, GWL_EXSTYLE) & WS_EX_CLIENTEDGE) != 0) paintFrame();
+      return result;
+    case WM_NCCALCSIZE:
+      InflateRect(reinterpret_cast<RECT*>(lParam), 0, -air_);
+      return result;
+    case WM_NCHITTEST:
+      return air_ != 0 ? HTCLIENT : result;
+    default:
+      return result;
+  }
 }
 
 LRESULT NativeView::original(UINT message, WPARAM wParam, LPARAM lParam) const {
@@ -45,10 +55,17 @@ void NativeView::paintFrame() const {
   RECT all;
   GetWindowRect(hwnd_, &all);
   OffsetRect(&all, -all.left, -all.top);
+  RECT inner = all;
+  InflateRect(&inner, -1, -1);
+  const HBRUSH ground = site_.ui.fonts.brush(plainColor(backColor_));
+  const HBRUSH line = site_.ui.fonts.brush(FrameColor);
+  const RECT above{inner.left, inner.top, inner.right, inner.top + 1 + air_};
+  const RECT below{inner.left, inner.bottom - 1 - air_, inner.right, inner.bottom};
   const HDC dc = GetWindowDC(hwnd_);
-  FrameRect(dc, &all, site_.ui.fonts.brush(FrameColor));
-  InflateRect(&all, -1, -1);
-  FrameRect(dc, &all, site_.ui.fonts.brush(plainColor(backColor_)));
+  FillRect(dc, &above, ground);
+  FillRect(dc, &below, ground);
+  FrameRect(dc, &inner, site_.ui.fonts.scale().line() > 1 ? line : ground);
+  FrameRect(dc, &all, line);
   ReleaseDC(hwnd_, dc);
 }
 

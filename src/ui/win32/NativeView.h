@@ -40,6 +40,7 @@ class NativeView : public View {
   ViewSite site_;
   Color foreColor_ = colors::Black;
   Color backColor_ = colors::White;
+  int air_ = 0;  // pixels between the frame and the inner part, above and below
 
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

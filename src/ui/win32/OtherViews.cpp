@@ -1,4 +1,5 @@
 // Option buttons, the status bar and the program's icon.
+#include "plugins/frmPluginEditor.h"
 #include "ui/win32/NativeViews.h"
 
 namespace zub {
@@ -9,7 +10,7 @@ class RadioView : public NativeView {
   explicit RadioView(const ViewSite& site) : NativeView(site), option_(site.bound<const OptionButton*>()) {
     foreColor_ = site.spec.color;
     backColor_ = site.ground;
-    create("BUTTON", BS_AUTORADIOBUTTON | WS_TABSTOP, std::string(site.spec.caption));
+    create("BUTTON", BS_AUTORADIOBUTTON | WS_TABSTOP, site.caption());
   }
 
   void show() override {
@@ -51,8 +52,9 @@ class ProgramIconView : public NativeView {
  public:
   explicit ProgramIconView(const ViewSite& site) : NativeView(site) {
     backColor_ = site.ground;
-    create("STATIC", SS_ICON | SS_CENTERIMAGE);
-    send(STM_SETICON, reinterpret_cast<WPARAM>(site.ui.icon()));
+    create("STATIC", SS_ICON | SS_CENTERIMAGE | SS_NOTIFY);
+    const int side = site.ui.fonts.pixels(32 * layout::TwipsPerPixel);
+    send(STM_SETICON, reinterpret_cast<WPARAM>(site.ui.icon(side)));
   }
 };
 

@@ -16,7 +16,7 @@ class PictureControl : public controls::Control {
 
   void paint(controls::Surface& surface) const override {
     surface.clear(BackColor());
-    surface.draw(kit_.art[name_], {0, 0});
+    draw(surface, name_, {});
   }
 
  private:

@@ -12,6 +12,7 @@ class TabsView : public NativeView {
  public:
   explicit TabsView(const ViewSite& site) : NativeView(site) {
     create(WC_TABCONTROLA, WS_TABSTOP | WS_CLIPSIBLINGS);
+    send(TCM_SETPADDING, 0, MAKELPARAM(pixels(6), pixels(3)));
     for (const layout::ControlSpec& page : site.window.controls) {
       if (page.kind == layout::Kind::Page) addPage(std::string(page.caption));
     }
@@ -44,6 +45,9 @@ class TabsView : public NativeView {
     send(TCM_INSERTITEMA, static_cast<WPARAM>(send(TCM_GETITEMCOUNT)), reinterpret_cast<LPARAM>(&item));
   }
 
+  // Of pixels of 96 an inch.
+  int pixels(int design) const { return site_.ui.fonts.scale().pixels(design, 1); }
+
   void fill(HDC dc, LONG left, LONG top, LONG right, LONG bottom, COLORREF color) {
     const RECT box{left, top, right, bottom};
     FillRect(dc, &box, site_.ui.fonts.brush(color));
@@ -53,7 +57,7 @@ class TabsView : public NativeView {
     RECT all;
     GetClientRect(hwnd(), &all);
     fill(dc, 0, 0, all.right, all.bottom, site_.ground);
-    fill(dc, 0, all.bottom - 1, all.right, all.bottom, Line);
+    fill(dc, 0, all.bottom - line_, all.right, all.bottom, Line);
     const LRESULT count = send(TCM_GETITEMCOUNT);
     const LRESULT selected = send(TCM_GETCURSEL);
     for (LRESULT tab = 0; tab < count; ++tab) paintTab(dc, tab, tab == selected, all.bottom);
@@ -62,14 +66,15 @@ class TabsView : public NativeView {
   void paintTab(HDC dc, LRESULT tab, bool selected, LONG bottom) {
     RECT box;
     send(TCM_GETITEMRECT, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(&box));
-    const LONG top = selected ? 0 : 3;
+    const LONG top = selected ? 0 : pixels(3);
     const LONG left = tab == 0 ? 0 : box.left;
-    const LONG foot = selected ? bottom : bottom - 1;
-    fill(dc, left + 1, top, box.right - 1, top + 1, Line);
-    fill(dc, left, top + 1, box.right, foot, Line);
-    fill(dc, left + 1, top + 1, box.right - 1, foot, selected ? COLORREF{colors::Page} : Behind);
-    if (selected) fill(dc, left + 1, top, box.right - 1, top + 2, Accent);
-    paintCaption(dc, tab, {left, top + 1, box.right, bottom - 1}, selected);
+    const LONG foot = selected ? bottom : bottom - line_;
+    const LONG in = left + line_, out = box.right - line_;
+    fill(dc, in, top, out, top + line_, Line);
+    fill(dc, left, top + line_, box.right, foot, Line);
+    fill(dc, in, top + line_, out, foot, selected ? COLORREF{colors::Page} : Behind);
+    if (selected) fill(dc, in, top, out, top + pixels(2), Accent);
+    paintCaption(dc, tab, {left, top + line_, box.right, bottom - line_}, selected);
   }
 
   void paintCaption(HDC dc, LRESULT tab, RECT box, bool selected) {
@@ -85,10 +90,12 @@ class TabsView : public NativeView {
     DrawTextA(dc, caption, -1, &box, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
     SelectObject(dc, before);
     if (selected && GetFocus() == hwnd()) {
-      InflateRect(&box, -4, -3);
+      InflateRect(&box, -pixels(4), -pixels(3));
       DrawFocusRect(dc, &box);
     }
   }
+
+  int line_ = site_.ui.fonts.scale().line();
 };
 
 }  // namespace

@@ -1,4 +1,5 @@
 // Labels and text boxes.
+#include <algorithm>
 #include <utility>
 
 #include "ui/win32/NativeViews.h"
@@ -12,7 +13,8 @@ class LabelView : public NativeView {
     backColor_ = site.ground;
     foreColor_ = site.spec.color;
     const DWORD align = site.spec.text == layout::Text::Centred ? SS_CENTER : SS_LEFT;
-    create("STATIC", align | SS_NOPREFIX, std::string(site.spec.caption));
+    // A label takes the mouse, so that only the window's bare ground is a handle to move it.
+    create("STATIC", align | SS_NOPREFIX | SS_NOTIFY, std::string(site.spec.caption));
   }
 
   void show() override {
@@ -43,6 +45,7 @@ class EditView : public NativeView {
     const DWORD use = site.spec.kind == layout::Kind::Content ? ES_READONLY : ES_WANTRETURN;
     create("EDIT", WS_TABSTOP | (severalLines_ ? Lines | use : ES_AUTOHSCROLL), {}, Framed);
     send(EM_LIMITTEXT, 0);
+    if (!severalLines_) centre();
   }
 
   void show() override {
@@ -73,6 +76,14 @@ class EditView : public NativeView {
   }
 
  private:
+  // The system sets the line at the upper edge.
+  void centre() {
+    RECT inner;
+    GetClientRect(hwnd(), &inner);
+    air_ = std::max(0, (static_cast<int>(inner.bottom) - site_.ui.text.measure({}, {}).height) / 2);
+    SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0, SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
+  }
+
   TextBox* box_;
   bool severalLines_;
   std::string shown_;

@@ -3,12 +3,15 @@
 namespace zub {
 
 controls::Point ControlPlaces::pointerOver(const controls::Control& control) {
-  const Place& place = places_[&control];
   POINT pointer{};
   GetCursorPos(&pointer);
-  ScreenToClient(place.window, &pointer);
-  return {MulDiv(static_cast<int>(pointer.x), 96, place.dpi),
-          MulDiv(static_cast<int>(pointer.y), 96, place.dpi)};
+  ScreenToClient(windows_[&control], &pointer);
+  return {static_cast<int>(pointer.x), static_cast<int>(pointer.y)};
+}
+
+HICON Ui::icon(int side) const {
+  return static_cast<HICON>(
+      LoadImageA(instance, MAKEINTRESOURCEA(ProgramIconId), IMAGE_ICON, side, side, LR_SHARED));
 }
 
 HICON Ui::icon() const {

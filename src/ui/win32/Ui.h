@@ -4,24 +4,23 @@
 #include <map>
 
 #include "ui/controls/Control.h"
+#include "ui/win32/CheckImages.h"
 #include "ui/win32/Fonts.h"
 #include "ui/win32/GdiTextPainter.h"
 #include "ui/win32/Guard.h"
+#include "ui/win32/PixelCanvas.h"
+#include "ui/win32/WindowFrame.h"
 
 namespace zub {
 
 // Knows in which window each control of the kit lives, and so where the pointer is over it.
 class ControlPlaces : public controls::PointerSource {
  public:
-  struct Place {
-    HWND window = nullptr;
-    int dpi = 96;  // of the window's pixels; the control counts in pixels of 96 an inch where it is stretched
-  };
-  void put(const controls::Control& control, Place place) { places_[&control] = place; }
+  void put(const controls::Control& control, HWND window) { windows_[&control] = window; }
   controls::Point pointerOver(const controls::Control& control) override;
 
  private:
-  std::map<const controls::Control*, Place> places_;
+  std::map<const controls::Control*, HWND> windows_;
 };
 
 struct Ui {
@@ -30,14 +29,17 @@ struct Ui {
   Ui& operator=(const Ui&) = delete;
 
   HICON icon() const;
+  HICON icon(int side) const;  // in pixels
 
   HINSTANCE instance;
   Guard guard;
-  Fonts fonts;
-  GdiTextPainter text{fonts};
+  Fonts fonts{fittingDpi()};
+  PixelCanvas canvas;
+  GdiTextPainter text{fonts, canvas.dc()};
   controls::Art art;
   ControlPlaces places;
-  controls::Kit kit{art, text, places};
+  controls::Kit kit{art, text, places, fonts.scale()};
+  CheckImages checks;
 };
 
 // The number of the program's icon among its resources.

@@ -4,7 +4,7 @@
 #include <functional>
 #include <memory>
 
-#include "ui/layout/Bindings.h"
+#include "ui/layout/WindowSpec.h"
 #include "ui/win32/Ui.h"
 
 namespace zub {
@@ -36,7 +36,6 @@ struct ViewSite {
   Ui& ui;
   const layout::WindowSpec& window;
   const layout::ControlSpec& spec;
-  const layout::Binding* binding;  // null for a control that is only there to be seen
   HWND parent;
   RECT place;       // within the parent, pixels
   COLORREF ground;  // the colour under the control
@@ -44,13 +43,11 @@ struct ViewSite {
 
   template <class State>
   State bound() const {
-    const State* state = binding != nullptr ? std::get_if<State>(&binding->state) : nullptr;
+    const State* state = std::get_if<State>(&spec.shown);
     return state != nullptr ? *state : State{};
   }
-  const Handler& click() const {
-    static const Handler nothing;
-    return binding != nullptr ? binding->click : nothing;
-  }
+  const Handler& click() const { return spec.click; }
+  std::string caption() const { return std::string(layout::captionOf(spec)); }
 };
 
 std::unique_ptr<View> makeNativeView(const ViewSite& site);

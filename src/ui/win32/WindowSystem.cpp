@@ -47,13 +47,13 @@ std::uint64_t WindowSystem::now() const {
   return static_cast<std::uint64_t>(seconds * 1000 + count.QuadPart % frequency_ * 1000 / frequency_);
 }
 
-FormWindow& WindowSystem::add(layout::WindowBinding binding) {
-  windows_.push_back(std::make_unique<FormWindow>(ui_, std::move(binding), nullptr));
+FormWindow& WindowSystem::add(layout::WindowSpec window) {
+  windows_.push_back(std::make_unique<FormWindow>(ui_, std::move(window), nullptr));
   return *windows_.back();
 }
 
-void WindowSystem::addLater(layout::WindowBinding binding, std::function<HWND()> owner) {
-  later_.push_back({std::move(binding), std::move(owner)});
+void WindowSystem::addLater(layout::WindowSpec window, std::function<HWND()> owner) {
+  later_.push_back({std::move(window), std::move(owner)});
 }
 
 // Called for each KiB that is shredded: all that most calls cost is a look at the system's coarse clock.
@@ -74,27 +74,20 @@ void WindowSystem::run() {
 }
 
 void WindowSystem::runModal(std::function<bool()> lasts) {
-  modal_ = {std::move(lasts), {}};
+  if (modal_.lasts) return;
+  modal_.lasts = std::move(lasts);
   for (const auto& window : windows_) {
-    if (IsWindowVisible(window->hwnd()) == 0 || IsWindowEnabled(window->hwnd()) == 0) continue;
-    modal_.disabled.push_back(window->hwnd());
-    EnableWindow(window->hwnd(), FALSE);
+    if (IsWindowVisible(window->hwnd()) != 0) modal_.below.push_back(window.get());
   }
-  while (modal_.lasts) {
+  showAll();
+  while (modal_.lasts()) {
+    wait();
     pump();
     serve();
     ui_.guard.throwIfEnded();
-    endModal();
-    if (modal_.lasts) wait();
   }
-  showAll();
-}
-
-// Before the modal window is hidden: the system then looks for an enabled window to bring to the front.
-void WindowSystem::endModal() {
-  if (!modal_.lasts || modal_.lasts()) return;
-  for (const HWND window : modal_.disabled) EnableWindow(window, TRUE);
   modal_ = {};
+  showAll();
 }
 
 void WindowSystem::pump() {
@@ -110,7 +103,7 @@ void WindowSystem::dispatch(MSG& message) {
   owesShow_ = true;
   const HWND top = message.hwnd != nullptr ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
   FormWindow* form = FormWindow::of(top);
-  if (form != nullptr && (form->takesKey(message) || IsDialogMessageA(top, &message) != 0)) return;
+  if (form != nullptr && form->takesMessage(message)) return;
   TranslateMessage(&message);
   DispatchMessageA(&message);
 }
@@ -123,21 +116,24 @@ void WindowSystem::serve() {
 void WindowSystem::showAll() {
   if (showing_) return;
   showing_ = true;
-  endModal();
   lastShow_ = now();
   owesShow_ = false;
   for (std::size_t at = 0; at < later_.size();) {
-    const Form* form = later_[at].binding.form();
+    const Form* form = later_[at].window.form();
     if (form == nullptr || !form->Visible) {
       ++at;
       continue;
     }
     const HWND owner = later_[at].owner ? later_[at].owner() : nullptr;
-    windows_.push_back(std::make_unique<FormWindow>(ui_, std::move(later_[at].binding), owner));
+    windows_.push_back(std::make_unique<FormWindow>(ui_, std::move(later_[at].window), owner));
     later_.erase(later_.begin() + static_cast<std::ptrdiff_t>(at));
   }
-  for (const auto& window : windows_) window->showForm();
-  for (const auto& window : windows_) window->hideForm();
+  const bool isModal = modal_.lasts && modal_.lasts();
+  const auto covered = [&](const std::unique_ptr<FormWindow>& window) {
+    return isModal && std::ranges::find(modal_.below, window.get()) != modal_.below.end();
+  };
+  for (const auto& window : windows_) window->showForm(covered(window));
+  for (const auto& window : windows_) window->hideForm(covered(window));
   showing_ = false;
 }
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/Services.h"
-#include "ui/layout/Bindings.h"
+#include "ui/layout/WindowSpec.h"
 #include "ui/win32/FormWindow.h"
 
 namespace zub {
@@ -23,15 +23,16 @@ class WindowSystem : public EventLoop {
   std::function<void(std::uint64_t now)> serveTimers;
 
   // A window that is made at once, hidden.
-  FormWindow& add(layout::WindowBinding binding);
+  FormWindow& add(layout::WindowSpec window);
   // A window that is made when its form is first visible; `owner` answers the window that it lies over.
-  void addLater(layout::WindowBinding binding, std::function<HWND()> owner = {});
+  void addLater(layout::WindowSpec window, std::function<HWND()> owner = {});
 
   // Throws EndOfProcess where the process ends in it. Does nothing if the last turn was a moment ago.
   void DoEvents() override;
   // The main loop. Throws EndOfProcess.
   [[noreturn]] void run();
-  // Runs the loop while the condition holds, with all windows disabled that are there now.
+  // Runs the loop while the condition holds. The windows that are there now get no input meanwhile. Does
+  // nothing where such a loop runs already.
   void runModal(std::function<bool()> lasts);
 
   // The program's window in front, for a dialog to lie over; null where none is visible. What the forms have
@@ -41,12 +42,12 @@ class WindowSystem : public EventLoop {
  private:
   class Heart;
   struct Later {
-    layout::WindowBinding binding;
+    layout::WindowSpec window;
     std::function<HWND()> owner;
   };
   struct Modal {
     std::function<bool()> lasts;  // none: nothing is modal
-    std::vector<HWND> disabled;
+    std::vector<const FormWindow*> below;
   };
 
   std::uint64_t now() const;  // milliseconds
@@ -54,7 +55,6 @@ class WindowSystem : public EventLoop {
   void dispatch(MSG& message);
   void serve();  // timers, then the windows if their time has come
   void showAll();
-  void endModal();
   void wait();
 
   Ui& ui_;

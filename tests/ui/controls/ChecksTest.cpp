@@ -114,7 +114,7 @@ TEST_CASE("stored properties of checks and groups come back, and loading raises 
 
 TEST_CASE("the simple check turns to the complement of its value, and tells clicks only") {
   PaintedArt painted;
-  Stage stage(painted.addPlain({"simple-check-ticked", "simple-check-empty"}, 13, 13));
+  Stage stage(painted.addPlain({"check-on", "check-off"}, 13, 13));
   SimpleCheck check(stage.desk.kit);
   check.resize(14, 16);
   check.Click = [&] { stage.log += std::to_string(std::lrint(check.Value())); };

@@ -65,6 +65,17 @@ TEST_CASE("items are selected by clicks on their pictures and by keys, the first
   });
 }
 
+TEST_CASE("the frame of the keyboard is around the selected item, or around all where that is out of sight") {
+  ListStage stage;
+  const Box all = {1, 1, 387, 73};
+  stage.list.Initialise();
+  CHECK(stage.list.focusPlace() == Box{18, 11, 41, 63});
+  stage.act(key(39), 6);
+  CHECK(stage.list.focusPlace() == all);
+  stage.act(click(ArrowX, DownY), 300);
+  CHECK(stage.list.focusPlace().width < all.width);
+}
+
 TEST_CASE("boxes are ticked by the user, who is told on, and by the owner") {
   ListStage stage;
   for (std::int16_t i = 0; i < ListBox::Items; ++i) CHECK(stage.list.Check(i) == 0);

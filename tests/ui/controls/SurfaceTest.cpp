@@ -21,8 +21,8 @@ Canvas black(int width, int height) {
 
 }  // namespace
 
-TEST_CASE("a bitmap file is read as it stands, or not at all") {
-  const std::vector<unsigned char> good = bitmapFile(3, 2, counted);
+TEST_CASE("a picture file is read as it stands, or not at all") {
+  const std::vector<unsigned char> good = pictureFile(3, 2, counted);
   const Bitmap picture(good);
   REQUIRE(picture.width() == 3);
   REQUIRE(picture.height() == 2);
@@ -35,17 +35,11 @@ TEST_CASE("a bitmap file is read as it stands, or not at all") {
     unsigned char byte;
   } faults[] = {
       {"another mark", 0, 'X'},
-      {"pixels begin in the header", 10, 53},
-      {"pixels begin past the end", 13, 1},
-      {"another header", 14, 12},
-      {"no width", 18, 0},
-      {"too wide", 19, 0x20},
-      {"wider than its pixels", 18, 4},
-      {"top row first", 25, 0xFF},
-      {"two planes", 26, 2},
-      {"24 bits", 28, 24},
-      {"packed", 30, 1},
-      {"higher than its pixels", 22, 3},
+      {"no width", 7, 0},
+      {"no height", 11, 0},
+      {"too wide", 6, 0x20},
+      {"wider than its pixels", 7, 4},
+      {"higher than its pixels", 11, 3},
   };
   for (const auto& [fault, place, byte] : faults) {
     CAPTURE(fault);
@@ -57,8 +51,8 @@ TEST_CASE("a bitmap file is read as it stands, or not at all") {
     CHECK(Bitmap({good.data(), length}).height() == 0);
 }
 
-TEST_CASE("copying stretches to the nearest pixel and clips at both ends") {
-  const std::vector<unsigned char> file = bitmapFile(4, 2, counted);
+TEST_CASE("copying stretches to the mean of what lies under a pixel, and clips at both ends") {
+  const std::vector<unsigned char> file = pictureFile(4, 2, counted);
   const Bitmap picture(file);
   const struct {
     const char* what;
@@ -67,9 +61,10 @@ TEST_CASE("copying stretches to the nearest pixel and clips at both ends") {
   } cases[] = {
       {"plain", {0, 0, 4, 2}, {1, 1, 4, 2}, "000000\n012340\n0bcde0\n"},
       {"to twice the width", {0, 0, 2, 1}, {0, 0, 4, 1}, "112200\n000000\n000000\n"},
-      {"to a half", {0, 0, 4, 2}, {0, 0, 2, 1}, "ce0000\n000000\n000000\n"},
+      {"to a half", {0, 0, 4, 2}, {0, 0, 2, 1}, "790000\n000000\n000000\n"},
       {"three over two", {0, 0, 3, 1}, {0, 0, 2, 1}, "130000\n000000\n000000\n"},
-      {"over the whole height", {1, 0, 1, 2}, {5, 0, 1, 3}, "000002\n00000c\n00000c\n"},
+      {"over the whole height", {1, 0, 1, 2}, {5, 0, 1, 3}, "000002\n000007\n00000c\n"},
+      {"to one and a half the width", {0, 0, 2, 1}, {0, 0, 3, 1}, "122000\n000000\n000000\n"},
       {"past the surface's left and top", {0, 0, 4, 2}, {-2, -1, 4, 2}, "de0000\n000000\n000000\n"},
       {"past its right and bottom", {0, 0, 4, 2}, {4, 2, 4, 2}, "000000\n000000\n000012\n"},
       {"from past the picture", {2, 1, 4, 2}, {0, 0, 4, 2}, "de0000\n000000\n000000\n"},
@@ -85,6 +80,24 @@ TEST_CASE("copying stretches to the nearest pixel and clips at both ends") {
   }
 }
 
+TEST_CASE("the lines of a frame grow in whole steps, its middle takes the rest") {
+  const std::vector<unsigned char> file = pictureFile(3, 3, counted);
+  const struct {
+    int dpi, side;
+    const char* drawing;
+  } cases[] = {
+      {96, 3, "12300\nbcd00\nlmn00\n00000\n00000\n"},
+      {144, 5, "12223\nbcccd\nbcccd\nbcccd\nlmmmn\n"},
+      {192, 5, "11233\n11233\nbbcdd\nllmnn\nllmnn\n"},
+  };
+  for (const auto& [dpi, side, drawing] : cases) {
+    CAPTURE(dpi);
+    Canvas canvas = black(5, 5);
+    canvas.surface().frame(Bitmap(file), {0, 0, 3, 3}, 1, {0, 0, side, side}, {dpi});
+    CHECK(canvas.drawing() == drawing);
+  }
+}
+
 TEST_CASE("opacity mixes each colour by itself") {
   const struct {
     std::uint32_t over, result;
@@ -92,7 +105,7 @@ TEST_CASE("opacity mixes each colour by itself") {
       {0x00FFFFFF, 0x204060}, {0xFF102030, 0x102030}, {0x80FFFFFF, 0x90A0B0}, {0x40000000, 0x183048}};
   for (const auto& [over, result] : cases) {
     const std::uint32_t color = over;
-    const std::vector<unsigned char> file = bitmapFile(1, 1, [color](int, int) { return color; });
+    const std::vector<unsigned char> file = pictureFile(1, 1, [color](int, int) { return color; });
     Canvas canvas(1, 1);
     canvas.surface().clear(rgb(0x20, 0x40, 0x60));
     canvas.surface().draw(Bitmap(file), {});
@@ -101,7 +114,7 @@ TEST_CASE("opacity mixes each colour by itself") {
 }
 
 TEST_CASE("a part of a surface has its own corner and never paints outside") {
-  const std::vector<unsigned char> file = bitmapFile(4, 2, counted);
+  const std::vector<unsigned char> file = pictureFile(4, 2, counted);
   Canvas canvas = black(6, 4);
   Surface window = canvas.surface().within({1, 1, 4, 2});
   Surface panel = window.within({0, -1, 4, 6});
@@ -117,7 +130,7 @@ TEST_CASE("twips go to the nearest pixel") {
                           {-8, 15, -1}, {-15, 15, -1}, {732, 12, 61}, {-12, 12, -1}};
   for (const auto& [twips, scale, expected] : cases) {
     CAPTURE(twips);
-    CHECK(pixels(twips, scale) == expected);
+    CHECK(Scale().pixels(twips, scale) == expected);
   }
-  CHECK(pixels(Box{-12, 36, 732, 276}, 12) == Box{-1, 3, 61, 23});
+  CHECK(Scale().pixels(Box{-12, 36, 732, 276}, 12) == Box{-1, 3, 61, 23});
 }

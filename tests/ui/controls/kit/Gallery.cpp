@@ -23,6 +23,7 @@ class Painter {
     lists();
     clocks();
     titleControls();
+    for (const int dpi : {120, 144, 192}) scaled({dpi});
     return std::move(exhibits_);
   }
 
@@ -129,6 +130,34 @@ class Painter {
       add(name + "-pressed", buttons, down(LeftButton, x, 5));
       up(LeftButton, x, 5)(desk_, buttons);
     }
+  }
+
+  // On screens with more pixels an inch.
+  void scaled(Scale scale) {
+    Kit kit = desk_.kit;
+    kit.scale = scale;
+    const std::string dpi = "-at-" + std::to_string(scale.dpi);
+    XPCmdButton button(kit);
+    button.Caption("&Start Cleaning");
+    button.resize(scale.pixels(100, 1), scale.pixels(25, 1));
+    add("button" + dpi, button);
+    XPGroupBox group(kit);
+    group.Caption("Netscape");
+    group.resize(scale.pixels(100, 1), scale.pixels(40, 1));
+    add("group" + dpi, group);
+    XPCheck check(kit);
+    check.Caption("Cookies");
+    check.resize(scale.pixels(80, 1), scale.pixels(18, 1));
+    check.Value(1);
+    add("check" + dpi, check);
+    ListBox list(kit);
+    list.Initialise();
+    list.Check(1, 1);
+    add("list" + dpi, list);
+    Clock clock(kit);
+    clock.SetText("12:34");
+    clock.Blink();
+    add("clock" + dpi, clock);
   }
 
   Desk desk_;

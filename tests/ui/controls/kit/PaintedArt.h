@@ -1,4 +1,4 @@
-// Pictures that a test paints itself, as the bitmap files that the program would carry.
+// Pictures that a test paints itself, as the files that the program would carry.
 #pragma once
 
 #include <deque>
@@ -15,28 +15,30 @@ using PixelAt = std::function<std::uint32_t(int x, int y)>;
 
 inline constexpr std::uint32_t Opaque = 0xFF000000;
 
-inline std::vector<unsigned char> bitmapFile(int width, int height, const PixelAt& pixelAt) {
-  std::vector<unsigned char> bytes = {'B', 'M'};
-  const auto number = [&](std::uint32_t value, int count) {
-    for (int i = 0; i < count; ++i, value >>= 8U) bytes.push_back(static_cast<unsigned char>(value & 0xFFU));
+inline std::vector<unsigned char> pictureFile(int width, int height, const PixelAt& pixelAt) {
+  std::vector<unsigned char> bytes = {'q', 'o', 'i', 'f'};
+  const auto number = [&](std::uint32_t value) {
+    for (int bits = 24; bits >= 0; bits -= 8) bytes.push_back(static_cast<unsigned char>(value >> bits));
   };
-  const auto size = static_cast<std::uint32_t>(width * height * 4);
-  for (const std::uint32_t value : {54 + size, 0U, 54U, 40U}) number(value, 4);
-  number(static_cast<std::uint32_t>(width), 4);
-  number(static_cast<std::uint32_t>(height), 4);
-  number(1, 2);
-  number(32, 2);
-  for (const std::uint32_t value : {0U, size, 0U, 0U, 0U, 0U}) number(value, 4);
-  for (int y = height - 1; y >= 0; --y)
-    for (int x = 0; x < width; ++x) number(pixelAt(x, y), 4);
+  number(static_cast<std::uint32_t>(width));
+  number(static_cast<std::uint32_t>(height));
+  bytes.insert(bytes.end(), {4, 0});  // channels, and how they are to be taken
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      const std::uint32_t pixel = pixelAt(x, y);
+      bytes.push_back(0xFF);  // the whole colour follows
+      number(pixel << 8U | pixel >> 24U);
+    }
+  }
+  bytes.insert(bytes.end(), {0, 0, 0, 0, 0, 0, 0, 1});
   return bytes;
 }
 
 class PaintedArt {
  public:
   PaintedArt& add(const std::string& name, int width, int height, const PixelAt& pixelAt) {
-    names_.push_back(name + ".bmp");
-    bytes_.push_back(bitmapFile(width, height, pixelAt));
+    names_.push_back(name + ".qoi");
+    bytes_.push_back(pictureFile(width, height, pixelAt));
     files_.push_back({names_.back(), bytes_.back().data(), bytes_.back().size()});
     return *this;
   }

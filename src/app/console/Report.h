@@ -1,0 +1,25 @@
+// What the console program prints of a wash.
+#pragma once
+
+#include <string_view>
+
+#include "app/Program.h"
+#include "app/console/Commands.h"
+
+namespace zub {
+
+// The loop serves the program for as long as this lives.
+struct Attached {
+  Attached(ConsoleLoop& served, Program& program) : loop(served) { loop.attach(program); }
+  Attached(const Attached&) = delete;
+  Attached& operator=(const Attached&) = delete;
+  ~Attached() { loop.detach(); }
+  ConsoleLoop& loop;
+};
+
+// The report and the closing figures; nothing where there was no wash.
+void printReport(const CommandContext& context, Program& program);
+// Tells how much was tried and `happened`, such as "could not be removed"; the exit status of that.
+int tellLeftBehind(const CommandContext& context, const Program& program, std::string_view happened);
+
+}  // namespace zub

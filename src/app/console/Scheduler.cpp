@@ -1,0 +1,131 @@
+#include "app/console/Scheduler.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "app/console/Printable.h"
+#include "app/console/Store.h"
+#include "base/Numbers.h"
+#include "platform/folder/FolderTasks.h"
+#include "platform/folder/HostText.h"
+#include "scheduler/DatedTask.h"
+
+namespace zub {
+namespace {
+
+// A text that somebody is just changing, or has damaged, is told once; what was read before stays in force.
+// `told` is the failure of the last time.
+template <class Work>
+void guarded(std::string& told, Work work) {
+  try {
+    work();
+    told.clear();
+  } catch (const std::exception& error) {
+    if (told != error.what())
+      std::fprintf(stderr, "%s: %s\n", programName, printableLines(error.what()).c_str());
+    told = error.what();
+  }
+}
+
+}  // namespace
+
+Scheduler::Scheduler(CommandContext& context, std::int64_t passing)
+    : context_(context),
+      clock_(context.pc.platform().clock),
+      root_(openHostDir(context.pc.folder())),
+      due_(clock_.local(), passing),
+      automatic_(clock_, options_) {
+  automatic_.startWash = [this] {
+    if (waiting_.empty()) waiting_.push_back({"", washCommand});
+  };
+}
+
+void Scheduler::step(std::int64_t passing) {
+  const SystemTime now = clock_.local();
+  if (now.wMinute != minute_) {
+    minute_ = now.wMinute;
+    guarded(optionsFailure_, [this] { readOptions(); });
+  }
+  guarded(tasksFailure_, [this] { readTasks(); });
+  const int due = due_.look(times_, now, passing);
+  for (int start = 0; start < due; ++start) waiting_.push_back({parameters_, startCommand});
+  automatic_.Timer_Tick();
+  tellNext(now);
+  while (!waiting_.empty() && start(waiting_.front())) waiting_.pop_front();
+}
+
+// The PC as it is now. It can be washed while the tasks are damaged.
+std::unique_ptr<ConsolePc> Scheduler::openPc(const std::string& commandLine) {
+  return openFolderPc(context_.pc.folder(), context_.loop, context_.loop, commandLine, DamagedTasks::Fail);
+}
+
+// The program's own task; others belong to other programs.
+void Scheduler::readTasks() {
+  const std::string text = readHostText(*root_, FolderTasks::FileName).value_or("");
+  if (text == tasksText_) return;
+  const std::vector<TaskRecord> tasks = readTasksText(text, FolderTasks::FileName);
+  tasksText_ = text;
+  times_.clear();
+  const auto task = std::ranges::find(tasks, DatedTaskName, &TaskRecord::name);
+  if (task == tasks.end()) return;
+  parameters_ = task->parameters;
+  for (const TriggerRecord& trigger : task->triggers) times_.push_back(trigger.begin);
+}
+
+// What comes next, told once.
+void Scheduler::tellNext(const SystemTime& now) {
+  std::int64_t first = 0;
+  for (const SystemTime& time : times_) {
+    const std::int64_t moment = secondsOf(time);
+    if (moment > secondsOf(now) && (first == 0 || moment < first)) first = moment;
+  }
+  std::string next = "Next dated wash: none";
+  if (first != 0) {
+    const SystemTime time = timeFromSeconds(first);
+    next = "Next dated wash: " + clock_.dateText(time) + " " + clock_.timeText(time);
+  }
+  if (options_.chkRunAuto.Value() == 1) {
+    const SystemTime& time = automatic_.NextRemoval;
+    next += "\nNext wash by the interval: " + twoDigits(time.wHour) + ":" + twoDigits(time.wMinute);
+    const bool comes = time.wHour < 24 && time.wMinute < 60;
+    if (!comes) next += ", which no clock shows: switch chkRunAuto off for a minute";
+  }
+  if (next == toldNext_) return;
+  toldNext_ = next;
+  std::printf("%s\n", next.c_str());
+  std::fflush(stdout);
+}
+
+// The interval's two options, as the store keeps them now.
+void Scheduler::readOptions() {
+  const auto pc = openPc("");
+  const Store store(pc->platform());
+  const int on = store.options.chkRunAuto.Value();
+  const int row = store.options.ComboInterval.ListIndex();
+  if (on == options_.chkRunAuto.Value() && row == options_.ComboInterval.ListIndex()) return;
+  options_.chkRunAuto.Value(on);
+  options_.ComboInterval.ListIndex(row);
+  automatic_.chkRunAuto_Click();
+}
+
+// Starts the program anew; false where another program is at work on the PC, so that it has to wait. Each
+// start that fails is told, and each wait once.
+bool Scheduler::start(const Start& what) {
+  bool done = true;
+  std::string told;
+  guarded(told, [&] {
+    const auto pc = openPc(what.commandLine);
+    CommandContext started{*pc, context_.loop, {}};
+    try {
+      runCommand(started, what.command);
+    } catch (const BusyError& busy) {
+      if (!waits_) std::fprintf(stderr, "%s: %s\n", programName, busy.what());
+      done = false;
+    }
+    std::fflush(stdout);
+  });
+  waits_ = !done;
+  return done;
+}
+
+}  // namespace zub

@@ -1,0 +1,18 @@
+#include "platform/StoredData.h"
+
+#include "base/Text.h"
+#include "platform/Registry.h"
+
+namespace zub {
+
+std::string storedData(std::string data, std::uint32_t type, bool cutsTexts) {
+  if (!cutsTexts) {
+    if (isText(type) && !data.empty() && data.back() != '\0') data += '\0';
+  } else if (type == static_cast<std::uint32_t>(ValueType::Text)) {
+    data = StripAtNull(data);
+    data += '\0';
+  }
+  return data;
+}
+
+}  // namespace zub

@@ -1,0 +1,54 @@
+#include "ui/win32/WindowFrame.h"
+
+#include <algorithm>
+
+namespace zub {
+namespace {
+
+int screenDpi() {
+  const HDC screen = GetDC(nullptr);
+  const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
+  ReleaseDC(nullptr, screen);
+  return dpi;
+}
+
+}  // namespace
+
+SIZE WindowFrame::outerSize(int width, int height) const {
+  RECT size{0, 0, width, height};
+  AdjustWindowRectEx(&size, style, FALSE, extendedStyle);
+  return {size.right - size.left, size.bottom - size.top};
+}
+
+WindowFrame frameOf(layout::Border border) {
+  switch (border) {
+    case layout::Border::Fixed:
+      return {WS_CAPTION | WS_SYSMENU | WS_OVERLAPPED | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
+    case layout::Border::Minimise:
+      return {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_OVERLAPPED | WS_CLIPCHILDREN,
+              WS_EX_CONTROLPARENT};
+    case layout::Border::Dialog:
+      return {WS_CAPTION | WS_SYSMENU | WS_POPUP | WS_CLIPCHILDREN,
+              WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME};
+    case layout::Border::None:
+      break;
+  }
+  return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
+}
+
+int fittingDpi() {
+  constexpr int TwipsPerInch = 1440, Step = 12, Fewest = 48;
+  const int wanted = screenDpi();
+  RECT room;
+  if (SystemParametersInfoA(SPI_GETWORKAREA, 0, &room, 0) == 0) return wanted;
+  int dpi = wanted;
+  for (const layout::Face* window : layout::faces::All) {
+    const SIZE frame = frameOf(window->border).outerSize(0, 0);
+    const auto width = static_cast<int>(room.right - room.left - frame.cx);
+    const auto height = static_cast<int>(room.bottom - room.top - frame.cy);
+    dpi = std::min({dpi, width * TwipsPerInch / window->width, height * TwipsPerInch / window->height});
+  }
+  return dpi == wanted ? dpi : std::max(dpi - dpi % Step, Fewest);
+}
+
+}  // namespace zub

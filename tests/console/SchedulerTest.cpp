@@ -1,0 +1,112 @@
+#include <doctest/doctest.h>
+
+#include <functional>
+
+#include "app/console/Scheduler.h"
+#include "app/console/Store.h"
+#include "platform/folder/FolderPc.h"
+#include "support/TempFolder.h"
+
+using namespace zub;
+
+namespace {
+
+struct MovedClock : FolderClock {
+  SystemTime now{2001, 9, 5, 14, 10, 20, 30, 0};
+  SystemTime local() override { return now; }
+};
+
+// A PC in a folder by a clock of its own. A file in its temporary folder tells whether it was washed.
+struct TimedPc : ConsolePc {
+  static constexpr const char* Trace = "C:\\WINDOWS\\TEMP\\old.tmp";
+
+  TempFolder folder_;
+  std::string path = folder_.path() + "/pc";
+  ConsoleLoop loop{[](std::string_view text) { return std::string(text); }};
+  std::unique_ptr<ConsolePc> pc;
+  MovedClock clock;
+  std::unique_ptr<Platform> timed;
+  std::unique_ptr<CommandContext> context;
+  std::unique_ptr<Scheduler> scheduler;
+
+  explicit TimedPc(const std::function<void(Options&)>& choose = {}) {
+    createPc(path);
+    pc = openFolderPc(path, loop, loop, "");
+    Store store(pc->platform());
+    store.options.LstIcons.Check(iconRow::TempFolder, 1);
+    if (choose) choose(store.options);
+    store.save();
+    pc->save();
+    const Platform& p = pc->platform();
+    timed = std::make_unique<Platform>(Platform{p.codePage, p.registry, p.files, p.drives, p.folders,
+                                                p.restart, p.shell, clock, p.process, p.events, p.messages,
+                                                p.tray, p.tasks});
+    context = std::make_unique<CommandContext>(CommandContext{*this, loop, {}});
+    scheduler = std::make_unique<Scheduler>(*context, secondsOf(clock.now));
+  }
+  Platform& platform() override { return *timed; }
+  void save() override {}
+  std::vector<std::string> failures() const override { return {}; }
+  std::string folder() const override { return path; }
+  std::string toTerminal(std::string_view text) const override { return std::string(text); }
+  std::string fromTerminal(std::string_view text) const override { return std::string(text); }
+
+  void tasks(const char* text) { writeHostFile(*openHostDir(path), "tasks.txt", text); }
+  bool washesAt(std::uint16_t hour, std::uint16_t minute, std::uint16_t second) {
+    Files& files = pc->platform().files;
+    files.open(Trace, OpenMode::Binary);
+    clock.now.wHour = hour;
+    clock.now.wMinute = minute;
+    clock.now.wSecond = second;
+    scheduler->step(secondsOf(clock.now));
+    return !files.fileExists(Trace);
+  }
+};
+
+}  // namespace
+
+TEST_CASE("the scheduler starts a dated wash once, when its time has come") {
+  TimedPc pc;
+  pc.tasks(
+      "task = Other\nparameters =  /SCHEDULER\ntrigger = 0 2001-09-14 10:22\n\n"
+      "task = ZUB\nparameters =  /SCHEDULER\ntrigger = 0 2001-09-14 10:20\ntrigger = 0 2001-09-14 10:25\n");
+  CHECK_FALSE(pc.washesAt(10, 20, 31));  // the first one is over
+  CHECK_FALSE(pc.washesAt(10, 22, 0));   // another program's
+  CHECK_FALSE(pc.washesAt(10, 24, 59));
+  pc.tasks("damaged\n");  // what was read before stays in force
+  CHECK(pc.washesAt(10, 25, 0));
+  CHECK_FALSE(pc.washesAt(10, 25, 1));
+}
+
+TEST_CASE("a dated wash that meets another program waits its turn") {
+  TimedPc pc;
+  pc.tasks("task = ZUB\nparameters =  /SCHEDULER\ntrigger = 0 2001-09-14 10:25\n");
+  {
+    const auto other = openFolderPc(pc.path, pc.loop, pc.loop, "");
+    REQUIRE_FALSE(other->platform().process.otherInstanceRuns());
+    CHECK_FALSE(pc.washesAt(10, 25, 0));
+    CHECK_FALSE(pc.washesAt(10, 25, 1));
+  }
+  CHECK(pc.washesAt(10, 25, 2));
+  CHECK_FALSE(pc.washesAt(10, 25, 3));
+}
+
+TEST_CASE("the scheduler keeps the automatic interval, and follows a change of it within a minute") {
+  TimedPc pc([](Options& options) {
+    options.chkRunAuto.Value(1);
+    options.ComboInterval.ListIndex(2);  // every 15 minutes
+  });
+  CHECK_FALSE(pc.washesAt(10, 20, 31));
+  CHECK_FALSE(pc.washesAt(10, 34, 59));
+  CHECK(pc.washesAt(10, 35, 0));
+  CHECK_FALSE(pc.washesAt(10, 35, 1));
+  CHECK(pc.washesAt(10, 50, 59));
+  {
+    const auto other = openFolderPc(pc.path, pc.loop, pc.loop, "");
+    Store store(other->platform());
+    store.options.chkRunAuto.Value(0);
+    store.save();
+    other->save();
+  }
+  CHECK_FALSE(pc.washesAt(11, 5, 0));
+}
