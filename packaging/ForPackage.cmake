@@ -1,4 +1,8 @@
-# Read by cpack: the time that all packaged files carry, that of the commit, in the variable that archivers know.
+# Read by cpack before each kind of package.
+if(CPACK_GENERATOR STREQUAL "NSIS")
+  set(CPACK_PACKAGE_FILE_NAME zubrane-${CPACK_PACKAGE_VERSION}-setup)
+endif()
+# The time that all packaged files carry, that of the commit, in the variable that archivers know.
 if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
   execute_process(
     COMMAND git log -1 --format=%ct
