@@ -4,6 +4,7 @@
 #include "platform/ContractPc.h"
 #include "platform/folder/FolderChannel.h"
 #include "platform/folder/FolderPc.h"
+#include "platform/folder/NewPc.h"
 #include "support/TempFolder.h"
 
 #ifndef _WIN32
