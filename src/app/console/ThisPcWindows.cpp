@@ -1,6 +1,6 @@
 #include "app/console/ConsolePc.h"
 #include "app/console/Printable.h"
-#include "platform/win32/NtCalls.h"
+#include "platform/host/win32/NtCalls.h"
 #include "platform/win32/Text.h"
 #include "platform/win32/Win32Platform.h"
 #include "platform/win32/Win32SystemFolders.h"

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/folder/HostDir.h"
 #include "platform/folder/PcFacts.h"
-#include "platform/folder/WatchedDir.h"
+#include "platform/host/HostDir.h"
+#include "platform/host/WatchedDir.h"
 
 namespace zub {
 

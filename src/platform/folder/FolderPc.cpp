@@ -2,11 +2,11 @@
 
 #include <functional>
 
-#include "platform/folder/HostFailure.h"
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
 #include "platform/folder/RegistryParts.h"
 #include "platform/folder/RegistryText.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {

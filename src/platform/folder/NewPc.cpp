@@ -4,10 +4,10 @@
 
 #include "platform/folder/FolderPath.h"
 #include "platform/folder/FolderPc.h"
-#include "platform/folder/HostFailure.h"
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
 #include "platform/folder/RegistryText.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {

@@ -1,8 +1,8 @@
-#include "platform/folder/WatchedDir.h"
+#include "platform/host/WatchedDir.h"
 
 #include <utility>
 
-#include "platform/folder/HostFailure.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {

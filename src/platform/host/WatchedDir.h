@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "platform/folder/HostDir.h"
+#include "platform/host/HostDir.h"
 
 namespace zub {
 
