@@ -61,7 +61,7 @@ newPc
 rm -rf "$temp"
 ln -s "$outside" "$temp"
 run 1 --pc "$pc" wash
-check "the link is not told" grep -qxF 'zub: not looked into: C:\WINDOWS\TEMP\: a link, which is not entered' "$work/err"
+check "the link is not told" grep -qxF 'zub: C/WINDOWS/TEMP: a link, which is not entered' "$work/err"
 
 # Links in place of the folders of the PC, of a drive and of the texts that hold the PC.
 for place in C/WINDOWS/TEMP C/WINDOWS C/RECYCLED C D "C/Program Files/Zubrane/Plugins" "C/Program Files"; do
