@@ -6,6 +6,7 @@
 #include "platform/folder/FolderChannel.h"
 #include "platform/folder/FolderPc.h"
 #include "platform/folder/FolderSearch.h"
+#include "platform/folder/NewPc.h"
 #include "support/TempFolder.h"
 
 #ifndef _WIN32
