@@ -6,7 +6,7 @@
 #include <set>
 
 #include "platform/ContractPc.h"
-#include "platform/win32/FolderLink.h"
+#include "platform/host/win32/ReparsePoint.h"
 #include "platform/win32/Text.h"
 #include "platform/win32/Win32Error.h"
 
