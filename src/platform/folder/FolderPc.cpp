@@ -88,8 +88,8 @@ bool FolderPc::isOutdated() {
 }
 
 Platform FolderPc::platform(EventLoop& events, Messages& messages) {
-  return {codePage, registry, files,  drives,   folders, restart, shell,
-          clock,    process,  events, messages, tray,    tasks};
+  return {&codePage, &registry, &files,  &drives,   &folders, &restart, &shell,
+          &clock,    &process,  &events, &messages, &tray,    &tasks};
 }
 
 void FolderPc::save() {
