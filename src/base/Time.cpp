@@ -1,37 +1,37 @@
 #include "base/Time.h"
 
+#include <chrono>
+
 namespace zub {
+namespace {
 
-// Days and dates by the method of counting years from March, in eras of 400 years.
-std::int64_t daysFromDate(int year, int month, int day) {
-  const std::int64_t y = month <= 2 ? year - 1 : year;
-  const std::int64_t era = (y >= 0 ? y : y - 399) / 400;
-  const std::int64_t yearOfEra = y - era * 400;
-  const std::int64_t dayOfYear = (153 * (month + (month > 2 ? -3 : 9)) + 2) / 5 + day - 1;
-  const std::int64_t dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
-  return era * 146097 + dayOfEra - 719468;
-}
+using std::chrono::sys_days;
 
-SystemTime dateFromDays(std::int64_t days) {
-  const std::int64_t shifted = days + 719468;
-  const std::int64_t era = (shifted >= 0 ? shifted : shifted - 146096) / 146097;
-  const std::int64_t dayOfEra = shifted - era * 146097;
-  const std::int64_t yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
-  const std::int64_t dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
-  const std::int64_t monthFromMarch = (5 * dayOfYear + 2) / 153;
-  const std::int64_t month = monthFromMarch + (monthFromMarch < 10 ? 3 : -9);
+SystemTime dateOf(sys_days day) {
+  const std::chrono::year_month_day date(day);
   SystemTime time;
-  time.wYear = static_cast<std::uint16_t>(yearOfEra + era * 400 + (month <= 2 ? 1 : 0));
-  time.wMonth = static_cast<std::uint16_t>(month);
-  time.wDay = static_cast<std::uint16_t>(dayOfYear - (153 * monthFromMarch + 2) / 5 + 1);
-  time.wDayOfWeek = static_cast<std::uint16_t>(((days + 4) % 7 + 7) % 7);
+  time.wYear = static_cast<std::uint16_t>(static_cast<int>(date.year()));
+  time.wMonth = static_cast<std::uint16_t>(static_cast<unsigned>(date.month()));
+  time.wDayOfWeek = static_cast<std::uint16_t>(std::chrono::weekday(day).c_encoding());
+  time.wDay = static_cast<std::uint16_t>(static_cast<unsigned>(date.day()));
   return time;
 }
 
+}  // namespace
+
+std::int64_t daysFromDate(int year, int month, int day) {
+  using namespace std::chrono;
+  const sys_days first = std::chrono::year(year) / month / 1;
+  return (first + days(day - 1)).time_since_epoch().count();
+}
+
+SystemTime dateFromDays(std::int64_t days) {
+  return dateOf(sys_days(std::chrono::days(days)));
+}
+
 int daysInMonth(int year, int month) {
-  const int nextYear = month == 12 ? year + 1 : year;
-  const int nextMonth = month == 12 ? 1 : month + 1;
-  return static_cast<int>(daysFromDate(nextYear, nextMonth, 1) - daysFromDate(year, month, 1));
+  const auto last = std::chrono::year(year) / month / std::chrono::last;
+  return static_cast<int>(static_cast<unsigned>(last.day()));
 }
 
 SystemTime plusDays(const SystemTime& time, int days) {
@@ -44,16 +44,13 @@ std::int64_t secondsOf(const SystemTime& time) {
 }
 
 SystemTime timeFromSeconds(std::int64_t seconds) {
-  std::int64_t days = seconds / 86400;
-  std::int64_t rest = seconds % 86400;
-  if (rest < 0) {
-    rest += 86400;
-    --days;
-  }
-  SystemTime time = dateFromDays(days);
-  time.wHour = static_cast<std::uint16_t>(rest / 3600);
-  time.wMinute = static_cast<std::uint16_t>(rest / 60 % 60);
-  time.wSecond = static_cast<std::uint16_t>(rest % 60);
+  const std::chrono::sys_seconds moment{std::chrono::seconds(seconds)};
+  const auto day = std::chrono::floor<std::chrono::days>(moment);
+  const std::chrono::hh_mm_ss clock(moment - day);
+  SystemTime time = dateOf(day);
+  time.wHour = static_cast<std::uint16_t>(clock.hours().count());
+  time.wMinute = static_cast<std::uint16_t>(clock.minutes().count());
+  time.wSecond = static_cast<std::uint16_t>(clock.seconds().count());
   return time;
 }
 
