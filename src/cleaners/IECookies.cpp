@@ -1,7 +1,6 @@
 #include "cleaners/IECookies.h"
 
-#include <cstddef>
-#include <unordered_map>
+#include <map>
 #include <unordered_set>
 
 #include "base/Text.h"
@@ -17,44 +16,19 @@ std::string keepFile(const std::string& folder) {
   return folder + "ZUBKeep.inf";
 }
 
-// The files of a folder that no record of its index has claimed yet.
-class UnclaimedFiles {
- public:
-  UnclaimedFiles(const CodePage& codePage, const std::vector<std::string>& names)
-      : codePage_(codePage), names_(names), claimed_(names.size()) {
-    for (std::size_t file = names.size(); file-- > 0;) ofName_[codePage.upper(names[file])].push_back(file);
-  }
-
-  // Takes the first file of this name, without regard to case, off the files; false where none is left.
-  bool claim(std::string_view name) {
-    const auto files = ofName_.find(codePage_.upper(name));
-    if (files == ofName_.end() || files->second.empty()) return false;
-    claimed_[files->second.back()] = true;
-    files->second.pop_back();
-    return true;
-  }
-
-  // The files that are left, in their order.
-  template <class Use>
-  void forEach(Use use) const {
-    for (std::size_t file = 0; file < names_.size(); ++file) {
-      if (!claimed_[file]) use(names_[file]);
-    }
-  }
-
- private:
-  const CodePage& codePage_;
-  const std::vector<std::string>& names_;
-  std::unordered_map<std::string, std::vector<std::size_t>> ofName_;  // the last file first
-  std::vector<bool> claimed_;
-};
+// The files of a folder that no record of its index has claimed yet, by their names without regard to case.
+using UnclaimedFiles = std::multimap<std::string, std::string>;
 
 void listIndexed(const Platform& pc, const std::string& indexFile, UnclaimedFiles& files, CookieRows& rows) {
   try {
     IECookieIndex index(*pc.files, indexFile);
     IECookie cookie;
     while (index.next(cookie)) {
-      if (files.claim(trim(cookie.file))) rows.push_back({cookie.site, cookie.file});
+      const std::string name = pc.codePage->upper(trim(cookie.file));
+      const auto file = files.lower_bound(name);
+      if (file == files.end() || file->first != name) continue;
+      files.erase(file);
+      rows.push_back({cookie.site, cookie.file});
     }
   } catch (const RuntimeError& failure) {
     if (!isMissing(failure)) throw;
@@ -87,10 +61,11 @@ std::string cookieIndexFile(const std::string& folder) {
 void readIECookies(const Platform& pc, const std::string& folder, CookieRows& rows) {
   FileLister lister(pc, "*.txt", FileLister::Hidden::Skip);
   onFile(folder, [&] { lister.path(folder); });
-  UnclaimedFiles unclaimed(*pc.codePage, lister.names());
+  UnclaimedFiles unclaimed;  // in the lister's order
+  for (const std::string& name : lister.names()) unclaimed.emplace(pc.codePage->upper(name), name);
   const std::string indexFile = cookieIndexFile(folder);
   onFile(indexFile, [&] { listIndexed(pc, indexFile, unclaimed, rows); });
-  unclaimed.forEach([&](const std::string& name) { rows.push_back({name, name}); });
+  for (const auto& [upper, name] : unclaimed) rows.push_back({name, name});
   onFile(keepFile(folder), [&] { tickKept(pc, keepFile(folder), rows); });
 }
 
