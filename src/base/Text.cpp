@@ -5,17 +5,30 @@
 
 namespace zub {
 
-std::string_view trimLeft(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
+std::string_view trimLeft(std::string_view text, std::string_view blanks) {
+  const auto first = text.find_first_not_of(blanks);
   return first == std::string_view::npos ? std::string_view{} : text.substr(first);
 }
 
-std::string_view trimRight(std::string_view text) {
-  return text.substr(0, text.find_last_not_of(' ') + 1);
+std::string_view trimRight(std::string_view text, std::string_view blanks) {
+  return text.substr(0, text.find_last_not_of(blanks) + 1);
 }
 
-std::string_view trim(std::string_view text) {
-  return trimLeft(trimRight(text));
+std::string_view trim(std::string_view text, std::string_view blanks) {
+  return trimLeft(trimRight(text, blanks), blanks);
+}
+
+std::string_view takeLineWithEnd(std::string_view& text) {
+  const std::string_view line = text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1);
+  text.remove_prefix(line.size());
+  return line;
+}
+
+std::string_view takeLine(std::string_view& text) {
+  std::string_view line = takeLineWithEnd(text);
+  if (line.ends_with('\n')) line.remove_suffix(1);
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  return line;
 }
 
 std::string_view StripAtNull(std::string_view text) {

@@ -11,10 +11,14 @@ namespace zub {
 
 inline constexpr std::string_view CrLf = "\r\n";
 
-// Blanks are the character 32 only; tabs and line ends stay.
-std::string_view trimLeft(std::string_view text);
-std::string_view trimRight(std::string_view text);
-std::string_view trim(std::string_view text);
+// Blanks are the character 32 only, unless the caller names more.
+std::string_view trimLeft(std::string_view text, std::string_view blanks = " ");
+std::string_view trimRight(std::string_view text, std::string_view blanks = " ");
+std::string_view trim(std::string_view text, std::string_view blanks = " ");
+
+// Takes the first line off a text that is not empty; the last line may lack its end.
+std::string_view takeLine(std::string_view& text);  // without its CR LF, LF or CR
+std::string_view takeLineWithEnd(std::string_view& text);
 
 // The text left of the first NUL, or all of it.
 std::string_view StripAtNull(std::string_view text);

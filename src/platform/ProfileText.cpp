@@ -9,17 +9,13 @@
 namespace zub {
 namespace {
 
-std::string_view withoutEnd(std::string_view line) {
-  return line.substr(0, line.find_last_not_of("\r\n") + 1);
-}
-
 bool isSection(std::string_view line) {
-  return trim(withoutEnd(line)).starts_with('[');
+  return trim(trimRight(line, CrLf)).starts_with('[');
 }
 
 // Empty for a line that begins no section.
 std::string_view sectionOf(std::string_view line) {
-  const std::string_view text = trim(withoutEnd(line));
+  const std::string_view text = trim(trimRight(line, CrLf));
   return text.starts_with('[') ? text.substr(1, text.find(']') - 1) : std::string_view{};
 }
 
@@ -38,10 +34,7 @@ std::string withProfileKey(std::string_view text, std::string_view section, std:
   };
   std::vector<std::string> lines;
   while (!text.empty()) {
-    const auto end = text.find('\n');
-    const std::string_view line = text.substr(0, end == std::string_view::npos ? end : end + 1);
-    lines.emplace_back(line);
-    text.remove_prefix(line.size());
+    lines.emplace_back(takeLineWithEnd(text));
   }
   if (!lines.empty() && !lines.back().ends_with('\n')) lines.back() += CrLf;
 
@@ -56,7 +49,7 @@ std::string withProfileKey(std::string_view text, std::string_view section, std:
   } else {
     std::size_t behindLast = ++place;
     while (place < lines.size() && !isSection(lines[place]) && !equal(keyOf(lines[place]), key)) {
-      if (!trim(withoutEnd(lines[place])).empty()) behindLast = place + 1;
+      if (!trim(trimRight(lines[place], CrLf)).empty()) behindLast = place + 1;
       ++place;
     }
     if (place < lines.size() && !isSection(lines[place])) {

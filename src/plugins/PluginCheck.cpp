@@ -1,7 +1,6 @@
 #include "plugins/PluginCheck.h"
 
-#include <algorithm>
-
+#include "base/Text.h"
 #include "engine/Engine.h"
 #include "platform/FileReader.h"
 
@@ -44,12 +43,7 @@ std::vector<CheckedLine> PluginCheck::readFile(std::string_view path, PluginFile
 std::vector<CheckedLine> PluginCheck::readText(std::string_view text, PluginFile which) {
   begin(which);
   std::vector<CheckedLine> lines;
-  while (!text.empty()) {
-    std::string_view line = text.substr(0, text.find('\n'));
-    text.remove_prefix(std::min(line.size() + 1, text.size()));
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    lines.push_back(next(line));
-  }
+  while (!text.empty()) lines.push_back(next(takeLine(text)));
   return lines;
 }
 

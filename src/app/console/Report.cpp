@@ -9,12 +9,8 @@ namespace {
 
 // The report lies in memory with CR LF behind each line; a terminal wants no blank line at its end.
 void printLines(const CommandContext& context, std::string_view text) {
-  while (text.ends_with(CrLf)) text.remove_suffix(CrLf.size());
-  for (auto end = text.find(CrLf); end != std::string_view::npos; end = text.find(CrLf)) {
-    context.print(text.substr(0, end));
-    text.remove_prefix(end + CrLf.size());
-  }
-  context.print(text);
+  text = trimRight(text, CrLf);
+  while (!text.empty()) context.print(takeLine(text));
 }
 
 }  // namespace

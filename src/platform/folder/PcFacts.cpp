@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/Text.h"
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/PcError.h"
 #include "platform/folder/RegistryTree.h"
@@ -22,9 +23,7 @@ constexpr std::array<DriveKind, 6> DriveKinds{{{"unknown", DriveType::Unknown},
                                                {"ramdisk", DriveType::RamDisk}}};
 
 std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t\r");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t\r") + 1 - first);
+  return trim(text, " \t\r\n");
 }
 
 // The reading of one value; what it throws is a reason.
@@ -115,12 +114,10 @@ PcFacts::PcFacts(std::string_view text)
       program{'C', {"Program Files", "Zubrane"}},
       current{'C', {}} {
   for (int number = 1; !text.empty(); ++number) {
-    const std::string_view line =
-        text.substr(0, text.find('\n') + 1 == 0 ? text.size() : text.find('\n') + 1);
-    text.remove_prefix(line.size());
+    const std::string_view line = takeLineWithEnd(text);
     lines_.emplace_back(line);
     try {
-      take(trimmed(line.substr(0, line.find('\n'))), number);
+      take(trimmed(line), number);
     } catch (const Refused& refused) {
       throw PcError(FileName, number, refused.reason);
     }

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/DateText.h"
 #include "platform/folder/FolderTasks.h"
@@ -99,10 +100,7 @@ std::vector<TaskRecord> readTasksText(std::string_view text, const std::string& 
   std::vector<TaskRecord> tasks;
   std::set<std::string> names;
   for (int number = 1; !text.empty(); ++number) {
-    const auto end = text.find('\n');
-    std::string_view line = text.substr(0, end);
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    if (line.ends_with('\r')) line.remove_suffix(1);
+    const std::string_view line = takeLine(text);
     if (line.empty() || line.starts_with('#')) continue;
     const auto equals = line.find(" =");
     if (equals == std::string_view::npos) throw PcError(file, number, "is no \"name = value\"");
