@@ -59,7 +59,7 @@ RegistryStatus RegistryHelper::enumKey(RegistryKey key, std::uint32_t index, std
 
 RegistryStatus RegistryHelper::enumValue(RegistryKey key, std::uint32_t index, std::size_t& place) {
   auto length = static_cast<std::uint32_t>(valueName_.size());
-  std::uint32_t type = 0;
+  ValueType type{};
   auto dataLength = static_cast<std::uint32_t>(data_.size());
   const RegistryStatus result =
       engine_.pc.registry->enumValue(key, index, valueName_.data(), length, type, data_.data(), dataLength);
@@ -106,7 +106,7 @@ std::string RegistryHelper::TraceValue(const Trace& trace) {
   OpenKey key(registry);
   if (key.open(hive, trace.path, access::All) != status::Success) return {};
 
-  std::uint32_t type = 0;
+  ValueType type{};
   auto length = static_cast<std::uint32_t>(data_.size());
   if (registry.query(key.get(), trace.valueName, type, data_.data(), length) != status::Success) return {};
   // The buffer is trimmed before it is cut, so that what stands behind a text with leading blanks moves up.

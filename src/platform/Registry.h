@@ -68,6 +68,7 @@ inline constexpr std::uint32_t All = 0x3F;  // query, set, create, enumerate, no
 inline constexpr std::uint32_t Read = 131135;
 }  // namespace access
 
+// A value may have any other type too.
 enum class ValueType : std::uint32_t {
   None = 0,
   Text = 1,
@@ -77,10 +78,8 @@ enum class ValueType : std::uint32_t {
   SeveralTexts = 7
 };
 
-inline bool isText(std::uint32_t type) {
-  return type == static_cast<std::uint32_t>(ValueType::Text) ||
-         type == static_cast<std::uint32_t>(ValueType::ExpandText) ||
-         type == static_cast<std::uint32_t>(ValueType::SeveralTexts);
+inline bool isText(ValueType type) {
+  return type == ValueType::Text || type == ValueType::ExpandText || type == ValueType::SeveralTexts;
 }
 
 class Registry {
@@ -101,15 +100,15 @@ class Registry {
   // The name, type and data of the index-th value; `length` as above, `dataLength` in bytes. The unnamed
   // value has the empty name. With MoreData because of the data the name may or may not have been written.
   virtual RegistryStatus enumValue(RegistryKey key, std::uint32_t index, char* name, std::uint32_t& length,
-                                   std::uint32_t& type, std::uint8_t* data, std::uint32_t& dataLength) = 0;
+                                   ValueType& type, std::uint8_t* data, std::uint32_t& dataLength) = 0;
   // The data of one value as stored, with no NUL added. MoreData sets `dataLength` to the length needed. A text that
   // the code page does not hold exactly is told by stand-ins (platform/ToldName.h), and set() takes it so.
-  virtual RegistryStatus query(RegistryKey key, std::string_view name, std::uint32_t& type,
-                               std::uint8_t* data, std::uint32_t& dataLength) = 0;
+  virtual RegistryStatus query(RegistryKey key, std::string_view name, ValueType& type, std::uint8_t* data,
+                               std::uint32_t& dataLength) = 0;
   // Stores the bytes as they stand, but texts as the system does, to which they are handed over with a NUL
   // behind them: the NT family stores that NUL too where a text has bytes and does not end in one; the 9x
   // family stores a text of the type Text up to its first NUL, and that NUL.
-  virtual RegistryStatus set(RegistryKey key, std::string_view name, std::uint32_t type,
+  virtual RegistryStatus set(RegistryKey key, std::string_view name, ValueType type,
                              std::span<const std::uint8_t> data) = 0;
   virtual RegistryStatus deleteValue(RegistryKey key, std::string_view name) = 0;
   // Deletes a subkey; the empty path deletes the open key itself. A key that has subkeys goes with them on

@@ -5,10 +5,10 @@
 
 namespace zub {
 
-std::string storedData(std::string data, std::uint32_t type, bool cutsTexts) {
+std::string storedData(std::string data, ValueType type, bool cutsTexts) {
   if (!cutsTexts) {
     if (isText(type) && !data.empty() && data.back() != '\0') data += '\0';
-  } else if (type == static_cast<std::uint32_t>(ValueType::Text)) {
+  } else if (type == ValueType::Text) {
     data = StripAtNull(data);
     data += '\0';
   }

@@ -84,7 +84,7 @@ void INIFile::getRows(ListRows& rows, std::string_view prefix) {
 // one character and its terminator: longer data fails the query.
 char INIFile::digitOf(std::string_view name) {
   std::array<std::uint8_t, DigitSize> buffer{};
-  std::uint32_t type = 0;
+  ValueType type{};
   std::uint32_t length = DigitSize;
   if (pc_.registry->query(key_, name, type, buffer.data(), length) != status::Success) {
     write(name, std::string_view("0\0", DigitSize));
@@ -117,7 +117,7 @@ int INIFile::PutText(std::string_view name, std::string_view text) {
 
 std::string INIFile::GetText(std::string_view name) {
   std::array<std::uint8_t, TextSize> buffer{};
-  std::uint32_t type = 0;
+  ValueType type{};
   std::uint32_t length = TextSize;
   if (pc_.registry->query(key_, name, type, buffer.data(), length) != status::Success) {
     write(name, std::string_view("\0\0", 2));
@@ -128,7 +128,7 @@ std::string INIFile::GetText(std::string_view name) {
 
 int INIFile::write(std::string_view name, std::string_view bytes) {
   const std::span data(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
-  const auto type = static_cast<std::uint32_t>(ValueType::Text);
+  const auto type = ValueType::Text;
   return pc_.registry->set(key_, name, type, data) == status::Success ? 0 : -1;
 }
 

@@ -26,7 +26,7 @@ void WindowsStartup::move(std::string_view from, std::string_view to, std::strin
     if (source.open(root, from, access::Write) == status::Success) registry_.deleteValue(source.get(), name);
     OpenKey target(registry_);
     if (target.open(root, to, access::Write) == status::Success) {
-      registry_.set(target.get(), name, static_cast<std::uint32_t>(ValueType::Text), bytes);
+      registry_.set(target.get(), name, ValueType::Text, bytes);
     }
   }
 }

@@ -63,14 +63,13 @@ bool frmAbout::GetKeyValue(RegistryKey KeyRoot, std::string_view KeyName, std::s
   RegistryKey key = 0;
   if (registry.open(KeyRoot, KeyName, access::Read, key) != status::Success) return false;
   std::array<std::uint8_t, LongestValue> data{};
-  std::uint32_t type = 0;
+  ValueType type{};
   std::uint32_t length = LongestValue;
   const bool read = registry.query(key, SubKeyRef, type, data.data(), length) == status::Success;
   registry.close(key);
   if (!read) return false;
   const std::string_view bytes(reinterpret_cast<const char*>(data.data()), length);
-  KeyVal = type == static_cast<std::uint32_t>(ValueType::Number) ? hexText(bytes)
-                                                                 : std::string(StripAtNull(bytes));
+  KeyVal = type == ValueType::Number ? hexText(bytes) : std::string(StripAtNull(bytes));
   return true;
 }
 

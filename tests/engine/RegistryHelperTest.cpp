@@ -73,17 +73,17 @@ TEST_CASE("a trace finds its value by hive, path and name") {
 TEST_CASE("a value reads as text of any type, short of its last character") {
   struct {
     std::string stored;
-    std::uint32_t type;
+    ValueType type;
     std::string text;
-  } const rows[] = {{std::string("C:\\X\0", 5), 1, "C:\\X"},
-                    {std::string("C:\\X\0", 5), 3, "C:\\X"},
-                    {"C:\\X", 1, "C:\\"},
-                    {std::string("C:\\X \0", 6), 1, "C:\\X "},
+  } const rows[] = {{std::string("C:\\X\0", 5), ValueType::Text, "C:\\X"},
+                    {std::string("C:\\X\0", 5), ValueType::Binary, "C:\\X"},
+                    {"C:\\X", ValueType::Text, "C:\\"},
+                    {std::string("C:\\X \0", 6), ValueType::Text, "C:\\X "},
                     // The buffer moves up by its leading blanks, and the NULs behind the text with it.
-                    {std::string("  C:\\X\0", 7), 1, std::string("C:\\X\0\0", 6)},
-                    {"", 1, ""},
-                    {std::string(1024, 'x'), 1, std::string(1023, 'x')},
-                    {std::string(1025, 'x'), 1, ""}};
+                    {std::string("  C:\\X\0", 7), ValueType::Text, std::string("C:\\X\0\0", 6)},
+                    {"", ValueType::Text, ""},
+                    {std::string(1024, 'x'), ValueType::Text, std::string(1023, 'x')},
+                    {std::string(1025, 'x'), ValueType::Text, ""}};
   for (const auto& row : rows) {
     CAPTURE(row.stored.size());
     WashFixture pc;

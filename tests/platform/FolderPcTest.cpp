@@ -46,7 +46,7 @@ void setValue(FolderPc& pc, std::string_view text) {
   RegistryKey key = 0;
   REQUIRE(pc.registry.create(pc.registry.hive(Hive::CurrentUser), "Software\\T", access::All, key) == 0);
   const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-  REQUIRE(pc.registry.set(key, "v", 3, {bytes, text.size()}) == 0);
+  REQUIRE(pc.registry.set(key, "v", ValueType::Binary, {bytes, text.size()}) == 0);
   pc.registry.close(key);
 }
 
@@ -341,7 +341,7 @@ TEST_CASE("keys without rights") {
   registry.close(key);
   constexpr std::uint32_t onlyReading = 0x20019;
   REQUIRE(registry.open(machine, "Software\\Closed", onlyReading, key) == status::Success);
-  CHECK(registry.set(key, "v", 1, {}) == status::AccessDenied);
+  CHECK(registry.set(key, "v", ValueType::Text, {}) == status::AccessDenied);
   registry.close(key);
   CHECK_FALSE(pc.hasKey("HKEY_LOCAL_MACHINE\\Software\\Closed\\New"));
 }

@@ -13,8 +13,8 @@ struct Scratch {
     REQUIRE(key.create(Hive::CurrentUser, path, access::All) == status::Success);
   }
 
-  RegistryStatus set(std::string_view name, std::uint32_t kind, std::string_view data) {
-    return registry.set(key.get(), name, kind,
+  RegistryStatus set(std::string_view name, ValueType of, std::string_view data) {
+    return registry.set(key.get(), name, of,
                         {reinterpret_cast<const std::uint8_t*>(data.data()), data.size()});
   }
   RegistryStatus make(std::string_view below) {
@@ -67,7 +67,7 @@ struct Scratch {
   Registry& registry;
   std::string path;
   OpenKey key;
-  std::uint32_t type = 0;
+  ValueType type{};
   std::uint32_t length = 0;
   std::uint8_t buffer[1024] = {};
 };
@@ -91,7 +91,7 @@ TEST_CASE_TEMPLATE("registry: a key is opened, made with its parents, and refuse
   // Names have no case; making what is there opens it with what it holds; the empty path is the key itself.
   RegistryKey parent = 0;
   REQUIRE(registry.open(user, pc.key() + "\\ONE", access::All, parent) == status::Success);
-  CHECK(registry.set(parent, "kept", 1, {}) == status::Success);
+  CHECK(registry.set(parent, "kept", ValueType::Text, {}) == status::Success);
   RegistryKey same = 0;
   REQUIRE(registry.create(user, pc.key() + "\\one", access::All, same) == status::Success);
   RegistryKey itself = 0;
@@ -139,23 +139,23 @@ TEST_CASE_TEMPLATE("registry: a value keeps its type and its bytes, a text as it
   const bool nt = isNt(pc);
   const struct {
     const char* name;
-    std::uint32_t type;
+    ValueType type;
     std::string data;
     std::string stored = data;
   } rows[] = {
-      {"text", 1, "C:\\Temp\0"s},
-      {"text without a NUL", 1, "1"s, "1\0"s},
-      {"text with a NUL inside", 1, "one\0two\0"s, nt ? "one\0two\0"s : "one\0"s},
-      {"text that ends inside", 1, "one\0tw"s, nt ? "one\0tw\0"s : "one\0"s},
-      {"text beyond ASCII", 1, "\xE9\xDF\xFC\x80\0"s},
-      {"no text at all", 1, ""s, nt ? ""s : "\0"s},
-      {"expand", 2, "%TEMP%\0"s},
-      {"expand without a NUL", 2, "%TEMP%"s, nt ? "%TEMP%\0"s : "%TEMP%"s},
-      {"binary", 3, "\0\1\xFF\0"s},
-      {"no bytes", 3, ""s},
-      {"number", 4, "\1\2\3\4"s},
-      {"several", 7, "a\0b\0\0"s},
-      {"none", 0, "xyz"s},
+      {"text", ValueType::Text, "C:\\Temp\0"s},
+      {"text without a NUL", ValueType::Text, "1"s, "1\0"s},
+      {"text with a NUL inside", ValueType::Text, "one\0two\0"s, nt ? "one\0two\0"s : "one\0"s},
+      {"text that ends inside", ValueType::Text, "one\0tw"s, nt ? "one\0tw\0"s : "one\0"s},
+      {"text beyond ASCII", ValueType::Text, "\xE9\xDF\xFC\x80\0"s},
+      {"no text at all", ValueType::Text, ""s, nt ? ""s : "\0"s},
+      {"expand", ValueType::ExpandText, "%TEMP%\0"s},
+      {"expand without a NUL", ValueType::ExpandText, "%TEMP%"s, nt ? "%TEMP%\0"s : "%TEMP%"s},
+      {"binary", ValueType::Binary, "\0\1\xFF\0"s},
+      {"no bytes", ValueType::Binary, ""s},
+      {"number", ValueType::Number, "\1\2\3\4"s},
+      {"several", ValueType::SeveralTexts, "a\0b\0\0"s},
+      {"none", ValueType::None, "xyz"s},
   };
   for (const auto& row : rows) REQUIRE(scratch.set(row.name, row.type, row.data) == status::Success);
   for (const auto& row : rows) {
@@ -176,10 +176,10 @@ TEST_CASE_TEMPLATE("registry: values are found without case, replaced, told and 
   Pc pc;
   Scratch scratch(pc);
   CHECK(scratch.values().empty());
-  CHECK(scratch.set("Name", 3, "old") == status::Success);
-  CHECK(scratch.set("NAME", 3, "NEW") == status::Success);
-  CHECK(scratch.set("", 3, "unnamed") == status::Success);
-  CHECK(scratch.set(" blank", 3, "B") == status::Success);
+  CHECK(scratch.set("Name", ValueType::Binary, "old") == status::Success);
+  CHECK(scratch.set("NAME", ValueType::Binary, "NEW") == status::Success);
+  CHECK(scratch.set("", ValueType::Binary, "unnamed") == status::Success);
+  CHECK(scratch.set(" blank", ValueType::Binary, "B") == status::Success);
   const std::vector<std::string> told = scratch.values();
   CHECK(sorted(told) == sorted({"NameNEW", "unnamed", " blankB"}));
   CHECK(scratch.values() == told);
@@ -193,7 +193,7 @@ TEST_CASE_TEMPLATE("registry: values are found without case, replaced, told and 
 TEST_CASE_TEMPLATE("registry: a value that does not fit is told as such", Pc, CONTRACT_PCS) {
   Pc pc;
   Scratch scratch(pc);
-  REQUIRE(scratch.set("abcd", 3, "12345678") == status::Success);
+  REQUIRE(scratch.set("abcd", ValueType::Binary, "12345678") == status::Success);
   const auto result = [&scratch](std::uint32_t nameRoom, std::uint32_t dataRoom) {
     char name[16];
     return scratch.registry.enumValue(scratch.key.get(), 0, name, nameRoom, scratch.type, scratch.buffer,

@@ -42,23 +42,23 @@ TEST_CASE("every form of data is read into the stored bytes") {
   struct Row {
     std::string line;
     std::string name;
-    std::uint32_t type;
+    ValueType type;
     std::string data;
   };
   const std::vector<Row> rows = {
-      {"\"a\"=\"text\"\r\n", "A", 1, "text\0"s},
-      {"\"a\"=\"\"\r\n", "a", 1, "\0"s},
-      {"\"a\"=\"C:\\\\W \\\"x\\\"\"\n", "a", 1, "C:\\W \"x\"\0"s},
-      {"\"a\"=\"two\r\nlines\"\r\n", "a", 1, "two\r\nlines\0"s},
-      {"@=\"default\"\r\n", "", 1, "default\0"s},
-      {"\"with \\\\ and = ]\"=\"\"\r\n", "with \\ and = ]", 1, "\0"s},
-      {"\"a\" = dword:0000abCD ; comment\r\n", "a", 4, "\xCD\xAB\0\0"s},
-      {"\"a\"=hex:01,fF\r\n", "a", 3, "\x01\xFF"s},
-      {"\"a\"=hex:\r\n", "a", 3, ""},
-      {"\"a\"=hex(2):25,41,\\\r\n  42,00\r\n", "a", 2, "%AB\0"s},
-      {"\"a\"=hex(0):\r\n", "a", 0, ""},
-      {"\"a\"=hex(8000000f):01\r\n", "a", 0x8000000F, "\x01"},
-      {"\"a\"=\"\xE4\"\r\n", "\x61", 1, "\xE4\0"s},
+      {"\"a\"=\"text\"\r\n", "A", ValueType::Text, "text\0"s},
+      {"\"a\"=\"\"\r\n", "a", ValueType::Text, "\0"s},
+      {"\"a\"=\"C:\\\\W \\\"x\\\"\"\n", "a", ValueType::Text, "C:\\W \"x\"\0"s},
+      {"\"a\"=\"two\r\nlines\"\r\n", "a", ValueType::Text, "two\r\nlines\0"s},
+      {"@=\"default\"\r\n", "", ValueType::Text, "default\0"s},
+      {"\"with \\\\ and = ]\"=\"\"\r\n", "with \\ and = ]", ValueType::Text, "\0"s},
+      {"\"a\" = dword:0000abCD ; comment\r\n", "a", ValueType::Number, "\xCD\xAB\0\0"s},
+      {"\"a\"=hex:01,fF\r\n", "a", ValueType::Binary, "\x01\xFF"s},
+      {"\"a\"=hex:\r\n", "a", ValueType::Binary, ""},
+      {"\"a\"=hex(2):25,41,\\\r\n  42,00\r\n", "a", ValueType::ExpandText, "%AB\0"s},
+      {"\"a\"=hex(0):\r\n", "a", ValueType::None, ""},
+      {"\"a\"=hex(8000000f):01\r\n", "a", ValueType{0x8000000F}, "\x01"},
+      {"\"a\"=\"\xE4\"\r\n", "\x61", ValueType::Text, "\xE4\0"s},
   };
   for (const Row& row : rows) {
     CAPTURE(row.line);
@@ -158,18 +158,18 @@ TEST_CASE("what is written is sorted, stable and reads back to the same bytes") 
   RegistryTree tree;
   RegistryNode& key = *tree.make(Key);
   tree.make("HKEY_CURRENT_USER\\Software\\A");
-  key.values["text"] = {1, "C:\\x \"q\"\0"s};
-  key.values[""] = {1, "\0"s};
-  key.values["no NUL"] = {1, "1"};
-  key.values["two NULs"] = {1, "1\0\0"s};
-  key.values["NUL inside"] = {1, "a\0b\0"s};
-  key.values["lines"] = {1, "a\r\nb\0"s};
-  key.values["name\r\nof lines"] = {1, "x\0"s};
-  key.values["number"] = {4, "\x01\x02\x03\x04"};
-  key.values["short number"] = {4, "\x01"};
-  key.values["expand"] = {2, "%x%\0"s};
-  key.values["long"] = {3, std::string(100, '\x5A')};
-  key.values["odd type"] = {0xFFFF0010, "x"};
+  key.values["text"] = {ValueType::Text, "C:\\x \"q\"\0"s};
+  key.values[""] = {ValueType::Text, "\0"s};
+  key.values["no NUL"] = {ValueType::Text, "1"};
+  key.values["two NULs"] = {ValueType::Text, "1\0\0"s};
+  key.values["NUL inside"] = {ValueType::Text, "a\0b\0"s};
+  key.values["lines"] = {ValueType::Text, "a\r\nb\0"s};
+  key.values["name\r\nof lines"] = {ValueType::Text, "x\0"s};
+  key.values["number"] = {ValueType::Number, "\x01\x02\x03\x04"};
+  key.values["short number"] = {ValueType::Number, "\x01"};
+  key.values["expand"] = {ValueType::ExpandText, "%x%\0"s};
+  key.values["long"] = {ValueType::Binary, std::string(100, '\x5A')};
+  key.values["odd type"] = {ValueType{0xFFFF0010}, "x"};
   const std::string text = writeRegistryText(tree);
 
   RegistryTree again = read(text);

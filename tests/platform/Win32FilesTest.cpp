@@ -90,7 +90,7 @@ TEST_CASE("a folder that the registry names in another alphabet is found, and it
           0);
 
   std::array<std::uint8_t, 1024> data;
-  std::uint32_t type = 0;
+  ValueType type{};
   std::uint32_t length = data.size();
   REQUIRE(registry.query(key.get(), "Cache", type, data.data(), length) == status::Success);
   const std::string told(reinterpret_cast<const char*>(data.data()), length - 1);

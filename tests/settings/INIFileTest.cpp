@@ -28,7 +28,9 @@ struct Settings {
   int get() { return INIFile(pc.platform(), options).GetInfo(); }
   int get2() { return INIFile(pc.platform(), options).GetInfo2(); }
   // With another type than text, as which the bytes would not be kept as they stand.
-  void store(std::string_view name, const std::string& data) { pc.value(Store, name, 3, data); }
+  void store(std::string_view name, const std::string& data) {
+    pc.value(Store, name, ValueType::Binary, data);
+  }
   std::string stored(std::string_view name) { return pc.data(Store, name).value_or("none"); }
 };
 

@@ -45,8 +45,8 @@ std::string dataText(std::string_view data) {
 
 void addKey(Lines& lines, const RegistryNode& node, const std::string& path) {
   for (const auto& [name, value] : node.values) {
-    lines.push_back("value " + path + " \"" + name + "\" = " + std::to_string(value.type) + ":" +
-                    dataText(value.data));
+    lines.push_back("value " + path + " \"" + name + "\" = " +
+                    std::to_string(static_cast<std::uint32_t>(value.type)) + ":" + dataText(value.data));
   }
   for (const auto& [name, key] : node.keys) {
     const std::string below = path + "\\" + name;

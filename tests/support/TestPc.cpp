@@ -144,10 +144,10 @@ void TestPc::key(std::string_view path) {
 }
 
 void TestPc::value(std::string_view key, std::string_view name, std::string_view text) {
-  value(key, name, static_cast<std::uint32_t>(ValueType::Text), std::string(text) + '\0');
+  value(key, name, ValueType::Text, std::string(text) + '\0');
 }
 
-void TestPc::value(std::string_view key, std::string_view name, std::uint32_t type, std::string_view data) {
+void TestPc::value(std::string_view key, std::string_view name, ValueType type, std::string_view data) {
   impl_->makeKey(key).values[name] = {type, std::string(data)};
 }
 

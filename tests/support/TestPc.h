@@ -36,7 +36,7 @@ class TestPc {
   void hide(std::string_view path);
   void key(std::string_view path);
   void value(std::string_view key, std::string_view name, std::string_view text);
-  void value(std::string_view key, std::string_view name, std::uint32_t type, std::string_view data);
+  void value(std::string_view key, std::string_view name, ValueType type, std::string_view data);
   void shellFolder(std::string_view name, std::string_view path);  // a value of the user's Shell Folders key
 
   // Looking.

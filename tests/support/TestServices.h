@@ -247,17 +247,17 @@ class TestRegistry : public Registry {
     return fails(Call::EnumKey, key) ? failure_ : registry_.enumKey(key, index, name, length);
   }
   RegistryStatus enumValue(RegistryKey key, std::uint32_t index, char* name, std::uint32_t& length,
-                           std::uint32_t& type, std::uint8_t* data, std::uint32_t& dataLength) override {
+                           ValueType& type, std::uint8_t* data, std::uint32_t& dataLength) override {
     log_({"  value ", std::to_string(index)});
     if (fails(Call::EnumValue, key)) return failure_;
     return registry_.enumValue(key, index, name, length, type, data, dataLength);
   }
-  RegistryStatus query(RegistryKey key, std::string_view name, std::uint32_t& type, std::uint8_t* data,
+  RegistryStatus query(RegistryKey key, std::string_view name, ValueType& type, std::uint8_t* data,
                        std::uint32_t& dataLength) override {
     log_({"  look at value \"", name, "\""});
     return fails(Call::Query, key) ? failure_ : registry_.query(key, name, type, data, dataLength);
   }
-  RegistryStatus set(RegistryKey key, std::string_view name, std::uint32_t type,
+  RegistryStatus set(RegistryKey key, std::string_view name, ValueType type,
                      std::span<const std::uint8_t> data) override {
     log_({"  set value \"", name, "\""});
     return fails(Call::Set, key) ? failure_ : registry_.set(key, name, type, data);

@@ -61,11 +61,11 @@ TEST_CASE("the information tool is looked for in two places") {
 TEST_CASE("a value is read as text, a number by the digits of its bytes") {
   AboutBox box;
   CHECK(box.read("PATH") == "not ");
-  box.pc.value(First, "Text", 1, std::string("C:\\x\0y", 6));
-  box.pc.value(First, "Number", 4, std::string("\x0A\x00\xF1\x02", 4));
-  box.pc.value(First, "Binary", 3, std::string("ab\0c", 4));
-  box.pc.value(First, "Full", 1, std::string(1024, 'x'));
-  box.pc.value(First, "TooLong", 1, std::string(1025, 'x'));
+  box.pc.value(First, "Text", ValueType::Text, std::string("C:\\x\0y", 6));
+  box.pc.value(First, "Number", ValueType::Number, std::string("\x0A\x00\xF1\x02", 4));
+  box.pc.value(First, "Binary", ValueType::Binary, std::string("ab\0c", 4));
+  box.pc.value(First, "Full", ValueType::Text, std::string(1024, 'x'));
+  box.pc.value(First, "TooLong", ValueType::Text, std::string(1025, 'x'));
   CHECK(box.read("Text") == "read C:\\x");
   CHECK(box.read("Number") == "read &h2F10A");
   CHECK(box.read("Binary") == "read ab");

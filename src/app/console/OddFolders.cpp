@@ -14,7 +14,7 @@ constexpr std::uint32_t Longest = 1024;  // that a wash reads
 
 // Empty where there is nothing to tell.
 std::string oddity(Registry& registry, RegistryKey key, std::string_view name) {
-  std::uint32_t type = 0;
+  ValueType type{};
   std::uint32_t length = 0;
   if (registry.query(key, name, type, nullptr, length) != status::Success) return {};
   if (length > Longest) return "is longer than 1024 bytes, which a wash does not read";

@@ -40,7 +40,7 @@ std::string profileOf(Registry& registry, const std::string& branch, std::string
 std::string textOf(Registry& registry, Hive hive, std::string_view path, std::string_view name) {
   OpenKey key(registry);
   if (key.open(hive, path, access::QueryValue) != status::Success) return {};
-  std::uint32_t type = 0;
+  ValueType type{};
   std::uint32_t length = 0;
   if (registry.query(key.get(), name, type, nullptr, length) != status::Success) return {};
   std::string data(length, '\0');

@@ -49,7 +49,7 @@ RegistryStatus copyName(std::string_view text, char* name, std::uint32_t& length
   return status::Success;
 }
 
-RegistryStatus copyData(const RegistryValue& value, std::uint32_t& type, std::uint8_t* data,
+RegistryStatus copyData(const RegistryValue& value, ValueType& type, std::uint8_t* data,
                         std::uint32_t& dataLength) {
   const std::uint32_t room = dataLength;
   type = value.type;
@@ -169,7 +169,7 @@ RegistryStatus FolderRegistry::enumKey(RegistryKey key, std::uint32_t index, cha
 }
 
 RegistryStatus FolderRegistry::enumValue(RegistryKey key, std::uint32_t index, char* name,
-                                         std::uint32_t& length, std::uint32_t& type, std::uint8_t* data,
+                                         std::uint32_t& length, ValueType& type, std::uint8_t* data,
                                          std::uint32_t& dataLength) {
   const Opened from = resolve(key);
   if (from.status != status::Success) return from.status;
@@ -180,7 +180,7 @@ RegistryStatus FolderRegistry::enumValue(RegistryKey key, std::uint32_t index, c
   return named != status::Success ? named : copyData(value, type, data, dataLength);
 }
 
-RegistryStatus FolderRegistry::query(RegistryKey key, std::string_view name, std::uint32_t& type,
+RegistryStatus FolderRegistry::query(RegistryKey key, std::string_view name, ValueType& type,
                                      std::uint8_t* data, std::uint32_t& dataLength) {
   const Opened from = resolve(key);
   if (from.status != status::Success) return from.status;
@@ -189,7 +189,7 @@ RegistryStatus FolderRegistry::query(RegistryKey key, std::string_view name, std
   return value == nullptr ? status::FileNotFound : copyData(*value, type, data, dataLength);
 }
 
-RegistryStatus FolderRegistry::set(RegistryKey key, std::string_view name, std::uint32_t type,
+RegistryStatus FolderRegistry::set(RegistryKey key, std::string_view name, ValueType type,
                                    std::span<const std::uint8_t> data) {
   const Opened to = resolve(key);
   if (to.status != status::Success) return to.status;

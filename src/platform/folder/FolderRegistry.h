@@ -31,10 +31,10 @@ class FolderRegistry : public Registry {
                         RegistryKey& opened) override;
   RegistryStatus enumKey(RegistryKey key, std::uint32_t index, char* name, std::uint32_t& length) override;
   RegistryStatus enumValue(RegistryKey key, std::uint32_t index, char* name, std::uint32_t& length,
-                           std::uint32_t& type, std::uint8_t* data, std::uint32_t& dataLength) override;
-  RegistryStatus query(RegistryKey key, std::string_view name, std::uint32_t& type, std::uint8_t* data,
+                           ValueType& type, std::uint8_t* data, std::uint32_t& dataLength) override;
+  RegistryStatus query(RegistryKey key, std::string_view name, ValueType& type, std::uint8_t* data,
                        std::uint32_t& dataLength) override;
-  RegistryStatus set(RegistryKey key, std::string_view name, std::uint32_t type,
+  RegistryStatus set(RegistryKey key, std::string_view name, ValueType type,
                      std::span<const std::uint8_t> data) override;
   RegistryStatus deleteValue(RegistryKey key, std::string_view name) override;
   RegistryStatus deleteKey(RegistryKey key, std::string_view path) override;

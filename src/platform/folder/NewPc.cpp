@@ -96,7 +96,7 @@ void createPc(const std::string& folder) {
     makeFolder(*root, row.path);
     std::string text(row.path);
     text += '\0';
-    key.values[row.name] = {static_cast<std::uint32_t>(ValueType::Text), std::move(text)};
+    key.values[row.name] = {ValueType::Text, std::move(text)};
   }
   for (const std::string_view path : OtherFolders) makeFolder(*root, path);
   replaceHostText(*root, FolderPc::RegistryName, writeRegistryText(registry));

@@ -182,12 +182,12 @@ class Reader {
 
   RegistryValue readData() {
     if (peek() == '"') {
-      RegistryValue value{static_cast<std::uint32_t>(ValueType::Text), readString()};
+      RegistryValue value{ValueType::Text, readString()};
       value.data += '\0';
       return value;
     }
-    if (take("dword:")) return {static_cast<std::uint32_t>(ValueType::Number), readNumber()};
-    if (take("hex:")) return {static_cast<std::uint32_t>(ValueType::Binary), readBytes()};
+    if (take("dword:")) return {ValueType::Number, readNumber()};
+    if (take("hex:")) return {ValueType::Binary, readBytes()};
     if (!take("hex(")) refuse("the data of a value is of no known form");
     std::uint32_t type = 0;
     int digits = 0;
@@ -199,7 +199,8 @@ class Reader {
     if (digits == 0 || !take("):")) refuse("the type of a value is cut off");
     std::string bytes = readBytes();
     // The newer form keeps texts in 16-bit characters.
-    return {type, isNewForm_ && isText(type) ? ansiFromUtf8(utf8FromUtf16(bytes)) : std::move(bytes)};
+    return {ValueType{type},
+            isNewForm_ && isText(ValueType{type}) ? ansiFromUtf8(utf8FromUtf16(bytes)) : std::move(bytes)};
   }
 
   std::string readNumber() {

@@ -75,7 +75,7 @@ class NamedItems {
 };
 
 struct RegistryValue {
-  std::uint32_t type = 0;
+  ValueType type{};
   std::string data;  // as stored: a text ends in its NUL, if it was stored with one
 
   bool operator==(const RegistryValue&) const = default;

@@ -34,7 +34,7 @@ void appendBytes(std::string& out, std::string_view data, std::size_t lineStart)
 
 // A text and the NUL behind it, with nothing in it that a line cannot hold.
 bool isPlainText(const RegistryValue& value) {
-  return value.type == static_cast<std::uint32_t>(ValueType::Text) && value.data.ends_with('\0') &&
+  return value.type == ValueType::Text && value.data.ends_with('\0') &&
          std::none_of(value.data.begin(), value.data.end() - 1,
                       [](char c) { return static_cast<unsigned char>(c) < 32; });
 }
@@ -55,16 +55,17 @@ void appendValue(std::string& out, const std::string& name, const RegistryValue&
   out += '=';
   if (isPlainText(value)) {
     appendQuoted(out, std::string_view(value.data).substr(0, value.data.size() - 1));
-  } else if (value.type == static_cast<std::uint32_t>(ValueType::Number) && value.data.size() == 4) {
+  } else if (value.type == ValueType::Number && value.data.size() == 4) {
     out += "dword:";
     appendHex(out, numberOf(value.data), 8);
   } else {
     out += "hex";
-    if (value.type != static_cast<std::uint32_t>(ValueType::Binary)) {
+    if (value.type != ValueType::Binary) {
+      const auto type = static_cast<std::uint32_t>(value.type);
       int digits = 1;
-      while (digits < 8 && value.type >> (digits * 4) != 0) ++digits;
+      while (digits < 8 && type >> (digits * 4) != 0) ++digits;
       out += '(';
-      appendHex(out, value.type, digits);
+      appendHex(out, type, digits);
       out += ')';
     }
     out += ':';

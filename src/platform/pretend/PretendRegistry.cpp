@@ -67,7 +67,7 @@ class PretendRegistry::BeneathKey {
   }
   std::vector<std::string> values() {
     return allNames(LongestValueName, [this](std::uint32_t index, char* name, std::uint32_t& length) {
-      std::uint32_t type = 0;
+      ValueType type{};
       std::uint32_t dataLength = 0;
       return registry_.enumValue(key_, index, name, length, type, nullptr, dataLength);
     });
@@ -236,7 +236,7 @@ RegistryStatus PretendRegistry::enumKey(RegistryKey key, std::uint32_t index, ch
 }
 
 RegistryStatus PretendRegistry::enumValue(RegistryKey key, std::uint32_t index, char* name,
-                                          std::uint32_t& length, std::uint32_t& type, std::uint8_t* data,
+                                          std::uint32_t& length, ValueType& type, std::uint8_t* data,
                                           std::uint32_t& dataLength) {
   const Opened from = resolve(key);
   if (from.status != status::Success) return from.status;
@@ -251,7 +251,7 @@ RegistryStatus PretendRegistry::enumValue(RegistryKey key, std::uint32_t index, 
   return named != status::Success ? named : query(key, valueName, type, data, dataLength);
 }
 
-RegistryStatus PretendRegistry::query(RegistryKey key, std::string_view name, std::uint32_t& type,
+RegistryStatus PretendRegistry::query(RegistryKey key, std::string_view name, ValueType& type,
                                       std::uint8_t* data, std::uint32_t& dataLength) {
   const Opened from = resolve(key);
   if (from.status != status::Success) return from.status;
@@ -268,7 +268,7 @@ RegistryStatus PretendRegistry::query(RegistryKey key, std::string_view name, st
   return beneath_.query(from.slot.beneath, name, type, data, dataLength);
 }
 
-RegistryStatus PretendRegistry::set(RegistryKey key, std::string_view name, std::uint32_t type,
+RegistryStatus PretendRegistry::set(RegistryKey key, std::string_view name, ValueType type,
                                     std::span<const std::uint8_t> data) {
   const Opened to = resolve(key);
   if (to.status != status::Success) return to.status;
@@ -276,7 +276,7 @@ RegistryStatus PretendRegistry::set(RegistryKey key, std::string_view name, std:
   const RegistryStatus loaded = loadContent(*to.slot.node);
   if (loaded != status::Success) return loaded;
   name = StripAtNull(name);
-  to.slot.node->content->values.make(upper(name), name) = 
+  to.slot.node->content->values.make(upper(name), name) =
       Data{type, storedData({data.begin(), data.end()}, type, is9x_)};
   return status::Success;
 }

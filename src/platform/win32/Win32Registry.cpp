@@ -88,7 +88,7 @@ RegistryStatus Win32Registry::enumKey(RegistryKey key, std::uint32_t index, char
 // The wide call tells the name and the ANSI one the data, which is told as the code page's text: only names are asked for
 // so, and data is queried.
 RegistryStatus Win32Registry::enumValue(RegistryKey key, std::uint32_t index, char* name,
-                                        std::uint32_t& length, std::uint32_t& type, std::uint8_t* data,
+                                        std::uint32_t& length, ValueType& type, std::uint8_t* data,
                                         std::uint32_t& dataLength) {
   if (isNtFamily()) {
     std::array<wchar_t, NameRoom> wideName;
@@ -105,7 +105,7 @@ RegistryStatus Win32Registry::enumValue(RegistryKey key, std::uint32_t index, ch
     const LONG read =
         RegEnumValueA(handleOf(key), index, ansiName.data(), &room, nullptr, &kind, data, &size);
     if (read == ERROR_SUCCESS) {
-      type = kind;
+      type = ValueType{kind};
       dataLength = size;
     }
     return read;
@@ -116,21 +116,21 @@ RegistryStatus Win32Registry::enumValue(RegistryKey key, std::uint32_t index, ch
   const LONG result = RegEnumValueA(handleOf(key), index, name, &room, nullptr, &kind, data, &size);
   if (result == ERROR_SUCCESS) {
     length = room;
-    type = kind;
+    type = ValueType{kind};
     dataLength = size;
   }
   return result;
 }
 
-RegistryStatus Win32Registry::query(RegistryKey key, std::string_view name, std::uint32_t& type,
+RegistryStatus Win32Registry::query(RegistryKey key, std::string_view name, ValueType& type,
                                     std::uint8_t* data, std::uint32_t& dataLength) {
   DWORD kind = 0;
   DWORD size = dataLength;
   const LONG result = RegQueryValueExA(handleOf(key), std::string(name).c_str(), nullptr, &kind, data, &size);
   if (result != ERROR_SUCCESS && result != ERROR_MORE_DATA) return result;
-  type = kind;
+  type = ValueType{kind};
   const std::uint32_t room = std::exchange(dataLength, size);
-  if (!isNtFamily() || !isText(kind)) return result;
+  if (!isNtFamily() || !isText(type)) return result;
   const std::optional<std::string> text = beyondCodePage(handleOf(key), wide(name));
   if (!text) return result;
   dataLength = static_cast<std::uint32_t>(text->size());
@@ -140,17 +140,17 @@ RegistryStatus Win32Registry::query(RegistryKey key, std::string_view name, std:
   return ERROR_SUCCESS;
 }
 
-RegistryStatus Win32Registry::set(RegistryKey key, std::string_view name, std::uint32_t type,
+RegistryStatus Win32Registry::set(RegistryKey key, std::string_view name, ValueType type,
                                   std::span<const std::uint8_t> data) {
   const std::string bytes(data.begin(), data.end());
   if (isNtFamily() && isText(type)) {
     const std::wstring text = untoldWide(bytes);
     if (text != wide(bytes) && told(text) == bytes)
-      return RegSetValueExW(handleOf(key), wide(name).c_str(), 0, type,
+      return RegSetValueExW(handleOf(key), wide(name).c_str(), 0, static_cast<DWORD>(type),
                             reinterpret_cast<const BYTE*>(text.c_str()),
                             static_cast<DWORD>(text.size() * sizeof(wchar_t)));
   }
-  return RegSetValueExA(handleOf(key), std::string(name).c_str(), 0, type,
+  return RegSetValueExA(handleOf(key), std::string(name).c_str(), 0, static_cast<DWORD>(type),
                         reinterpret_cast<const BYTE*>(bytes.c_str()), static_cast<DWORD>(data.size()));
 }
 
