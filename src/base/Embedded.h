@@ -1,5 +1,4 @@
-// A file that the build put into the program (zub_embed in cmake/Embed.cmake declares the functions that list
-// them).
+// A file that the build put into the program (zub_embed in cmake/Embed.cmake declares the functions that list them).
 #pragma once
 
 #include <cstddef>

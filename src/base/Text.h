@@ -42,8 +42,7 @@ std::string withBackslash(std::string_view path);
 // own backslash, and stay.
 std::string JoinPath(std::string_view folder, std::string_view path);
 
-// The number that a text begins with after blanks ("7 times" is 7), 0 where there is none. Clamped to 32
-// bits.
+// The number that a text begins with after blanks ("7 times" is 7), 0 where there is none. Clamped to 32 bits.
 std::int32_t leadingNumber(std::string_view text);
 
 }  // namespace zub

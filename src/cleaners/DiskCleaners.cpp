@@ -24,8 +24,7 @@ void CleanTempFolder(Engine& engine) {
   std::string temp = engine.pc.folders->temp(TempRoom);
   if (temp.empty()) return;
   temp.pop_back();
-  // The guard looks at the path without its last backslash: "C:" passes, three characters and less than two
-  // do not.
+  // The guard looks at the path without its last backslash: "C:" passes, three characters and less than two do not.
   if (temp.size() == 3 || temp.size() < 2) {
     engine.userFunctions.ShowMessage("Your temp folder is " + temp + "which is the root folder", 0,
                                      "Cannot delete folder", true);

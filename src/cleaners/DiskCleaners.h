@@ -1,5 +1,4 @@
-// Disk space rather than history: the temporary folder, the recycle bins, and the files that the disk checker
-// leaves.
+// Disk space rather than history: the temporary folder, the recycle bins, and the files that the disk checker leaves.
 #pragma once
 
 #include <string>

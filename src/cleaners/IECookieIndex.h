@@ -1,5 +1,4 @@
-// Internet Explorer's index of its cookies, index.dat, as far as it tells which site a cookie file belongs
-// to.
+// Internet Explorer's index of its cookies, index.dat, as far as it tells which site a cookie file belongs to.
 //
 // The file is taken as a row of chunks of 256 bytes behind its header and tables; the length that a record
 // tells of itself is not followed. A record that does not begin at a chunk is not seen.

@@ -23,8 +23,7 @@ struct NetscapeProfile {
 };
 
 std::string netscapeRegistryFile(Engine& engine);
-// The profiles that the browser's registry file names and that have a cookie file, each handed on as it is
-// found.
+// The profiles that the browser's registry file names and that have a cookie file, each handed on as it is found.
 void findNetscapeProfiles(Files& files, const std::string& registryFile,
                           const std::function<void(NetscapeProfile)>& found);
 

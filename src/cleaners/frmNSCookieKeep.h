@@ -1,6 +1,5 @@
-// "Netscape Cookie Manger": finds the profiles, shows the cookies of one as a check list and keeps the ticked
-// ones in the profile's keep file; a wash rewrites the cookie files by it. The window stays loaded from its
-// first use on.
+// "Netscape Cookie Manger": finds the profiles, shows the cookies of one as a check list and keeps the ticked ones in
+// the profile's keep file; a wash rewrites the cookie files by it. The window stays loaded from its first use on.
 //
 // A failure of a file ends a routine silently, with what it did so far. Lists that did not come whole are never
 // saved over a keep file or a cookie file. Routines that run while no profile is chosen write their keep file

@@ -81,9 +81,8 @@ RegistryHelper::Walk RegistryHelper::walk(RegistryKey key, Enumerate next, std::
   return walk;
 }
 
-// One level deep: a subkey is tried once, and whether it may have subkeys of its own the PC decides. All names
-// met so far are tried, in their order; where the walk saw all that is there, the others can only fail, and are
-// left out.
+// One level deep: a subkey is tried once, and whether it may have subkeys of its own the PC decides. All names met so
+// far are tried, in their order; where the walk saw all that is there, the others can only fail, and are left out.
 int RegistryHelper::wipe(RegistryKey key, Walk keys, Walk values) {
   const auto forEach = [](Walk& walk, const NameList& names, const auto& remove) {
     if (!walk.complete()) {

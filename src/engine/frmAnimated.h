@@ -1,6 +1,5 @@
-// The progress window of a wash, "ZUB - Task Removal Status": a board of twelve tasks, the animation, what is
-// removed now, and at the end the result. It removes nothing itself; all that it shows is set from outside or
-// by its timers.
+// The progress window of a wash, "ZUB - Task Removal Status": a board of twelve tasks, the animation, what is removed
+// now, and at the end the result. It removes nothing itself; all that it shows is set from outside or by its timers.
 #pragma once
 
 #include <array>
@@ -85,8 +84,7 @@ class frmAnimated {
   void CloseWindowTimer_Tick();
   void cmdFinish_Click();
   void cmdLog_Click();
-  // Ends the wash as a state: gives control back to the main window and, with chkCloseAfterWash, ends the
-  // process.
+  // Ends the wash as a state: gives control back to the main window and, with chkCloseAfterWash, ends the process.
   void Unload();
 
  private:

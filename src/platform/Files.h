@@ -4,10 +4,9 @@
 //
 // Names are told as platform/ToldName.h says, and each told name leads back to exactly its own entry.
 //
-// A link (a junction too) is a file of length 0; removing it removes the link. Nothing that walks enters one. A
-// path may go through a link to a folder where the PC's own system follows it; on a PC in a folder it leads
-// nowhere (70). Other reparse points, such as files kept in a cloud, are the files and folders that they look
-// like.
+// A link (a junction too) is a file of length 0; removing it removes the link. Nothing that walks enters one. A path
+// may go through a link to a folder where the PC's own system follows it; on a PC in a folder it leads nowhere (70).
+// Other reparse points, such as files kept in a cloud, are the files and folders that they look like.
 //
 // What fails throws RuntimeError:
 //   52 a name that no file can have          53 no such file          57 device failure          61 disk full
@@ -107,8 +106,7 @@ class Files {
 
   // The attribute bits, or attribute::Invalid. Does not fail.
   virtual std::uint32_t attributes(std::string_view path) = 0;
-  // Clears all attributes. 53 for a missing file also where its folder is missing or the name can name no
-  // file.
+  // Clears all attributes. 53 for a missing file also where its folder is missing or the name can name no file.
   virtual void resetAttributes(std::string_view path) = 0;
 
   virtual std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) = 0;

@@ -1,7 +1,6 @@
-// The registry as its nine calls, each with the status that the system gives it: the logic is told in them.
-// Names and paths are ANSI text, found without regard to case and kept as written. A path is relative to an
-// open key or a hive, its parts joined by one backslash, without one at its ends; the empty path is the key
-// itself.
+// The registry as its nine calls, each with the status that the system gives it: the logic is told in them. Names and
+// paths are ANSI text, found without regard to case and kept as written. A path is relative to an open key or a hive,
+// its parts joined by one backslash, without one at its ends; the empty path is the key itself.
 #pragma once
 
 #include <array>

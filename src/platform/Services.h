@@ -67,8 +67,8 @@ class Shell {
   // The folders whose content goes when the bins are emptied; some may be missing.
   virtual std::vector<std::string> recycleBins() = 0;
   virtual void updateRecycleBinIcon() = 0;
-  virtual void open(
-      std::string_view document) = 0;  // a file or an address, with its own program; nothing is told
+  // A file or an address, with its own program; nothing is told.
+  virtual void open(std::string_view document) = 0;
   // A program as the registry may name it: its path, or a path in quotes, with arguments behind; variables of the
   // environment between "%". RuntimeError 53 where it cannot be started.
   virtual void start(std::string_view program) = 0;

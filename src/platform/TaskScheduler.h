@@ -46,8 +46,7 @@ class ScheduleTasks {
   virtual ~ScheduleTasks() = default;
   virtual void refresh() = 0;  // reads the system's list of tasks again
   virtual int count() = 0;
-  // In stable order. The task stays the property of the collection and is valid until the next refresh or
-  // add.
+  // In stable order. The task stays the property of the collection and is valid until the next refresh or add.
   virtual ScheduleTask& at(int position) = 0;
   virtual ScheduleTask& add(std::string_view name) = 0;
 };

@@ -1,6 +1,5 @@
-// Rows of the plugin editor's two lists, and the boxes that a row is made from and shown in. The boxes cut a
-// row more forgivingly than a run does: markers count in any case, and a value's name begins at the first
-// "=".
+// Rows of the plugin editor's two lists, and the boxes that a row is made from and shown in. The boxes cut a row more
+// forgivingly than a run does: markers count in any case, and a value's name begins at the first "=".
 #pragma once
 
 #include <optional>

@@ -68,8 +68,7 @@ class frmPluginEditor {
 
   void NewPlugin();
   void ShowPlugin(std::string_view name);
-  // `base` is the files' path without their extension. Silent where a file is missing: what was read before
-  // it stays.
+  // `base` is the files' path without their extension. Silent where a file is missing: what was read before it stays.
   void OpenFiles(std::string_view base);
 
   void cmdOK_Click();

@@ -1,6 +1,5 @@
-// The plain state of what a window shows. A form is made of these; a view compares them with what it last
-// showed. They know nothing of windows. Handlers are plain functions that the form's owner sets; an empty one
-// does nothing.
+// The plain state of what a window shows. A form is made of these; a view compares them with what it last showed.
+// They know nothing of windows. Handlers are plain functions that the form's owner sets; an empty one does nothing.
 #pragma once
 
 #include <cstdint>

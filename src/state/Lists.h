@@ -9,8 +9,7 @@
 
 namespace zub {
 
-// A list of rows, each with a check mark that a plain list does not show. The current row is -1 where there
-// is none.
+// A list of rows, each with a check mark that a plain list does not show. The current row is -1 where there is none.
 class ListRows {
  public:
   Handler Click;  // raised when a row becomes current, by the user or by code
@@ -72,8 +71,7 @@ class Combo {
   void Clear();
 
   int ListIndex() const { return current_; }
-  // Chooses a row and raises Click; -1 chooses none and raises nothing. RuntimeError 380 where there is no
-  // such row.
+  // Chooses a row and raises Click; -1 chooses none and raises nothing. RuntimeError 380 where there is no such row.
   void ListIndex(int index);
   const std::string& Text() const { return text_; }
   void type(std::string_view text);  // the row that reads just so becomes current, else none; raises Change

@@ -56,8 +56,7 @@ struct Command {
 
 std::span<const Command> commands();
 
-// Runs a command, and tells what failed on the PC's disks without a word: then the status is LeftBehind at the
-// least.
+// Runs a command, and tells what failed on the PC's disks without a word: then the status is LeftBehind at the least.
 int runCommand(CommandContext& context, int (*command)(CommandContext& context));
 
 // The number of a listed row, from 1; 0 where the word is none.

@@ -37,9 +37,8 @@ class FolderPc {
   // All services; the event loop and the message box are the caller's, and outlive the platform.
   Platform platform(EventLoop& events, Messages& messages);
 
-  // Makes what has changed in registry and facts lasting. Each text is tried; PcError names all that could not
-  // be saved, a text of tasks that failed earlier too. Where it fails the old text stands, and a later save
-  // tries again.
+  // Makes what has changed in registry and facts lasting. Each text is tried; PcError names all that could not be
+  // saved, a text of tasks that failed earlier too. Where it fails the old text stands, and a later save tries again.
   void save();
 
   // What failed on the drives so far and that nobody may have told.

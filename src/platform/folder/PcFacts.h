@@ -1,6 +1,5 @@
-// The facts of a PC in a folder that are no files and no registry: the text pc.txt, one "name = value" a
-// line. The lines are kept as they stand, with their comments, so that a save changes only what the program
-// changed.
+// The facts of a PC in a folder that are no files and no registry: the text pc.txt, one "name = value" a line. The
+// lines are kept as they stand, with their comments, so that a save changes only what the program changed.
 #pragma once
 
 #include <map>

@@ -15,8 +15,7 @@ namespace zub {
 // stands above them.
 RegistryTree readRegistryText(std::string_view bytes, const std::string& file);
 
-// Always "REGEDIT4", 8-bit, CR LF, keys and values in the order of their names: the same text for the same
-// content.
+// Always "REGEDIT4", 8-bit, CR LF, keys and values in the order of their names: the same text for the same content.
 std::string writeRegistryText(RegistryTree& tree);
 
 // Whether the text would have at most this many bytes.

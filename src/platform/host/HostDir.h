@@ -48,8 +48,7 @@ struct HostEntry {
   bool complete = false;
 };
 
-// A listing in the host's order, without "." and "..". It has a handle of its own, so it outlives the
-// HostDir.
+// A listing in the host's order, without "." and "..". It has a handle of its own, so it outlives the HostDir.
 class HostList {
  public:
   virtual ~HostList() = default;

@@ -39,8 +39,7 @@ std::wstring fullPath(const std::wstring& path) {
   return full;
 }
 
-// What Windows reads into a path (the current folder, dots, slashes) is in it, and the calls take it as it
-// stands.
+// What Windows reads into a path (the current folder, dots, slashes) is in it, and the calls take it as it stands.
 std::wstring wholePath(const std::wstring& given) {
   const std::wstring full = fullPath(given);
   if (full.empty() || full.starts_with(L"\\\\.\\")) refuse();

@@ -37,8 +37,7 @@ SystemPath filePath(std::string_view text) {
   return path;
 }
 
-// The attributes at a path; nothing where it is known that it leads nowhere, Invalid where it cannot be looked
-// at.
+// The attributes at a path; nothing where it is known that it leads nowhere, Invalid where it cannot be looked at.
 std::optional<std::uint32_t> look(std::string_view text) {
   try {
     const SystemPath path(text);

@@ -16,8 +16,7 @@ std::string expanded(const std::string& text) {
 
 }  // namespace
 
-// The recycle bin's calls came with Internet Explorer 4; where they are missing the program starts all the
-// same.
+// The recycle bin's calls came with Internet Explorer 4; where they are missing the program starts all the same.
 std::int32_t Win32Shell::emptyRecycleBin(std::uint32_t flags) {
   const auto call = loadedCall<HRESULT(WINAPI*)(HWND, LPCSTR, DWORD)>("shell32.dll", "SHEmptyRecycleBinA");
   return call != nullptr ? call(nullptr, "", flags) : E_NOTIMPL;

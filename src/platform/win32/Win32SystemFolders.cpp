@@ -6,8 +6,7 @@
 namespace zub {
 namespace {
 
-// What a call that fills a buffer tells on this family; empty where it fails, as one does whose room is too
-// small.
+// What a call that fills a buffer tells on this family; empty where it fails, as one does whose room is too small.
 template <class Wide, class Ansi>
 std::string pathFrom(Wide wideCall, Ansi ansiCall) {
   std::wstring path(MAX_PATH, L'\0');

@@ -12,8 +12,7 @@ class Bitmap {
  public:
   // The empty picture, 0 by 0.
   Bitmap() = default;
-  // Up to 4096 pixels a side. Anything that is no such file, one that is cut short included, gives the empty
-  // picture.
+  // Up to 4096 pixels a side. Anything that is no such file, one that is cut short included, gives the empty picture.
   explicit Bitmap(std::span<const unsigned char> file);
 
   int width() const { return width_; }

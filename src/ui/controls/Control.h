@@ -100,8 +100,7 @@ class Control {
   // The frame that tells that the control has the keyboard; empty for a control that tells nothing.
   virtual Box focusPlace() const { return {}; }
 
-  // Input. A disabled control gets none of it. The host keeps the mouse with a control while a button is down
-  // on it.
+  // Input. A disabled control gets none of it. The host keeps the mouse with a control while a button is down on it.
   void mouseDown(Mouse mouse);
   void mouseMove(Mouse mouse);
   void mouseUp(Mouse mouse);

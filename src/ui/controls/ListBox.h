@@ -1,6 +1,5 @@
-// The picture panel of ten items, each with a check box, on a panel that a hand-made scroll bar moves.
-// Number, pictures and places of the items are fixed; what an item means, the owner knows by its index, 0
-// to 9.
+// The picture panel of ten items, each with a check box, on a panel that a hand-made scroll bar moves. Number,
+// pictures and places of the items are fixed; what an item means, the owner knows by its index, 0 to 9.
 #pragma once
 
 #include <array>
