@@ -318,9 +318,9 @@ TEST_CASE("the common bins of fixed drives are emptied and stay; of the others t
     PcFacts facts("");
     facts.family = row.family;
     facts.user = row.user;
-    FolderShell shell(pc.platform().files, pc.platform().drives, facts);
+    FolderShell shell(*pc.platform().files, *pc.platform().drives, facts);
     CHECK(shell.emptyRecycleBin(7) == 0);
-    CHECK_FALSE(pc.platform().files.find("C:\\Recycled\\*"));
+    CHECK_FALSE(pc.platform().files->find("C:\\Recycled\\*"));
     CHECK(pc.hasFolder("C:\\Recycled"));
     for (const std::string& file : ofUser) CHECK(pc.hasFile(file) != row.userBinEmptied);
     for (const std::string& file : ofOthers) CHECK(pc.hasFile(file));
@@ -330,7 +330,7 @@ TEST_CASE("the common bins of fixed drives are emptied and stay; of the others t
 TEST_CASE("keys without rights") {
   TestPc pc({"family = nt", "no rights = HKEY_LOCAL_MACHINE\\Software\\Closed"});
   pc.value("HKEY_LOCAL_MACHINE\\Software\\Closed\\Below", "v", "x");
-  Registry& registry = pc.platform().registry;
+  Registry& registry = *pc.platform().registry;
   const RegistryKey machine = registry.hive(Hive::LocalMachine);
   RegistryKey key = 0;
   CHECK(registry.open(machine, "software\\closed", access::All, key) == status::AccessDenied);
@@ -349,7 +349,7 @@ TEST_CASE("keys without rights") {
 TEST_CASE("an open key that is deleted answers so, and its handle can be closed") {
   TestPc pc;
   pc.value("HKEY_CURRENT_USER\\A\\B", "v", "x");
-  Registry& registry = pc.platform().registry;
+  Registry& registry = *pc.platform().registry;
   RegistryKey inner = 0;
   REQUIRE(registry.open(registry.hive(Hive::CurrentUser), "A\\B", access::All, inner) == status::Success);
   REQUIRE(registry.deleteKey(registry.hive(Hive::CurrentUser), "A") == status::Success);

@@ -62,7 +62,7 @@ int runCommand(CommandContext& context, int (*command)(CommandContext& context))
 }
 
 void CommandContext::needAlone() const {
-  if (pc.platform().process.otherInstanceRuns()) throw BusyError();
+  if (pc.platform().process->otherInstanceRuns()) throw BusyError();
 }
 
 void CommandContext::needNoArguments(std::string_view command) const {

@@ -89,8 +89,8 @@ bool FolderPc::isOutdated() {
 }
 
 Platform FolderPc::platform(EventLoop& events, Messages& messages) {
-  return {codePage, registry, files,  drives,   folders, restart, shell,
-          clock,    process,  events, messages, tray,    tasks};
+  return {&codePage, &registry, &files,  &drives,   &folders, &restart, &shell,
+          &clock,    &process,  &events, &messages, &tray,    &tasks};
 }
 
 // An export of others is kept: what changed can be told against it, and taken back.
