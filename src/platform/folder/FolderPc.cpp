@@ -76,7 +76,7 @@ FolderPc::FolderPc(Opened opened, std::string commandLine, DamagedTasks damaged)
       facts_(opened.texts.facts.value_or("")),
       rules_{facts_.family, facts_.noRights},
       watched_(watched(*root_, failures_)),
-      disk_(*watched_, facts_),
+      disk_(*watched_, facts_, failures_),
       registry(tree_, rules_),
       files(disk_, facts_),
       drives(disk_, facts_),
