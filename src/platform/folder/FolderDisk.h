@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/folder/DriveFolders.h"
 #include "platform/folder/FolderNames.h"
 #include "platform/folder/FolderPath.h"
 #include "platform/folder/PcFacts.h"
@@ -19,8 +20,8 @@ namespace zub {
 class FolderDisk {
  public:
   // All outlive the disk.
-  FolderDisk(HostDir& root, const PcFacts& facts, HostFailures& failures)
-      : root_(root), facts_(facts), failures_(failures) {}
+  FolderDisk(DriveFolders& folders, const PcFacts& facts, HostFailures& failures)
+      : folders_(folders), facts_(facts), failures_(failures) {}
 
   // Where a path leads. The pointer is good until the next call on the disk.
   struct Place {
@@ -47,9 +48,7 @@ class FolderDisk {
   // Forgets the names. For those who have made an entry.
   void forgetNames() { names_.clear(); }
 
-  // In the order of their letters: the directories named by one upper-case letter and the drives told by the
-  // facts.
-  std::vector<char> drives();
+  std::vector<char> drives() { return folders_.letters(); }
 
  private:
   struct Open {
@@ -71,7 +70,7 @@ class FolderDisk {
   void tellNoShortName(std::string_view name);
   std::size_t sharedParts(const FolderPath& path, std::size_t parts) const;
 
-  HostDir& root_;
+  DriveFolders& folders_;
   const PcFacts& facts_;
   HostFailures& failures_;
   std::vector<Open> open_;                    // the drive, then folder by folder
