@@ -5,7 +5,6 @@
 namespace zub {
 namespace {
 
-constexpr std::string_view storeKey = "Software\\ZUB";
 constexpr std::size_t DigitSize = 2;
 constexpr std::size_t TextSize = 256;
 

@@ -47,6 +47,7 @@ struct TimedPc : ConsolePc {
   }
   Platform& platform() override { return timed; }
   void save() override {}
+  bool saveChanges(bool, std::string_view) override { return false; }
   std::vector<std::string> failures() const override { return {}; }
   std::vector<std::string> oddities() override { return {}; }
   void needWashable() override {}

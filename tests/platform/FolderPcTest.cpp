@@ -116,7 +116,7 @@ TEST_CASE("drives lie in folders of the PC's folder, or where the facts tell") {
   const auto root = openHostDir(temp.path() + "/pc");
   const auto disk = openHostDir(temp.path() + "/disk");
   writeHostFile(*disk, "F", "x");
-  for (const char* folder : {"E", "d", "g", "not a drive"}) REQUIRE(root->makeDir(folder) == HostError::None);
+  for (const char* folder : {"E", "not a drive"}) REQUIRE(root->makeDir(folder) == HostError::None);
   writeHostFile(*root, "pc.txt",
                 "drive C = fixed at ../disk\ndrive D = removable at " + temp.path() +
                     "/disk\ndrive F = fixed at gone\n");
@@ -128,10 +128,9 @@ TEST_CASE("drives lie in folders of the PC's folder, or where the facts tell") {
   CHECK(pc.driveFolders().withDisk() == std::vector<char>{'C', 'D', 'E'});
   CHECK(failure([&] { pc.files.open("F:\\f", OpenMode::Input); }) == 71);
   const std::vector<std::string> oddities = pc.driveFolders().oddities();
-  REQUIRE(oddities.size() == 3);
-  CHECK(contains(oddities[0], "\"g\" is no drive"));
-  CHECK(contains(oddities[1], "drive F: holds no disk"));
-  CHECK(contains(oddities[2], "drive E: is empty"));
+  REQUIRE(oddities.size() == 2);
+  CHECK(contains(oddities[0], "drive F: holds no disk"));
+  CHECK(contains(oddities[1], "drive E: is empty"));
   pc.files.remove("C:\\f");
   CHECK_FALSE(pc.files.fileExists("D:\\F"));
 }

@@ -31,6 +31,7 @@ class ThisPc : public ConsolePc {
 
   Platform& platform() override { return platform_; }
   void save() override {}  // the system keeps what was changed
+  bool saveChanges(bool, std::string_view) override { return false; }
   std::vector<std::string> failures() const override { return {}; }
   std::vector<std::string> oddities() override { return {}; }
   void needWashable() override {}  // what runs is as it is

@@ -15,6 +15,7 @@ namespace {
 std::optional<PcError> saved(ConsolePc& pc) {
   try {
     pc.save();
+    pc.saveChanges(false, {});
   } catch (const PcError& failure) {
     return failure;
   }

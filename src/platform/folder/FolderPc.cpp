@@ -55,12 +55,13 @@ FolderPc::FolderPc(Opened opened, const std::string& folder, std::string command
                    const std::string& user)
     : root_(std::move(opened.root)),
       textsRead_(opened.texts.mark()),
+      isExport_(opened.texts.registry && !isOwnRegistryText(*opened.texts.registry)),
       tree_(readRegistry(opened.texts.registry)),
       facts_(opened.texts.facts.value_or("")),
       rules_(rulesFor(tree_, facts_, user)),
       watched_(watched(*root_, failures_)),
       driveFolders_(*watched_, folder, facts_, failures_),
-      disk_(driveFolders_, facts_),
+      disk_(driveFolders_, facts_, failures_),
       registry(tree_, rules_),
       files(disk_, facts_),
       drives(disk_, facts_),
@@ -92,6 +93,14 @@ Platform FolderPc::platform(EventLoop& events, Messages& messages) {
           &clock,    &process,  &events, &messages, &tray,    &tasks};
 }
 
+// An export of others is kept: what changed can be told against it, and taken back.
+void FolderPc::saveRegistry() {
+  if (isExport_) replaceHostText(*root_, OriginalName, readHostText(*root_, RegistryName).value_or(""));
+  isExport_ = false;
+  replaceHostText(*root_, RegistryName, writeRegistryText(tree_));
+  registry.changed(false);
+}
+
 void FolderPc::save() {
   std::string failures;
   const auto tried = [&](const auto& saving) {
@@ -102,10 +111,7 @@ void FolderPc::save() {
     }
   };
   if (registry.changed()) {
-    tried([&] {
-      replaceHostText(*root_, RegistryName, writeRegistryText(tree_));
-      registry.changed(false);
-    });
+    tried([&] { saveRegistry(); });
   }
   if (facts_.changed()) {
     tried([&] {
