@@ -7,6 +7,7 @@
 #include "app/console/Scheduler.h"
 #include "app/console/Store.h"
 #include "platform/folder/FolderPc.h"
+#include "platform/folder/NewPc.h"
 #include "support/TempFolder.h"
 
 using namespace zub;
@@ -49,7 +50,10 @@ struct TimedPc : ConsolePc {
   Platform& platform() override { return *timed; }
   void save() override {}
   std::vector<std::string> failures() const override { return {}; }
+  std::vector<std::string> oddities() override { return {}; }
+  void needWashable() override {}
   std::string folder() const override { return path; }
+  std::string user() const override { return {}; }
   std::string toTerminal(std::string_view text) const override { return std::string(text); }
   std::string fromTerminal(std::string_view text) const override { return std::string(text); }
 

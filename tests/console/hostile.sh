@@ -25,7 +25,7 @@ newPc() { rm -rf "$pc" && cp -R "$work/first" "$pc"; }
 wash() {
   local status=0
   zub --pc "$pc" wash || status=$?
-  [ $status -le 1 ] || fail "the wash ended with $status: $(tail -1 "$work/err")"
+  [ $status -le "${worst:-1}" ] || fail "the wash ended with $status: $(tail -1 "$work/err")"
 }
 
 # Links in folders that a wash empties: they go, as links.
@@ -61,7 +61,7 @@ newPc
 rm -rf "$temp"
 ln -s "$outside" "$temp"
 run 1 --pc "$pc" wash
-check "the link is not told" grep -qxF 'zub: not looked into: C:\WINDOWS\TEMP\: a link, which is not entered' "$work/err"
+check "the link is not told" grep -qxF 'zub: C/WINDOWS/TEMP: a link, which is not entered' "$work/err"
 
 # Links in place of the folders of the PC, of a drive and of the texts that hold the PC.
 for place in C/WINDOWS/TEMP C/WINDOWS C/RECYCLED C D "C/Program Files/Zubrane/Plugins" "C/Program Files"; do
@@ -69,7 +69,7 @@ for place in C/WINDOWS/TEMP C/WINDOWS C/RECYCLED C D "C/Program Files/Zubrane/Pl
   rm -rf "${pc:?}/$place"
   mkdir -p "$(dirname "$pc/$place")"
   ln -s "$outside" "$pc/$place"
-  wash
+  worst=$([ "$place" = C ] && echo 2 || echo 1) wash  # refused without any drive
   untouched "$place is a link"
   check "the link is gone: $place" [ -L "$pc/$place" ]
 done
