@@ -70,9 +70,10 @@ TEST_CASE("every option, on or off, and every row explains itself on its own tab
   }
   for (int row = 0; row < IconChecks::Count; ++row) {
     window.main.LstIcons_ClickSelect(row);
-    tell("row " + std::to_string(row) + " picked");
+    const std::string name(iconNames[static_cast<std::size_t>(row)]);
+    tell(name + " picked");
     window.main.LstIcons_ClickCheck(row);
-    tell("row " + std::to_string(row) + " checked");
+    tell(name + " checked");
   }
   window.main.chkSelectAll.Value(1);
   tell("chkSelectAll");
