@@ -160,6 +160,7 @@ std::string stateOf(const Shown& shown) {
     if constexpr (requires { state->Visible; }) text += state->Visible ? "" : ", hidden";
     if constexpr (requires { state->Enabled; }) text += state->Enabled ? "" : ", disabled";
     if constexpr (std::is_same_v<State, const bool*>) text += *state ? "" : ", hidden";
+    if constexpr (requires { state->Bold; }) text += state->Bold ? ", bold" : "";
     if constexpr (requires { state->ForeColor; }) {
       char color[16];
       std::snprintf(color, sizeof color, ", %06x", static_cast<unsigned>(state->ForeColor));
