@@ -42,7 +42,7 @@ class TestPc::Impl {
  public:
   Impl(TestPc& owner, const std::vector<std::string>& facts)
       : pc(preparePc(temp, facts)),
-        disk(pc.root(), pc.facts()),
+        disk(pc.driveFolders(), pc.facts()),
         log(owner),
         files(pc.files, fileFaults, log),
         registry(pc.registry, keyFaults, log),

@@ -27,6 +27,7 @@ constexpr std::array commandTable{
             pluginCheckCommand},
     Command{"cookies", "ie|netscape [keep|drop NUMBER|RANGE|SITE...]",
             "list the cookies, or tick those to keep", cookiesCommand},
+    Command{"users", "", "list whose registries the PC holds, with their profile folders", usersCommand},
     Command{"schedule add", "DATE TIME", "add a dated wash", scheduleAddCommand},
     Command{"schedule remove", "NUMBER", "remove the dated wash with that number", scheduleRemoveCommand},
     Command{"schedule", "", "list the dated washes", scheduleCommand},
@@ -46,6 +47,7 @@ int runCommand(CommandContext& context, int (*command)(CommandContext& context))
     return !context.pc.failures().empty();
   };
   int status = exitStatus::Done;
+  for (const std::string& oddity : context.pc.oddities()) context.tell(oddity);
   try {
     status = command(context);
   } catch (...) {

@@ -41,6 +41,7 @@ void printList(const CommandContext& context, Preview& preview) {
 int previewCommand(CommandContext& context) {
   const bool list = context.arguments == std::vector<std::string>{"--list"};
   if (!list) context.needNoArguments("preview");
+  context.pc.needWashable();
   Preview preview(context.pc.platform(), context.loop, context.loop);
   Program& program = preview.program;
   {

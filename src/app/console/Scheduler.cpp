@@ -56,7 +56,8 @@ void Scheduler::step(std::int64_t passing) {
 
 // The PC as it is now. It can be washed while the tasks are damaged.
 std::unique_ptr<ConsolePc> Scheduler::openPc(const std::string& commandLine) {
-  return openFolderPc(context_.pc.folder(), context_.loop, context_.loop, commandLine, DamagedTasks::Fail);
+  return openFolderPc(context_.pc.folder(), context_.loop, context_.loop, commandLine, DamagedTasks::Fail,
+                      context_.pc.user());
 }
 
 // The program's own task; others belong to other programs.

@@ -22,6 +22,7 @@ constexpr unsigned StepLength = 500000;  // microseconds
 int schedulerCommand(CommandContext& context) {
   context.needNoArguments("scheduler");
   if (context.pc.folder().empty()) throw UsageError("Windows has a task scheduler of its own");
+  context.pc.needWashable();
   std::signal(SIGINT, stop);
   std::signal(SIGTERM, stop);
   Scheduler scheduler(context, std::time(nullptr));

@@ -1,6 +1,6 @@
 #include "app/console/ConsolePc.h"
 #include "app/console/Printable.h"
-#include "platform/win32/NtCalls.h"
+#include "platform/host/win32/NtCalls.h"
 #include "platform/win32/Text.h"
 #include "platform/win32/Win32Platform.h"
 #include "platform/win32/Win32SystemFolders.h"
@@ -30,7 +30,10 @@ class ThisPc : public ConsolePc {
   Platform& platform() override { return platform_; }
   void save() override {}  // the system keeps what was changed
   std::vector<std::string> failures() const override { return {}; }
+  std::vector<std::string> oddities() override { return {}; }
+  void needWashable() override {}  // what runs is as it is
   std::string folder() const override { return {}; }
+  std::string user() const override { return {}; }
   std::string toTerminal(std::string_view text) const override {
     return printable(std::string(text), Letters::OneByte);
   }

@@ -23,6 +23,7 @@ std::optional<PcError> saved(ConsolePc& pc) {
 
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
+  context.pc.needWashable();
   context.needAlone();
   for (const std::string& folder : oddFolders(context.pc.platform().registry)) {
     context.tell(context.pc.toTerminal(folder));

@@ -10,7 +10,7 @@
 #include "app/console/Commands.h"
 #include "app/console/Printable.h"
 #include "base/RuntimeError.h"
-#include "platform/folder/FolderPc.h"
+#include "platform/folder/NewPc.h"
 
 namespace {
 
@@ -20,8 +20,10 @@ void printHelp() {
   std::printf(
       "Zubrane, a privacy cleaner.\n\n"
       "  zub --pc FOLDER COMMAND   works on a PC kept in a folder\n"
+      "  zub --pc FOLDER --user NAME COMMAND\n"
+      "                            the same, as the user of this branch of HKEY_USERS\n"
       "  zub COMMAND               works on the PC that it runs on (Windows only)\n"
-      "  zub new FOLDER            makes an empty PC\n"
+      "  zub new FOLDER            makes a PC that nobody has worked on\n"
       "  zub --help | --version\n\n"
       "Commands:\n");
   for (const Command& command : commands()) {
@@ -77,12 +79,21 @@ int run(std::vector<std::string> arguments) {
     folder = arguments[1];
     arguments.erase(arguments.begin(), arguments.begin() + 2);
   }
+  std::string user;
+  if (!arguments.empty() && arguments[0] == "--user") {
+    if (folder.empty() || arguments.size() < 2 || arguments[1].empty()) {
+      throw UsageError("--user takes a name, behind --pc FOLDER");
+    }
+    user = arguments[1];
+    arguments.erase(arguments.begin(), arguments.begin() + 2);
+  }
   const Command& command = takeCommand(arguments);
 
   ConsolePc* opened = nullptr;
   ConsoleLoop loop([&opened](std::string_view text) { return opened->toTerminal(text); });
   const auto pc =
-      folder.empty() ? openThisPc(loop, loop) : openFolderPc(folder, loop, loop, joinedBehind(arguments));
+      folder.empty() ? openThisPc(loop, loop)
+                     : openFolderPc(folder, loop, loop, joinedBehind(arguments), DamagedTasks::Refused, user);
   if (!pc) throw UsageError("there is no Windows here to work on: give a PC in a folder with --pc FOLDER");
   opened = pc.get();
   for (std::string& argument : arguments) argument = pc->fromTerminal(argument);

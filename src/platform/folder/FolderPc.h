@@ -7,16 +7,17 @@
 
 #include "platform/Platform.h"
 #include "platform/folder/CodePage1252.h"
+#include "platform/folder/DriveFolders.h"
 #include "platform/folder/FolderClock.h"
 #include "platform/folder/FolderDisk.h"
 #include "platform/folder/FolderFiles.h"
 #include "platform/folder/FolderRegistry.h"
 #include "platform/folder/FolderServices.h"
 #include "platform/folder/FolderTasks.h"
-#include "platform/folder/HostDir.h"
 #include "platform/folder/PcFacts.h"
 #include "platform/folder/RegistryTree.h"
-#include "platform/folder/WatchedDir.h"
+#include "platform/host/HostDir.h"
+#include "platform/host/WatchedDir.h"
 
 namespace zub {
 
@@ -29,8 +30,9 @@ class FolderPc {
 
   // The folder at a path of the host, in UTF-8. PcError, with nothing touched, where it is no PC or one of its
   // texts is damaged. `commandLine` is what the program was started with on that PC.
+  // `user` goes before the one that the facts tell.
   explicit FolderPc(const std::string& folder, std::string commandLine = {},
-                    DamagedTasks damaged = DamagedTasks::Refused);
+                    DamagedTasks damaged = DamagedTasks::Refused, const std::string& user = {});
 
   // All services; the event loop and the message box are the caller's, and outlive the platform.
   Platform platform(EventLoop& events, Messages& messages);
@@ -47,6 +49,7 @@ class FolderPc {
   RegistryTree& registryTree() { return tree_; }
   PcFacts& facts() { return facts_; }
   HostDir& root() { return *root_; }
+  DriveFolders& driveFolders() { return driveFolders_; }
 
  private:
   // As they stood when they were read, once and together.
@@ -59,7 +62,8 @@ class FolderPc {
     std::unique_ptr<HostDir> root;
     Texts texts;
   };
-  FolderPc(Opened opened, std::string commandLine, DamagedTasks damaged);
+  FolderPc(Opened opened, const std::string& folder, std::string commandLine, DamagedTasks damaged,
+           const std::string& user);
   static Opened open(const std::string& folder);
   static Texts readTexts(HostDir& root);
   bool isOutdated();
@@ -72,6 +76,7 @@ class FolderPc {
   FolderRegistry::Rules rules_;
   HostFailures failures_;
   std::unique_ptr<HostDir> watched_;
+  DriveFolders driveFolders_;
   FolderDisk disk_;
 
  public:
@@ -87,10 +92,5 @@ class FolderPc {
   FolderTray tray;
   FolderTasks tasks;
 };
-
-// Makes an empty, valid PC of the 9x family: an empty registry and drive C: with the folders that the facts
-// name. The folder is made where it is missing (not the folders above it). PcError where it cannot be made or
-// holds anything.
-void createPc(const std::string& folder);
 
 }  // namespace zub

@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "platform/folder/HostDir.h"
+#include "platform/host/HostDir.h"
 
 namespace zub {
 
@@ -16,16 +16,21 @@ namespace zub {
 class HostFailures {
  public:
   void add(const std::string& path, HostError error);
+  void addLink(const std::string& path);  // one that stood on the way to something
   // "C/WINDOWS/TEMP: Permission denied"
   const std::set<std::string>& texts() const { return texts_; }
   std::size_t more() const { return more_; }  // beyond those
 
  private:
+  void add(std::string text);
+
   std::set<std::string> texts_;
   std::size_t more_ = 0;
 };
 
 // The same folder with everything below it. Both outlive it and what it opens.
 std::unique_ptr<HostDir> watched(HostDir& folder, HostFailures& failures);
+// The same for a folder that lies elsewhere and whose failures are told with this path.
+std::unique_ptr<HostDir> watched(std::unique_ptr<HostDir> folder, std::string path, HostFailures& failures);
 
 }  // namespace zub
