@@ -55,11 +55,11 @@ std::string stateOf(Files& files, const std::string& path, const TimesOf& times)
 BeneathState stateOf(const Platform& pc, const std::string& folder, const std::string& key,
                      const TimesOf& times) {
   BeneathState state;
-  addFolder(state, pc.files, folder, times);
-  addKey(state, pc.registry, pc.registry.hive(Hive::CurrentUser), key, key);
-  pc.tasks.refresh();
-  for (int position = 1; position <= pc.tasks.count(); ++position) {
-    ScheduleTask& task = pc.tasks.at(position);
+  addFolder(state, *pc.files, folder, times);
+  addKey(state, *pc.registry, pc.registry->hive(Hive::CurrentUser), key, key);
+  pc.tasks->refresh();
+  for (int position = 1; position <= pc.tasks->count(); ++position) {
+    ScheduleTask& task = pc.tasks->at(position);
     std::string& triggers = state["task " + task.name()];
     for (int trigger = 1; trigger <= task.triggers().count(); ++trigger)
       triggers += task.triggers().at(trigger)->text() + CrLf.data();

@@ -72,7 +72,7 @@ using PretendingWin32 = Pretending<Win32ContractPc>;
 
 template <class Pc>
 bool isNt(Pc& pc) {
-  return pc.platform().restart.platformId(148) == 2;
+  return pc.platform().restart->platformId(148) == 2;
 }
 
 // The number of the error that the call fails with; 0 where it does not fail.

@@ -76,7 +76,7 @@ class Pretending : public Base {
   }
 
   std::string bytes(const std::string& path) {
-    const auto channel = platform_.files.open(path, OpenMode::Input);
+    const auto channel = platform_.files->open(path, OpenMode::Input);
     std::string bytes(static_cast<std::size_t>(channel->length()), '\0');
     bytes.resize(channel->read(bytes));
     return bytes;
@@ -94,23 +94,23 @@ class Pretending : public Base {
   // such as a folder in use, is the base's to remove.
   void tidyUp() {
     try {
-      for (const std::string& path : elsewhere_) beneath().files.remove(path);
-      beneath().files.deleteFolder(Base::folder());
+      for (const std::string& path : elsewhere_) beneath().files->remove(path);
+      beneath().files->deleteFolder(Base::folder());
     } catch (const RuntimeError&) {
     }
   }
   bool tells(std::u16string_view name) {
     FoundFile found;
-    for (const auto search = platform_.files.find(Base::folder() + "\\*"); search && search->next(found);) {
+    for (const auto search = platform_.files->find(Base::folder() + "\\*"); search && search->next(found);) {
       if (utf16FromAnsi(found.name) == name) return true;
     }
     return false;
   }
   // A folder that may have been made in pretence only.
   void makeBeneath(const std::string& folder) {
-    if (beneath().files.folderExists(folder)) return;
+    if (beneath().files->folderExists(folder)) return;
     makeBeneath(folder.substr(0, folder.rfind('\\')));
-    beneath().files.createFolder(folder);
+    beneath().files->createFolder(folder);
     setUp(folder);
     setUp(folder.substr(0, folder.rfind('\\')));
   }
@@ -122,11 +122,11 @@ class Pretending : public Base {
   void setUp() { state_ = now(); }
   void setUp(const std::string& path) {
     if (!path.starts_with(Base::folder())) return;
-    state_[path] = stateOf(beneath().files, path, [this](const std::string& at) { return Base::times(at); });
+    state_[path] = stateOf(*beneath().files, path, [this](const std::string& at) { return Base::times(at); });
   }
 
   PretendPc pretend_{Base::platform()};
-  Platform platform_{pretend_.platform(Base::platform().events, Base::platform().messages)};
+  Platform platform_{pretend_.platform(*Base::platform().events, *Base::platform().messages)};
   BeneathState state_;               // as it was set up
   std::set<std::string> held_;       // open for others
   std::set<std::string> elsewhere_;  // files that were set up outside the scratch folder

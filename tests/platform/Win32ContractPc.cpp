@@ -71,7 +71,7 @@ Win32ContractPc::~Win32ContractPc() {
   for (const std::string& link : hostLinks_) onHost("/bin/rm -f " + hostPath(link), link, false);
   SetCurrentDirectoryA(before_.c_str());
   try {
-    platform().files.deleteFolder(folder_);
+    platform().files->deleteFolder(folder_);
   } catch (const RuntimeError& error) {
     MESSAGE("the scratch folder stays: " << error.description());
   }
@@ -81,7 +81,7 @@ Win32ContractPc::~Win32ContractPc() {
 
 // By told names, which lead to every key.
 void Win32ContractPc::removeKey() {
-  Registry& registry = platform().registry;
+  Registry& registry = *platform().registry;
   const auto removeTree = [&registry](const auto& self, RegistryKey parent, const std::string& path) -> bool {
     RegistryKey opened = 0;
     if (registry.open(parent, path, access::All, opened) != status::Success) return false;

@@ -27,6 +27,10 @@ constexpr std::array commandTable{
             pluginCheckCommand},
     Command{"cookies", "ie|netscape [keep|drop NUMBER|RANGE|SITE...]",
             "list the cookies, or tick those to keep", cookiesCommand},
+    Command{"changes", "[--settings] [KEY]",
+            "write changes.reg, what became of the registry's export; with the settings of Zubrane; only "
+            "below a key",
+            changesCommand},
     Command{"users", "", "list whose registries the PC holds, with their profile folders", usersCommand},
     Command{"schedule add", "DATE TIME", "add a dated wash", scheduleAddCommand},
     Command{"schedule remove", "NUMBER", "remove the dated wash with that number", scheduleRemoveCommand},
@@ -58,7 +62,7 @@ int runCommand(CommandContext& context, int (*command)(CommandContext& context))
 }
 
 void CommandContext::needAlone() const {
-  if (pc.platform().process.otherInstanceRuns()) throw BusyError();
+  if (pc.platform().process->otherInstanceRuns()) throw BusyError();
 }
 
 void CommandContext::needNoArguments(std::string_view command) const {

@@ -72,6 +72,7 @@ int pluginsCommand(CommandContext& context);
 int pluginShowCommand(CommandContext& context);
 int pluginCheckCommand(CommandContext& context);
 int cookiesCommand(CommandContext& context);
+int changesCommand(CommandContext& context);
 int usersCommand(CommandContext& context);
 int scheduleCommand(CommandContext& context);
 int scheduleAddCommand(CommandContext& context);

@@ -22,7 +22,7 @@ ConsoleLoop::ConsoleLoop(std::function<std::string(std::string_view)> toTerminal
 
 void ConsoleLoop::attach(Program& program) {
   program_ = &program;
-  serveTimers_ = [timers = std::make_shared<Timers>(program), &clock = program.engine.pc.clock] {
+  serveTimers_ = [timers = std::make_shared<Timers>(program), &clock = *program.engine.pc.clock] {
     timers->serve(clock.ticks());
   };
   frmClean::Cleaners& cleaners = program.engine.clean.cleaners;
@@ -48,7 +48,7 @@ void ConsoleLoop::detach() {
 
 void ConsoleLoop::DoEvents() {
   if (program_ == nullptr) return;
-  const std::uint64_t now = program_->engine.pc.clock.ticks();
+  const std::uint64_t now = program_->engine.pc.clock->ticks();
   if (now < nextTurn_) return;
   nextTurn_ = now + TurnLength;
   serveTimers_();

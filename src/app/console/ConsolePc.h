@@ -16,6 +16,9 @@ class ConsolePc {
   virtual ~ConsolePc() = default;
   virtual Platform& platform() = 0;
   virtual void save() = 0;  // keeps what the program changed; PcError where it cannot
+  // Tells what became of a registry that was exported, in a text beside it that can be imported; only what lies below a
+  // path, where one is given. False where there was no such export.
+  virtual bool saveChanges(bool withSettings, std::string_view below) = 0;
   // What failed on the PC's disks and that nobody may have told, as text for the terminal.
   virtual std::vector<std::string> failures() const = 0;
   // What the PC is not as it may have been meant, as text for the terminal.

@@ -1,3 +1,4 @@
+#include "app/console/Changes.h"
 #include "app/console/ConsolePc.h"
 #include "app/console/Printable.h"
 #include "app/console/RegistryLook.h"
@@ -31,6 +32,9 @@ class FolderConsolePc : public ConsolePc {
 
   Platform& platform() override { return platform_; }
   void save() override { pc_.save(); }
+  bool saveChanges(bool withSettings, std::string_view below) override {
+    return zub::saveChanges(pc_, withSettings, below);
+  }
   std::vector<std::string> failures() const override {
     const HostFailures& failures = pc_.failures();
     std::vector<std::string> texts;

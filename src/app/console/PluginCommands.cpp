@@ -76,7 +76,7 @@ std::vector<CheckedLine> checkFile(const CommandContext& context, Store& store, 
   try {
     return check.readFile(path, file);
   } catch (const RuntimeError& failure) {
-    if (context.pc.folder().empty() && store.engine.pc.files.attributes(name) != attribute::Invalid) {
+    if (context.pc.folder().empty() && store.engine.pc.files->attributes(name) != attribute::Invalid) {
       return check.readFile(name, file);
     }
     const auto text = context.pc.folder().empty() ? std::nullopt : hostText(context.pc.toTerminal(name));
@@ -124,7 +124,7 @@ int pluginCheckCommand(CommandContext& context) {
   PluginCheck check(store.engine);
   bool neverWorks = false;
   for (const std::string& name : context.arguments) {
-    const PluginFile file = kindOf(store.engine.pc.codePage, name);
+    const PluginFile file = kindOf(*store.engine.pc.codePage, name);
     const std::string base = name.substr(0, name.size() - extensionOf(file).size());
     if (base != plugin) check = PluginCheck(store.engine);
     plugin = base;

@@ -84,8 +84,8 @@ int scheduleAddCommand(CommandContext& context) {
   const std::vector<std::string> words = wordsOf(context.arguments);
   if (words.size() < 2) throw UsageError("schedule add takes a date and a time");
   const Platform& pc = context.pc.platform();
-  const SystemTime moment = momentOf(pc.clock, words);
-  if (secondsOf(moment) <= secondsOf(pc.clock.local())) {
+  const SystemTime moment = momentOf(*pc.clock, words);
+  if (secondsOf(moment) <= secondsOf(pc.clock->local())) {
     throw UsageError(joinedWords(words) + " is past: no wash would come of it");
   }
   needTasks(context);

@@ -31,7 +31,7 @@ void guarded(std::string& told, Work work) {
 
 Scheduler::Scheduler(CommandContext& context, std::int64_t passing)
     : context_(context),
-      clock_(context.pc.platform().clock),
+      clock_(*context.pc.platform().clock),
       root_(openHostDir(context.pc.folder())),
       due_(clock_.local(), passing),
       automatic_(clock_, options_) {

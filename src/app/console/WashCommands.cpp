@@ -15,6 +15,7 @@ namespace {
 std::optional<PcError> saved(ConsolePc& pc) {
   try {
     pc.save();
+    pc.saveChanges(false, {});
   } catch (const PcError& failure) {
     return failure;
   }
@@ -25,7 +26,7 @@ std::optional<PcError> saved(ConsolePc& pc) {
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
   context.pc.needWashable();
   context.needAlone();
-  for (const std::string& folder : oddFolders(context.pc.platform().registry)) {
+  for (const std::string& folder : oddFolders(*context.pc.platform().registry)) {
     context.tell(context.pc.toTerminal(folder));
   }
   Program program(context.pc.platform());

@@ -55,6 +55,7 @@ FolderPc::FolderPc(Opened opened, const std::string& folder, std::string command
                    const std::string& user)
     : root_(std::move(opened.root)),
       textsRead_(opened.texts.mark()),
+      isExport_(opened.texts.registry && !isOwnRegistryText(*opened.texts.registry)),
       tree_(readRegistry(opened.texts.registry)),
       facts_(opened.texts.facts.value_or("")),
       rules_(rulesFor(tree_, facts_, user)),
@@ -88,8 +89,16 @@ bool FolderPc::isOutdated() {
 }
 
 Platform FolderPc::platform(EventLoop& events, Messages& messages) {
-  return {codePage, registry, files,  drives,   folders, restart, shell,
-          clock,    process,  events, messages, tray,    tasks};
+  return {&codePage, &registry, &files,  &drives,   &folders, &restart, &shell,
+          &clock,    &process,  &events, &messages, &tray,    &tasks};
+}
+
+// An export of others is kept: what changed can be told against it, and taken back.
+void FolderPc::saveRegistry() {
+  if (isExport_) replaceHostText(*root_, OriginalName, readHostText(*root_, RegistryName).value_or(""));
+  isExport_ = false;
+  replaceHostText(*root_, RegistryName, writeRegistryText(tree_));
+  registry.changed(false);
 }
 
 void FolderPc::save() {
@@ -102,10 +111,7 @@ void FolderPc::save() {
     }
   };
   if (registry.changed()) {
-    tried([&] {
-      replaceHostText(*root_, RegistryName, writeRegistryText(tree_));
-      registry.changed(false);
-    });
+    tried([&] { saveRegistry(); });
   }
   if (facts_.changed()) {
     tried([&] {

@@ -27,6 +27,8 @@ class FolderPc {
   FolderPc& operator=(const FolderPc&) = delete;
 
   static constexpr const char* RegistryName = "registry.reg";
+  // What others wrote there, as it was before the program first saved the registry.
+  static constexpr const char* OriginalName = "registry.reg.before";
 
   // The folder at a path of the host, in UTF-8. PcError, with nothing touched, where it is no PC or one of its
   // texts is damaged. `commandLine` is what the program was started with on that PC.
@@ -67,10 +69,12 @@ class FolderPc {
   static Opened open(const std::string& folder);
   static Texts readTexts(HostDir& root);
   bool isOutdated();
+  void saveRegistry();
 
   // Below the services that use them, so made before them.
   std::unique_ptr<HostDir> root_;
   std::size_t textsRead_;  // the mark of the texts as they were read
+  bool isExport_;          // the registry was written by others
   RegistryTree tree_;
   PcFacts facts_;
   FolderRegistry::Rules rules_;
