@@ -18,6 +18,7 @@
 //   void wideKey(name);                     the same for a key below key()
 //   std::string times(path);                when a file or folder was made and written, as far as this PC tells
 //   bool followsLinks();                    a path may go through a link
+//   bool keepsShortNames();                 its disk has an 8.3 name for a long one
 //   bool deviates(name);                    this PC breaks the contract in a way that is listed by this name
 #pragma once
 
@@ -51,6 +52,7 @@ class FolderContractPc : public TestPc {
   void wideKey(std::u16string_view name);
   std::string times(const std::string& path) const;
   bool followsLinks() const { return false; }
+  bool keepsShortNames() const;
   bool deviates(std::string_view) const { return false; }
 };
 

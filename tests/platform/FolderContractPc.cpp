@@ -38,6 +38,14 @@ std::string FolderContractPc::times(const std::string& path) const {
   return failure ? "" : std::to_string(written.time_since_epoch().count());
 }
 
+bool FolderContractPc::keepsShortNames() const {
+#ifdef _WIN32
+  return true;
+#else
+  return false;
+#endif
+}
+
 // The host's name of a told one.
 static std::string hostName(std::u16string_view name) {
   std::string told;
