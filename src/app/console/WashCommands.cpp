@@ -24,6 +24,7 @@ std::optional<PcError> saved(ConsolePc& pc) {
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
   context.pc.needWashable();
+  context.pc.needWritable();
   context.needAlone();
   tellOddFolders(context);
   Program program(context.pc.platform());
