@@ -26,11 +26,11 @@ void addKey(BeneathState& state, Registry& registry, RegistryKey parent, const s
   for (std::uint32_t index = 0;; ++index) {
     auto length = static_cast<std::uint32_t>(name.size());
     auto dataLength = static_cast<std::uint32_t>(data.size());
-    std::uint32_t type = 0;
+    ValueType type{};
     if (registry.enumValue(key, index, name.data(), length, type, data.data(), dataLength) != status::Success)
       break;
-    state[told + " \"" + name.data() + '"'] =
-        std::to_string(type) + ' ' + std::string(data.begin(), data.begin() + dataLength);
+    state[told + " \"" + name.data() + '"'] = std::to_string(static_cast<std::uint32_t>(type)) + ' ' +
+                                              std::string(data.begin(), data.begin() + dataLength);
   }
   for (std::uint32_t index = 0;; ++index) {
     auto length = static_cast<std::uint32_t>(name.size());
