@@ -25,6 +25,7 @@ std::optional<PcError> saved(ConsolePc& pc) {
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
   context.pc.needWashable();
+  context.pc.needWritable();
   context.needAlone();
   for (const std::string& folder : oddFolders(*context.pc.platform().registry)) {
     context.tell(context.pc.toTerminal(folder));
