@@ -1,5 +1,4 @@
-// What only a Windows of its own has: its error numbers, its kinds of reparse points, what it reads into a name or a
-// command line.
+// What only a Windows of its own has: its error numbers, its kinds of reparse points, what it reads into a name.
 #ifdef _WIN32
 #include <array>
 #include <cstdlib>
@@ -112,29 +111,6 @@ TEST_CASE("a folder that the registry names in another alphabet is found, and it
                            &room) == 0);
   CHECK(room == size);
   CHECK(std::wstring(stored.data()) == path);
-}
-
-TEST_CASE("a program starts by its path, in quotes or not, with arguments and variables of the environment") {
-  Win32ContractPc pc;
-  const std::string tool = pc.folder() + "\\a tool.bat";
-  pc.file(tool, "@echo %1!>told\r\n@ren told done\r\n");
-  pc.file(pc.folder() + "\\a.exe", "what a path without quotes could be taken for");
-  SetEnvironmentVariableA("ZUBTOOL", tool.c_str());
-  const struct {
-    std::string line;
-    const char* argument;
-  } rows[] = {{tool, ""}, {'"' + tool + "\" one", "one"}, {"\"%ZUBTOOL%\" two", "two"}, {"%ZUBTOOL%", ""}};
-  for (const auto& row : rows) {
-    CAPTURE(row.line);
-    CHECK(failure([&] { pc.platform().shell->start(row.line); }) == 0);
-    const std::string done = pc.folder() + "\\done";
-    const DWORD begin = GetTickCount();
-    while (!pc.platform().files->fileExists(done) && GetTickCount() - begin < 10000) SwitchToThread();
-    CHECK(pc.bytes(done) == std::string(row.argument) + "!\r\n");
-    pc.platform().files->remove(done);
-  }
-  SetEnvironmentVariableA("ZUBTOOL", nullptr);
-  CHECK(failure([&] { pc.platform().shell->start(pc.folder() + "\\missing.exe"); }) == 53);
 }
 
 TEST_CASE("where nothing names a folder for temporary files there is none") {
