@@ -11,6 +11,7 @@
 #include "support/TempFolder.h"
 
 #ifndef _WIN32
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -256,6 +257,34 @@ TEST_CASE("a folder replaced behind a kept handle is found anew") {
   REQUIRE(fenced.drive->rename("a", "b") == HostError::None);
   writeHostFile(*fenced.folder("a"), "new", "x");
   CHECK(fenced.files().fileExists("C:\\a\\new"));
+}
+
+TEST_CASE("a grip is on the file that was found, whatever lies at its path by then") {
+  Fenced fenced;
+  writeHostFile(*fenced.folder("a"), "f", "x");
+  const auto grip = fenced.files().grip("C:\\a\\f");
+  REQUIRE(fenced.drive->rename("a", "b") == HostError::None);
+  const auto other = fenced.folder("a");
+  writeHostFile(*other, "f", "another");
+  grip->resetAttributes();
+  grip->open()->write("y");
+  grip->remove();
+  CHECK(readHostFile(*other, "f") == "another");
+  CHECK_FALSE(fenced.files().fileExists("C:\\b\\f"));
+}
+
+TEST_CASE("a tree that is deeper than the limit of open files goes") {
+  Fenced fenced;
+  rlimit limit{};
+  REQUIRE(::getrlimit(RLIMIT_NOFILE, &limit) == 0);
+  const rlimit few{std::min<rlim_t>(limit.rlim_cur, 200), limit.rlim_max};
+  REQUIRE(::setrlimit(RLIMIT_NOFILE, &few) == 0);
+  std::string path = "C:\\tree";
+  for (int level = 0; level < 700; ++level, path += "\\d") fenced.files().createFolder(path);
+  fenced.files().open(path + "f", OpenMode::Binary);
+  fenced.files().deleteFolder("C:\\tree");
+  ::setrlimit(RLIMIT_NOFILE, &limit);
+  CHECK_FALSE(fenced.files().folderExists("C:\\tree"));
 }
 
 TEST_CASE("a profile is replaced in one step, and no file beside it is lost") {
