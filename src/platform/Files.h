@@ -89,19 +89,23 @@ class FileChannel {
   virtual void sync() = 0;  // what was written has reached the disk, in its old place
 };
 
+enum class ReadOnlyBit : std::uint8_t { Counts, Ignored };
+
 // A file that was found, to be removed: its steps look for nothing anew, so that all of them are for what was found in
 // the folder that was found, whatever lies at its path by then.
 class FileGrip {
  public:
   virtual ~FileGrip() = default;
-  virtual void resetAttributes() = 0;               // clears all of them
-  virtual std::int64_t length() = 0;                // fails as opening it to be written does
+  virtual void resetAttributes() = 0;  // clears all of them
+  // Fails as opening it to be written does. With the bit ignored, as if the file were not read-only; the system tells no
+  // more then than that the bit could be cleared.
+  virtual std::int64_t length(ReadOnlyBit bit = ReadOnlyBit::Counts) = 0;
   virtual std::unique_ptr<FileChannel> open() = 0;  // to be written over; never made where it is gone
   virtual void remove() = 0;
 };
 
 enum class Removal : std::uint8_t {
-  File,          // which nobody else has open
+  File,
   EvenReadOnly,  // a file as it goes with its folder
   EmptyFolder,   // what it holds is left aside
 };

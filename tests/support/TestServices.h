@@ -134,10 +134,10 @@ class TestGrip : public FileGrip {
       : grip_(std::move(grip)), faults_(faults), log_(log), path_(path) {}
 
   void resetAttributes() override { grip_->resetAttributes(); }
-  std::int64_t length() override {
+  std::int64_t length(ReadOnlyBit bit) override {
     log_({"length of ", path_});
     faults_.strike(Call::OpenedLength, path_);
-    return grip_->length();
+    return grip_->length(bit);
   }
   std::unique_ptr<FileChannel> open() override {
     log_({"open to write over ", path_});

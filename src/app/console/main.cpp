@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/console/Commands.h"
+#include "app/console/ImportCommand.h"
 #include "app/console/Printable.h"
 #include "base/RuntimeError.h"
 #include "platform/folder/NewPc.h"
@@ -24,6 +25,9 @@ void printHelp() {
       "                            the same, as the user of this branch of HKEY_USERS\n"
       "  zub COMMAND               works on the PC that it runs on (Windows only)\n"
       "  zub new FOLDER            makes a PC that nobody has worked on\n"
+      "  zub import --registry EXPORT... [--user NAME] [--drive C=FOLDER]... FOLDER\n"
+      "                            makes a PC of exports of its registry and its mounted disks; --as KEY\n"
+      "                            before exports whose keys name no hive\n"
       "  zub --help | --version\n\n"
       "Commands:\n");
   for (const Command& command : commands()) {
@@ -72,6 +76,10 @@ int run(std::vector<std::string> arguments) {
     if (arguments.size() != 2) throw UsageError("new takes a folder");
     createPc(arguments[1]);
     return exitStatus::Done;
+  }
+  if (!arguments.empty() && arguments[0] == "import") {
+    arguments.erase(arguments.begin());
+    return importCommand(arguments);
   }
   std::string folder;
   if (!arguments.empty() && arguments[0] == "--pc") {

@@ -96,12 +96,13 @@ void FolderFiles::checkDrive(char drive) const {
 }
 
 // For a file that is to be written or removed.
-void FolderFiles::checkWritable(const Found& found) const {
+void FolderFiles::checkWritable(const Found& found, ReadOnlyBit bit) const {
   const auto& [place, path] = found;
   checkDrive(path.drive);
   if (place.exists && place.stat.kind == HostKind::Folder) throw RuntimeError(ErrorNumber::PathFileAccess);
   if (isLocked(path)) throw RuntimeError(ErrorNumber::PermissionDenied);
-  if (place.exists && place.stat.readOnly) throw RuntimeError(ErrorNumber::PathFileAccess);
+  if (place.exists && place.stat.readOnly && bit == ReadOnlyBit::Counts)
+    throw RuntimeError(ErrorNumber::PathFileAccess);
 }
 
 std::unique_ptr<FileSearch> FolderFiles::find(std::string_view path) {
@@ -164,8 +165,8 @@ class FolderFiles::Grip : public FileGrip {
     stat.readOnly = false;
     dropAttributes();
   }
-  std::int64_t length() override {
-    files_.checkWritable(found_);
+  std::int64_t length(ReadOnlyBit bit) override {
+    files_.checkWritable(found_, bit);
     return static_cast<std::int64_t>(found_.place.stat.size);
   }
   std::unique_ptr<FileChannel> open() override {

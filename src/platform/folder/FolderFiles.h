@@ -46,7 +46,7 @@ class FolderFiles : public Files {
   Found locateFile(std::string_view path);
   // Nothing where it is known that the path leads nowhere; throws where it cannot be looked at.
   std::optional<Place> look(std::string_view path);
-  void checkWritable(const Found& found) const;
+  void checkWritable(const Found& found, ReadOnlyBit bit = ReadOnlyBit::Counts) const;
   bool isLocked(const FolderPath& path) const;
   void checkDrive(char drive) const;
 

@@ -77,7 +77,7 @@ class PretendFiles : public Files {
 
   // The steps of a removal. Nothing goes beneath, so the path leads where it led.
   void resetAttributes(std::string_view path);
-  std::int64_t openedLength(std::string_view path);
+  std::int64_t openedLength(std::string_view path, ReadOnlyBit bit);
   void remove(std::string_view path);
 
   Spot locate(std::string_view path);

@@ -91,9 +91,12 @@ class Win32Grip : public FileGrip {
       if (!path_.setAttributes(FILE_ATTRIBUTE_NORMAL)) throwLastError();
     });
   }
-  std::int64_t length() override { return open()->length(); }
+  std::int64_t length(ReadOnlyBit bit) override {
+    return Win32FileChannel(openFile(path_, bit == ReadOnlyBit::Counts ? FileUse::Write : FileUse::ReadAlone))
+        .length();
+  }
   std::unique_ptr<FileChannel> open() override {
-    return std::make_unique<Win32FileChannel>(openFile(path_, OpenMode::Binary, false));
+    return std::make_unique<Win32FileChannel>(openFile(path_, FileUse::Write));
   }
   void remove() override { removeEntry(path_); }
 
@@ -174,7 +177,8 @@ std::unique_ptr<FileGrip> Win32Files::grip(std::string_view path) {
 }
 
 std::unique_ptr<FileChannel> Win32Files::open(std::string_view path, OpenMode mode) {
-  return std::make_unique<Win32FileChannel>(openFile(filePath(path), mode, true));
+  return std::make_unique<Win32FileChannel>(
+      openFile(filePath(path), mode == OpenMode::Binary ? FileUse::Make : FileUse::Read));
 }
 
 // The 9x family asks for no right to remove, and opens no folder.
@@ -188,10 +192,11 @@ std::int64_t Win32Files::removable(std::string_view path, Removal how) {
   const bool nt = isNtFamily();
   if (asFolder && !nt) return 0;
   constexpr DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const DWORD sharing = how == Removal::File || !nt ? 0 : everything;
+  const DWORD sharing = nt ? everything : 0;
   const DWORD rights = nt ? DELETE | FILE_READ_ATTRIBUTES : GENERIC_READ;
   const DWORD flags = nt ? FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS : 0;
-  const HANDLE opened = place.open(rights, sharing, OPEN_EXISTING, flags);
+  const HANDLE opened = isFolderLink(bits) ? openFolderLink(place, rights, sharing)
+                                           : place.open(rights, sharing, OPEN_EXISTING, flags);
   if (opened == INVALID_HANDLE_VALUE) throwLastError();
   return asFolder ? (CloseHandle(opened), 0) : Win32FileChannel(opened).length();
 }
