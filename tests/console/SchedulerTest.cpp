@@ -157,4 +157,12 @@ TEST_CASE("the scheduler says what comes next, and tells a damaged text once") {
     CHECK(told.substr(0, row.told.size()) == row.told);
     CHECK(told.empty() == row.told.empty());
   }
+  TimedPc late([](Options& options) {
+    options.chkRunAuto.Value(1);
+    options.ComboInterval.ListIndex(2);
+  });
+  CHECK(heardOn(stdout, [&] { late.washesAt(10, 45, 0); }) ==
+        "Next dated wash: none\nNext wash by the interval: 10:60, which no clock shows: switch chkRunAuto "
+        "off for a "
+        "minute\n");
 }

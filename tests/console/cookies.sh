@@ -34,8 +34,8 @@ run 0 --pc "$pc" cookies netscape drop "$player" "$region"
 
 # A number that is not listed changes nothing, also beside one that is.
 for browser in ie netscape; do
-  refused "there is no cookie 99" --pc "$pc" cookies $browser keep 1 99
-  refused "there is no cookie 99" --pc "$pc" cookies $browser keep 1-99
+  refused "there is no cookie 87654" --pc "$pc" cookies $browser keep 1 87654
+  refused "there is no cookie 9032" --pc "$pc" cookies $browser keep 1-9032
   refused 'there is no cookie of "*.nowhere.example"' --pc "$pc" cookies $browser keep 1 "*.nowhere.example"
   for none in 0 - 2-1; do refused "\"$none\" is no number of the list" --pc "$pc" cookies $browser keep $none; done
 done

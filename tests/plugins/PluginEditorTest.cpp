@@ -49,7 +49,8 @@ struct Editor : WashFixture {
   }
 };
 
-std::string rowsOf(const ListRows& list) {
+// The rows, the current one with ">" in front.
+std::string currentIn(const ListRows& list) {
   std::string text;
   for (int row = 0; row < list.ListCount(); ++row) {
     text += (row == list.ListIndex() ? ">" : "") + list.List(row) + ";";
@@ -123,9 +124,9 @@ TEST_CASE("closing by Cancel saves nothing, and the next opening starts afresh")
   CHECK(editor.refreshes == 0);
   editor.form.NewPlugin();
   CHECK(editor.state.txtName.Text == "");
-  CHECK(rowsOf(editor.state.lstFileFolder) == "No entries.;");
+  CHECK(currentIn(editor.state.lstFileFolder) == "No entries.;");
   editor.form.NewPlugin();
-  CHECK(rowsOf(editor.state.lstFileFolder) == "No entries.;No entries.;");
+  CHECK(currentIn(editor.state.lstFileFolder) == "No entries.;No entries.;");
 }
 
 TEST_CASE("the boxes become rows") {
@@ -148,23 +149,23 @@ TEST_CASE("the boxes become rows") {
     editor.form.NewPlugin();
     editor.state.cmbPathRegistry.ListIndex(one.hive);
     editor.addKey(one.path, one.name, one.kind);
-    CHECK(rowsOf(editor.state.lstRegistry) == ">" + std::string(one.row) + ";");
+    CHECK(currentIn(editor.state.lstRegistry) == ">" + std::string(one.row) + ";");
   }
 
   Editor editor;
   editor.form.NewPlugin();
   editor.addFile(" C:\\Temp ", " a b.txt ");
-  CHECK(rowsOf(editor.state.lstFileFolder) == ">C:\\Temp\\a b.txt;");
+  CHECK(currentIn(editor.state.lstFileFolder) == ">C:\\Temp\\a b.txt;");
   editor.addFile("C:\\", "");
-  CHECK(rowsOf(editor.state.lstFileFolder) == ">C:\\;");
+  CHECK(currentIn(editor.state.lstFileFolder) == ">C:\\;");
   editor.form.optFilePattern_Click();
   editor.state.txtFilePattern.Text = "*.tmp ";
   editor.addFile("C:\\Temp", "unread");
-  CHECK(rowsOf(editor.state.lstFileFolder) == ">C:\\Temp\\*.tmp;");
+  CHECK(currentIn(editor.state.lstFileFolder) == ">C:\\Temp\\*.tmp;");
   editor.state.chkSubfolders.Value(1);
   for (int time = 0; time < 2; ++time) {
     editor.form.cmdAddFF_Click();
-    CHECK(rowsOf(editor.state.lstFileFolder) == ">C:\\Temp\\*.tmp >plus subdirectories<;");
+    CHECK(currentIn(editor.state.lstFileFolder) == ">C:\\Temp\\*.tmp >plus subdirectories<;");
   }
 }
 
@@ -182,7 +183,7 @@ TEST_CASE("an empty box is told, always, and gets the focus") {
   editor.addFile(" ", "a");
   CHECK(editor.told() == "ZUB Plugin: Path cannot be empty;");
   CHECK(editor.state.focus == &State::txtPathFF);
-  CHECK(rowsOf(editor.state.lstRegistry) == "No entries.;");
+  CHECK(currentIn(editor.state.lstRegistry) == "No entries.;");
 }
 
 TEST_CASE("where an added entry goes") {
@@ -199,23 +200,23 @@ TEST_CASE("where an added entry goes") {
     for (const Step& step : steps) {
       if (step.current != Keep) list.ListIndex(step.current);
       editor.addFile("C:", step.name);
-      CHECK(rowsOf(list) == step.rows);
+      CHECK(currentIn(list) == step.rows);
     }
   };
   // The second edits the current row; the third meets a single row that is not current, and is dropped.
   add({{Keep, "a", ">C:\\a;"}, {Keep, "b", ">C:\\b;"}, {-1, "c", "C:\\b;"}});
   editor.form.cmdFFNew_Click();
-  CHECK(rowsOf(list) == "C:\\b;>;");
+  CHECK(currentIn(list) == "C:\\b;>;");
   CHECK(editor.fileBoxes() == "|F|||");
   add({{Keep, "c", "C:\\b;>C:\\c;"}, {-1, "d", "C:\\b;C:\\c;>C:\\d;"}, {1, "e", "C:\\b;>C:\\e;C:\\d;"}});
 
   for (const char* rows : {">C:\\b;C:\\d;", "C:\\d;", "C:\\d;"}) {
     editor.form.cmdFFRemove_Click();
-    CHECK(rowsOf(list) == rows);
+    CHECK(currentIn(list) == rows);
   }
   list.ListIndex(0);
   editor.form.cmdFFRemove_Click();
-  CHECK(rowsOf(list) == "");
+  CHECK(currentIn(list) == "");
   add({{Keep, "f", ">C:\\f;"}});
 }
 
@@ -226,8 +227,8 @@ TEST_CASE("New replaces the mark for no entries, in any case") {
   editor.form.cmdFFNew_Click();
   editor.addKey("Software", "X");
   editor.form.cmdRegNew_Click();
-  CHECK(rowsOf(editor.state.lstFileFolder) == ">;");
-  CHECK(rowsOf(editor.state.lstRegistry) == "HKey_Current_User\\Software\\X- Key*;>;");
+  CHECK(currentIn(editor.state.lstFileFolder) == ">;");
+  CHECK(currentIn(editor.state.lstRegistry) == "HKey_Current_User\\Software\\X- Key*;>;");
   CHECK(editor.registryBoxes() == "HKey_Current_User||Key|");
   editor.state.cmdApply.Enabled = true;
   editor.form.cmdApply_Click();
@@ -321,12 +322,12 @@ TEST_CASE("opening shows what can be read before the first missing file") {
   Editor editor;
   editor.pc.file(Folder + "P.zb1", "C:\\a.txt");
   editor.form.ShowPlugin("P");
-  CHECK(rowsOf(editor.state.lstFileFolder) == "");
+  CHECK(currentIn(editor.state.lstFileFolder) == "");
   editor.pc.file(Folder + "P.zb2", "x");
   editor.form.ShowPlugin("P");
-  CHECK(rowsOf(editor.state.lstFileFolder) == "C:\\a.txt;");
+  CHECK(currentIn(editor.state.lstFileFolder) == "C:\\a.txt;");
   editor.form.ShowPlugin("none");
-  CHECK(rowsOf(editor.state.lstRegistry) == "");
+  CHECK(currentIn(editor.state.lstRegistry) == "");
 }
 
 TEST_CASE("the folder picker fills the path box unless it is cancelled; its prompt is trimmed") {

@@ -9,14 +9,6 @@ namespace {
 
 const std::string Folder = "C:\\Program Files\\Zubrane\\Plugins";
 
-std::string rowsOf(const ListRows& rows) {
-  std::string text;
-  for (int row = 0; row < rows.ListCount(); ++row) {
-    text += (rows.Selected(row) ? "*" : "") + rows.List(row) + ";";
-  }
-  return text;
-}
-
 }  // namespace
 
 TEST_CASE("an absent plugin folder is an empty list, until it is there") {

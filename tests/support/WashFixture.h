@@ -49,6 +49,15 @@ struct WashFixture {
   }
 };
 
+// The rows of a list, the ticked ones with "*" in front.
+inline std::string rowsOf(const ListRows& rows) {
+  std::string text;
+  for (int row = 0; row < rows.ListCount(); ++row) {
+    text += (rows.Selected(row) ? "*" : "") + rows.List(row) + ";";
+  }
+  return text;
+}
+
 // The lines of a diff that are no removals of something whose line names one of `expected`: what a wash did beyond
 // that.
 inline std::string beyond(std::string_view diff, const std::vector<std::string>& expected) {

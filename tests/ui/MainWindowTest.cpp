@@ -34,13 +34,7 @@ struct MainWindow : WashFixture {
       (main.*label).Caption = "none";
     }
   }
-  std::string rows() const {
-    std::string text;
-    for (int row = 0; row < options.lstFiles.ListCount(); ++row) {
-      text += (options.lstFiles.Selected(row) ? "*" : "") + options.lstFiles.List(row) + ";";
-    }
-    return text;
-  }
+  std::string rows() const { return rowsOf(options.lstFiles); }
 };
 
 }  // namespace

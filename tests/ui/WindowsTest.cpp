@@ -160,6 +160,9 @@ std::string stateOf(const Shown& shown) {
     if constexpr (requires { state->Visible; }) text += state->Visible ? "" : ", hidden";
     if constexpr (requires { state->Enabled; }) text += state->Enabled ? "" : ", disabled";
     if constexpr (std::is_same_v<State, const bool*>) text += *state ? "" : ", hidden";
+    if constexpr (requires { state->type(""); }) {
+      for (int row = 0; row < state->ListCount(); ++row) text += (row == 0 ? ": " : "; ") + state->List(row);
+    }
     if constexpr (requires { state->Bold; }) text += state->Bold ? ", bold" : "";
     if constexpr (requires { state->ForeColor; }) {
       char color[16];

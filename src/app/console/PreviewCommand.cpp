@@ -18,7 +18,8 @@ void printSums(const CommandContext& context, const Preview::Sums& sums) {
   std::string nothing;
   for (const std::string& name : sums.foundNothing) nothing += (nothing.empty() ? "" : ", ") + name;
   if (!nothing.empty()) context.print("Nothing to remove for: " + nothing);
-  context.print("Nothing has been removed.");
+  context.print(
+      "Nothing has been removed. What other programs open, write or remove until the wash is not foretold.");
 }
 
 void printList(const CommandContext& context, Preview& preview) {
@@ -42,6 +43,7 @@ int previewCommand(CommandContext& context) {
   const bool list = context.arguments == std::vector<std::string>{"--list"};
   if (!list) context.needNoArguments("preview");
   context.pc.needWashable();
+  tellOddFolders(context);
   Preview preview(context.pc.platform(), context.loop, context.loop);
   Program& program = preview.program;
   {

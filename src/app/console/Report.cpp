@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "app/console/OddFolders.h"
 #include "base/Text.h"
 
 namespace zub {
@@ -27,6 +28,12 @@ void printReport(const CommandContext& context, Program& program) {
   context.print(shown.lblRemove.Caption);
   context.print(shown.StatusBar1[1]);
   context.print(program.options.lblLastRemoval.Caption);
+}
+
+void tellOddFolders(const CommandContext& context) {
+  for (const std::string& folder : oddFolders(*context.pc.platform().registry)) {
+    context.tell(context.pc.toTerminal(folder));
+  }
 }
 
 int tellLeftBehind(const CommandContext& context, const Program& program, std::string_view happened) {

@@ -19,6 +19,8 @@ struct Attached {
 
 // The report and the closing figures; nothing where there was no wash.
 void printReport(const CommandContext& context, Program& program);
+// Tells the folders that a wash takes for others than the registry means.
+void tellOddFolders(const CommandContext& context);
 // Tells how much was tried and `happened`, such as "could not be removed"; the exit status of that.
 int tellLeftBehind(const CommandContext& context, const Program& program, std::string_view happened);
 

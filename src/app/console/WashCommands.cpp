@@ -3,7 +3,6 @@
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
-#include "app/console/OddFolders.h"
 #include "app/console/Report.h"
 #include "app/console/Store.h"
 #include "platform/folder/PcError.h"
@@ -27,9 +26,7 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
   context.pc.needWashable();
   context.pc.needWritable();
   context.needAlone();
-  for (const std::string& folder : oddFolders(*context.pc.platform().registry)) {
-    context.tell(context.pc.toTerminal(folder));
-  }
+  tellOddFolders(context);
   Program program(context.pc.platform());
   program.engine.clean.cleaners.ended = [&context] { saved(context.pc); };
   {

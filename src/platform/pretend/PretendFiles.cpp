@@ -200,6 +200,28 @@ std::uint32_t PretendFiles::attributes(std::string_view path) {
   return reset && bits != attribute::Invalid ? cleared(bits) : bits;
 }
 
+class PretendFiles::Grip : public FileGrip {
+ public:
+  Grip(PretendFiles& files, std::string_view path) : files_(files), path_(path) {}
+  void resetAttributes() override { files_.resetAttributes(path_); }
+  std::int64_t length(ReadOnlyBit bit) override { return files_.openedLength(path_, bit); }
+  std::unique_ptr<FileChannel> open() override { return files_.open(path_, OpenMode::Binary); }
+  void remove() override { files_.remove(path_); }
+
+ private:
+  PretendFiles& files_;
+  std::string path_;
+};
+
+std::unique_ptr<FileGrip> PretendFiles::grip(std::string_view path) {
+  const Spot spot = locate(path);
+  if (spot.own == nullptr && spot.asksBeneath())
+    beneath_.grip(path);
+  else if (spot.own == nullptr)
+    throw RuntimeError(ErrorNumber::FileNotFound);
+  return std::make_unique<Grip>(*this, path);
+}
+
 void PretendFiles::resetAttributes(std::string_view path) {
   const Spot spot = locate(path);
   if (spot.own != nullptr) {
@@ -227,15 +249,14 @@ std::int64_t PretendFiles::removable(std::string_view path, Removal how) {
   return beneath_.removable(path, reset && how == Removal::File ? Removal::EvenReadOnly : how);
 }
 
-std::int64_t PretendFiles::openedLength(std::string_view path) {
+std::int64_t PretendFiles::openedLength(std::string_view path, ReadOnlyBit bit) {
   const Spot spot = locate(path);
   if (spot.own != nullptr) {
-    if (!spot.own->content) throw RuntimeError(ErrorNumber::PathFileAccess);
-    return removable(path, Removal::File);
+    return removable(path, bit == ReadOnlyBit::Counts ? Removal::File : Removal::EvenReadOnly);
   }
   if (!spot.asksBeneath()) throwMissing(spot);
   const bool reset = spot.folder != nullptr && spot.folder->reset.contains(spot.name);
-  return reset ? beneath_.removable(path, Removal::EvenReadOnly) : beneath_.openedLength(path);
+  return beneath_.grip(path)->length(reset ? ReadOnlyBit::Ignored : bit);
 }
 
 // The file's own form, made for the first change of its content.
@@ -248,15 +269,17 @@ PretendFiles::Own& PretendFiles::writable(std::string_view path, const Spot& spo
   Own own;
   own.name = withoutEnd(path).substr(behindFolder(withoutEnd(path)));
   own.content = std::make_shared<PretendContent>();
-  if (spot.asksBeneath() && beneath_.attributes(path) != attribute::Invalid) {
-    const std::int64_t length = openedLength(path);
-    own.attributes = attributes(path);
+  own.attributes = attributes(path);
+  if (own.attributes != attribute::Invalid) {
+    if ((own.attributes & attribute::ReadOnly) != 0) throw RuntimeError(ErrorNumber::PathFileAccess);
+    const std::int64_t length = openedLength(path, ReadOnlyBit::Counts);
     FoundFile found;
     if (const auto search = beneath_.find(path); search && search->next(found)) own.name = found.name;
     own.overBeneath = true;
     own.content = std::make_shared<PretendContent>(beneath_, std::string(path), length);
   } else {
     checkMakeable(path, spot, Removal::File);
+    own.attributes = attribute::Archive;
   }
   return changed(spot).own[spot.name] = own;
 }
@@ -273,6 +296,9 @@ std::unique_ptr<FileChannel> PretendFiles::open(std::string_view path, OpenMode 
 }
 
 void PretendFiles::replace(std::string_view path, std::string_view bytes) {
+  const std::uint32_t bits = attributes(path);
+  if (bits != attribute::Invalid && (bits & attribute::Link) != 0)
+    throw RuntimeError(ErrorNumber::PathFileAccess);
   PretendContent& content = *writable(path, locate(path)).content;
   content.clear();
   content.write(0, bytes);
