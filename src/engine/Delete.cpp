@@ -23,7 +23,7 @@ bool Delete::DeleteFolder(std::string_view strPath, std::string_view strPattern)
   engine_.animated->RemoveEntries(removing::Files);
   for (std::size_t file = 0; file < DelFileList.size(); ++file) {
     engine_.pc.events->DoEvents();
-    if (file < DelFileList.size()) DeleteFile(std::string(DelFileList[file]), 0);
+    if (file < DelFileList.size()) DeleteFile(DelFileList[file], 0);
   }
   engine_.animated->RemoveEntries(removing::Folder);
   if (strPattern == AllFiles) {
@@ -56,38 +56,48 @@ void Delete::ListFilesFolder(std::string_view Path, std::string_view SearchStr) 
 
 // Depth first, the folders of a level before its files, by a list of folders to come: no tree is too deep.
 void Delete::WalkFolder(const std::string& start, std::string_view strPattern) {
-  std::vector<std::string> toCome{start};
-  std::vector<std::string> children;
+  const auto walk = std::make_shared<WalkedFolders>(start);
+  std::vector<std::size_t> toCome{WalkedFolders::Start};
+  std::vector<std::size_t> children;
   while (!toCome.empty()) {
-    const std::string folder = std::move(toCome.back());
+    const std::size_t folder = toCome.back();
     toCome.pop_back();
     children.clear();
     try {
-      listFolder(folder, strPattern, children);
+      listFolder(walk, folder, strPattern, children);
     } catch (const RuntimeError& failure) {
-      countUnread(folder, failure);
+      countUnread(walk->textOf(folder), failure);
     }
-    for (std::size_t left = children.size(); left > 0; --left)
-      toCome.push_back(folder + children[left - 1] + "\\");
+    toCome.insert(toCome.end(), children.rbegin(), children.rend());
   }
 }
 
 // Folders are found whatever the pattern is. A link to a folder goes where folders go: with all files only.
-void Delete::listFolder(const std::string& folder, std::string_view strPattern,
-                        std::vector<std::string>& children) {
+void Delete::listFolder(const Walk& walk, std::size_t folder, std::string_view strPattern,
+                        std::vector<std::size_t>& children) {
+  const std::string path = walk->textOf(folder);
+  const bool everything = strPattern == AllFiles;  // one listing tells folders and files
+  std::vector<std::string> all;                    // a folder as the empty text
   FoundFile found;
-  if (const auto search = engine_.pc.files->find(folder + "*")) {
+  if (const auto search = engine_.pc.files->find(path + "*")) {
     while (search->next(found)) {
-      if (!isFolder(found.attributes)) continue;
-      children.push_back(found.name);
-      DelDirList.push_back(folder + found.name);
+      const bool isDir = isFolder(found.attributes);
+      if (everything) all.push_back(isDir ? std::string() : found.name);
+      if (!isDir) continue;
+      children.push_back(walk->add(folder, found.name));
+      DelDirList.add(walk, folder, found.name);
     }
   }
-  if (const auto search = engine_.pc.files->find(joined({folder, strPattern}))) {
+  for (const std::string& name : all) {
+    engine_.pc.events->DoEvents();
+    if (!name.empty()) DelFileList.add(walk, folder, name);
+  }
+  if (everything) return;
+  if (const auto search = engine_.pc.files->find(joined({path, strPattern}))) {
     while (search->next(found)) {
       engine_.pc.events->DoEvents();
-      if (isFolder(found.attributes) || (isFolderLink(found.attributes) && strPattern != AllFiles)) continue;
-      DelFileList.push_back(folder + found.name);
+      if (!isFolder(found.attributes) && !isFolderLink(found.attributes))
+        DelFileList.add(walk, folder, found.name);
     }
   }
 }
@@ -140,12 +150,13 @@ bool Delete::DeleteFile(std::string_view strFileName, int nSpecial) {
   engine_.animated->RemoveEntries(removing::Files);
   try {
     // First of all, so that a missing file fails before anything could create it.
-    files.resetAttributes(strFileName);
-    const std::int64_t length = files.openedLength(strFileName);
+    const auto file = files.grip(strFileName);
+    file->resetAttributes();
+    const std::int64_t length = file->length();
     const int bleach = engine_.options.chkBleach.Value();
     if (bleach == 0) engine_.clean.AddItem(joined({"\tDeleting file ", lastPathPart(strFileName)}));
-    if (bleach == 1) ZUBShredder(strFileName, leadingNumber(engine_.options.cmbShredder.Text()));
-    files.remove(strFileName);
+    if (bleach == 1) ZUBShredder(*file, strFileName, leadingNumber(engine_.options.cmbShredder.Text()));
+    file->remove();
     engine_.TotalBytes = checkedAdd(engine_.TotalBytes, length);
     return false;
   } catch (const RuntimeError& failure) {
@@ -190,10 +201,10 @@ void Delete::removeAtRestart(std::string_view strFileName) {
   }
 }
 
-void Delete::ZUBShredder(std::string_view szname, int nTimes) {
+void Delete::ZUBShredder(FileGrip& grip, std::string_view szname, int nTimes) {
   static constexpr std::array<char, BlockSize> zeros{};
   try {
-    const auto file = engine_.pc.files->open(szname, OpenMode::Binary);
+    const auto file = grip.open();
     const std::int64_t blocks = divideRoundHalfEven(file->length(), BlockSize);
     engine_.clean.AddItem(joined({"\tShredding file ", lastPathPart(szname)}));
     for (int pass = 1; pass <= nTimes; ++pass) {

@@ -5,12 +5,15 @@
 // second DeleteFolder inside a first one's turn of the event loop would clear the lists under it.
 #pragma once
 
+#include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "base/RuntimeError.h"
 #include "engine/FileLister.h"
+#include "engine/FoundPaths.h"
 #include "state/Controls.h"
 
 namespace zub {
@@ -38,16 +41,18 @@ class Delete {
   void ListFilesFolder(std::string_view Path, std::string_view SearchStr);
   // Overwrites whole blocks of 1024 bytes with zeros, nTimes over, all but the last block; what a pass wrote has
   // reached the disk before the next pass begins. Name, length and tail of the file stay.
-  void ZUBShredder(std::string_view szname, int nTimes);
+  void ZUBShredder(FileGrip& grip, std::string_view szname, int nTimes);
 
-  std::vector<std::string> DelDirList;   // folders, parents before their children
-  std::vector<std::string> DelFileList;  // matching files
+  FoundPaths DelDirList;   // folders, parents before their children
+  FoundPaths DelFileList;  // matching files
   FileLister DelFile;
   MousePointer mousePointer = MousePointer::Default;
 
  private:
-  void WalkFolder(const std::string& folder, std::string_view strPattern);
-  void listFolder(const std::string& folder, std::string_view strPattern, std::vector<std::string>& children);
+  using Walk = std::shared_ptr<WalkedFolders>;
+  void WalkFolder(const std::string& start, std::string_view strPattern);
+  void listFolder(const Walk& walk, std::size_t folder, std::string_view strPattern,
+                  std::vector<std::size_t>& children);
   void countUnread(std::string_view folder, const RuntimeError& failure);
   bool FolderPresent(std::string_view strPath);
   void RemoveFolderTree(std::string_view strPath);

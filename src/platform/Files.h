@@ -4,9 +4,10 @@
 //
 // Names are told as platform/ToldName.h says, and each told name leads back to exactly its own entry.
 //
-// A link (a junction too) is a file of length 0; removing it removes the link. Nothing that walks enters one. A path
-// may go through a link to a folder where the PC's own system follows it; on a PC in a folder it leads nowhere (70).
-// Other reparse points, such as files kept in a cloud, are the files and folders that they look like.
+// A link (a junction too) is a file of length 0; removing it removes the link. Nothing that walks enters one. A
+// path may go through a link to a folder where the PC's own system follows it; on a PC in a folder it leads
+// nowhere (70). Other reparse points, such as files kept in a cloud, are the files and folders that they look
+// like.
 //
 // What fails throws RuntimeError:
 //   52 a name that no file can have          53 no such file          57 device failure          61 disk full
@@ -88,13 +89,26 @@ class FileChannel {
   virtual void sync() = 0;  // what was written has reached the disk, in its old place
 };
 
+enum class ReadOnlyBit : std::uint8_t { Counts, Ignored };
+
+// A file that was found, to be removed: its steps look for nothing anew, so that all of them are for what was found in
+// the folder that was found, whatever lies at its path by then.
+class FileGrip {
+ public:
+  virtual ~FileGrip() = default;
+  virtual void resetAttributes() = 0;  // clears all of them
+  // Fails as opening it to be written does. With the bit ignored, as if the file were not read-only; the system tells no
+  // more then than that the bit could be cleared.
+  virtual std::int64_t length(ReadOnlyBit bit = ReadOnlyBit::Counts) = 0;
+  virtual std::unique_ptr<FileChannel> open() = 0;  // to be written over; never made where it is gone
+  virtual void remove() = 0;
+};
+
 enum class Removal : std::uint8_t {
   File,
   EvenReadOnly,  // a file as it goes with its folder
   EmptyFolder,   // what it holds is left aside
 };
-
-enum class ReadOnlyBit : std::uint8_t { Counts, Ignored };
 
 class Files {
  public:
@@ -108,16 +122,12 @@ class Files {
 
   // The attribute bits, or attribute::Invalid. Does not fail.
   virtual std::uint32_t attributes(std::string_view path) = 0;
-  // Clears all attributes. 53 for a missing file also where its folder is missing or the name can name no file.
-  virtual void resetAttributes(std::string_view path) = 0;
+  // 53 for a missing file also where its folder is missing or the name can name no file.
+  virtual std::unique_ptr<FileGrip> grip(std::string_view path) = 0;
 
   virtual std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) = 0;
-  // The same as opening for Binary, taking the length and closing, but does not make a missing file: 53. With the bit
-  // ignored, as if the file were not read-only; the system tells no more then than that the bit could be cleared.
-  virtual std::int64_t openedLength(std::string_view path, ReadOnlyBit bit = ReadOnlyBit::Counts) = 0;
   // Whether a file or folder could be removed now: fails as its removal would, and changes nothing. A file's length.
   virtual std::int64_t removable(std::string_view path, Removal how) = 0;
-  virtual void remove(std::string_view path) = 0;
   // Writes a file whole, made where it is missing: the bytes are written beside it (under a name of this
   // process, "Cookies.txt.1234.new") and take its place once they have reached the disk. At every moment
   // the file is the old one or the new one; where that fails, the old one. It keeps its name and attributes.

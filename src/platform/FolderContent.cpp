@@ -8,8 +8,9 @@ namespace {
 
 void removeEntry(Files& files, const std::string& path, const FoundFile& found) {
   if (isFolder(found.attributes)) return files.deleteFolder(path);
-  files.resetAttributes(path);
-  files.remove(path);
+  const auto file = files.grip(path);
+  file->resetAttributes();
+  file->remove();
 }
 
 bool emptyFolder(Files& files, const std::string& folder) {

@@ -16,7 +16,7 @@ portrait "$pc" >"$work/new"
 run 0 --pc "$pc" options
 says "lblLastRemoval="
 says "chkTempFolder=0"
-for listing in plugins schedule "plugin show ACDSee" "cookies netscape"; do zub --pc "$pc" $listing; done
+for listing in plugins schedule "plugin show ACDSee" "cookies netscape" users preview; do zub --pc "$pc" $listing; done
 zub --pc "$pc" cookies ie
 check "a listing changed the PC" diff "$work/new" <(portrait "$pc")
 

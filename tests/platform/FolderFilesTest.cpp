@@ -11,6 +11,7 @@
 #include "support/TempFolder.h"
 
 #ifndef _WIN32
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -58,7 +59,7 @@ TEST_CASE("what is remembered of a folder's names hides nothing that the program
   CHECK(files.fileExists("C:\\T\\new.txt"));
   files.createFolder("C:\\T\\SUB");
   CHECK(files.folderExists("C:\\T\\sub"));
-  files.remove("C:\\T\\a LONG name.txt");
+  files.grip("C:\\T\\a LONG name.txt")->remove();
   CHECK_FALSE(files.fileExists("C:\\T\\a LONG name.txt"));
 }
 
@@ -84,10 +85,10 @@ TEST_CASE("no path leads out of the folder") {
   for (const std::string& path : paths) {
     CAPTURE(path);
     CHECK_FALSE(files.fileExists(path));
-    CHECK(failure([&] { files.remove(path); }) != 0);
+    CHECK(failure([&] { files.grip(path)->remove(); }) != 0);
     CHECK(failure([&] { files.open(path, OpenMode::Input); }) != 0);
     const bool isRoot = path == "..";
-    CHECK(failure([&] { files.resetAttributes(path); }) == (isRoot ? 0 : 53));
+    CHECK(failure([&] { files.grip(path)->resetAttributes(); }) == (isRoot ? 0 : 53));
     CHECK(files.shortPath(path) == (isRoot ? "C:\\" : ""));
   }
   CHECK(failure([&] { files.deleteFolder("C:\\.."); }) == 75);
@@ -106,7 +107,7 @@ TEST_CASE("paths that mean the same file") {
         "C:WINDOWS\\.\\My Folder\\x\\..\\file.txt", "C:\\..\\WINDOWS\\My Folder. \\file.txt. ."}) {
     CAPTURE(path);
     CHECK(files.fileExists(path));
-    CHECK(files.openedLength(path) == 5);
+    CHECK(files.grip(path)->length() == 5);
   }
 }
 
@@ -117,7 +118,7 @@ TEST_CASE("names that no file can have") {
                            "C:\\com1.x", "C:\\x\\lpt9", "C:\\ \\a", "C:\\...", "C:\\a\tb", ""}) {
     CAPTURE(path);
     CHECK(failure([&] { files.open(path, OpenMode::Binary); }) == 52);
-    CHECK(failure([&] { files.resetAttributes(path); }) == 53);
+    CHECK(failure([&] { files.grip(path)->resetAttributes(); }) == 53);
     CHECK(files.attributes(path) == attribute::Invalid);
   }
   CHECK(failure([&] { files.open("C:\\" + std::string(300, 'n'), OpenMode::Binary); }) == 52);
@@ -132,13 +133,13 @@ TEST_CASE("facts about files and drives") {
   pc.file("D:\\f");
   Files& files = *pc.platform().files;
   CHECK(files.attributes("C:\\h.txt") == (attribute::Hidden | attribute::System));
-  files.resetAttributes("C:\\h.txt");
+  files.grip("C:\\h.txt")->resetAttributes();
   CHECK(files.attributes("C:\\h.txt") == attribute::Normal);
 
   CHECK(failure([&] { files.open("C:\\Long dir\\locked.HTML", OpenMode::Input); }) == 70);
-  CHECK(failure([&] { files.remove("C:\\Long dir\\locked.HTML"); }) == 70);
+  CHECK(failure([&] { files.grip("C:\\Long dir\\locked.HTML")->remove(); }) == 70);
   CHECK(failure([&] { files.deleteFolder("C:\\long DIR"); }) == 70);
-  CHECK(failure([&] { files.remove("D:\\f"); }) == 70);
+  CHECK(failure([&] { files.grip("D:\\f")->remove(); }) == 70);
   CHECK(failure([&] { files.createFolder("D:\\new"); }) == 70);
   CHECK(failure([&] { files.open("D:\\f", OpenMode::Binary); }) == 70);
   CHECK(failure([&] { files.open("D:\\f", OpenMode::Input); }) == 0);
@@ -196,9 +197,9 @@ TEST_CASE("a link is a file of length 0 in every place and its target stays") {
   link(outside, fenced.temp.path() + "/pc/D");  // no drive
 
   CHECK_FALSE(fenced.pc->drives.exists("D:"));
-  CHECK(failure([&] { files.remove("D:\\secret"); }) == 76);
+  CHECK(failure([&] { files.grip("D:\\secret"); }) == 53);
   CHECK(failure([&] { files.find("C:\\folder\\*"); }) == 70);
-  CHECK(failure([&] { files.remove("C:\\folder\\secret"); }) == 70);
+  CHECK(failure([&] { files.grip("C:\\folder\\secret")->remove(); }) == 70);
   CHECK(failure([&] { files.open("C:\\folder\\new", OpenMode::Binary); }) == 70);
   CHECK(failure([&] { files.createFolder("C:\\folder\\new"); }) == 70);
   CHECK(failure([&] { files.deleteFolder("C:\\folder"); }) == 76);
@@ -208,9 +209,9 @@ TEST_CASE("a link is a file of length 0 in every place and its target stays") {
     CHECK(isFolderLink(files.attributes(path)) == (path == std::string("C:\\folder")));
     CHECK(failure([&] { files.open(path, OpenMode::Input); }) == 75);
     CHECK(failure([&] { files.open(path, OpenMode::Binary); }) == 75);
-    files.resetAttributes(path);
-    CHECK(files.openedLength(path) == 0);
-    files.remove(path);
+    files.grip(path)->resetAttributes();
+    CHECK(files.grip(path)->length() == 0);
+    files.grip(path)->remove();
     CHECK(files.attributes(path) == attribute::Invalid);
   }
   CHECK(fenced.untouched());
@@ -243,7 +244,7 @@ TEST_CASE("a link swapped in while a search runs is not followed") {
   link(fenced.temp.path() + "/outside", c + "/walk");
   do {
     files.folderExists("C:\\WINDOWS\\TEMP");  // no handle is kept on the way to the folder
-    failure([&] { files.remove("C:\\walk\\" + found.name); });
+    failure([&] { files.grip("C:\\walk\\" + found.name)->remove(); });
   } while (search->next(found));
   CHECK(failure([&] { files.find("C:\\walk\\*.*x*"); }) == 70);
   CHECK(fenced.untouched());
@@ -256,6 +257,34 @@ TEST_CASE("a folder replaced behind a kept handle is found anew") {
   REQUIRE(fenced.drive->rename("a", "b") == HostError::None);
   writeHostFile(*fenced.folder("a"), "new", "x");
   CHECK(fenced.files().fileExists("C:\\a\\new"));
+}
+
+TEST_CASE("a grip is on the file that was found, whatever lies at its path by then") {
+  Fenced fenced;
+  writeHostFile(*fenced.folder("a"), "f", "x");
+  const auto grip = fenced.files().grip("C:\\a\\f");
+  REQUIRE(fenced.drive->rename("a", "b") == HostError::None);
+  const auto other = fenced.folder("a");
+  writeHostFile(*other, "f", "another");
+  grip->resetAttributes();
+  grip->open()->write("y");
+  grip->remove();
+  CHECK(readHostFile(*other, "f") == "another");
+  CHECK_FALSE(fenced.files().fileExists("C:\\b\\f"));
+}
+
+TEST_CASE("a tree that is deeper than the limit of open files goes") {
+  Fenced fenced;
+  rlimit limit{};
+  REQUIRE(::getrlimit(RLIMIT_NOFILE, &limit) == 0);
+  const rlimit few{std::min<rlim_t>(limit.rlim_cur, 200), limit.rlim_max};
+  REQUIRE(::setrlimit(RLIMIT_NOFILE, &few) == 0);
+  std::string path = "C:\\tree";
+  for (int level = 0; level < 700; ++level, path += "\\d") fenced.files().createFolder(path);
+  fenced.files().open(path + "f", OpenMode::Binary);
+  fenced.files().deleteFolder("C:\\tree");
+  ::setrlimit(RLIMIT_NOFILE, &limit);
+  CHECK_FALSE(fenced.files().folderExists("C:\\tree"));
 }
 
 TEST_CASE("a profile is replaced in one step, and no file beside it is lost") {
@@ -285,7 +314,7 @@ TEST_CASE("a search whose listing fails in its midst says so") {
     bool told = false;
   };
   const PcFacts facts("");
-  FolderSearch search(std::make_unique<Failing>(), "*.txt", FolderPath{}, facts);
+  FolderSearch search(std::make_unique<Failing>(), "*.txt", "", facts);
   FoundFile found;
   REQUIRE(search.next(found));
   CHECK(failure([&] { search.next(found); }) == 57);
@@ -315,7 +344,7 @@ TEST_CASE("names that only another system makes are told so that they lead back"
   CHECK(namesIn(files, "C:\\odd\\*") == expected);
   std::size_t left = expected.size();
   for (const std::string& name : expected) {
-    files.remove("C:\\odd\\" + name);
+    files.grip("C:\\odd\\" + name)->remove();
     CHECK(namesIn(files, "C:\\odd\\*").size() == --left);
   }
   CHECK(fenced.untouched());

@@ -131,7 +131,7 @@ TEST_CASE("drives lie in folders of the PC's folder, or where the facts tell") {
   REQUIRE(oddities.size() == 2);
   CHECK(contains(oddities[0], "drive F: holds no disk"));
   CHECK(contains(oddities[1], "drive E: is empty"));
-  pc.files.remove("C:\\f");
+  pc.files.grip("C:\\f")->remove();
   CHECK_FALSE(pc.files.fileExists("D:\\F"));
 }
 
@@ -184,7 +184,7 @@ TEST_CASE("a save changes only what the program changed") {
     CHECK(folder.text("pc.txt") == facts);
 
     pc.files.open("C:\\h", OpenMode::Binary)->close();
-    pc.files.resetAttributes("C:\\h");
+    pc.files.grip("C:\\h")->resetAttributes();
     pc.files.createFolder("C:\\tree");
     pc.files.deleteFolder("C:\\tree");
     pc.restart.deleteAtRestart("c:\\h");

@@ -94,7 +94,7 @@ class Pretending : public Base {
   // such as a folder in use, is the base's to remove.
   void tidyUp() {
     try {
-      for (const std::string& path : elsewhere_) beneath().files->remove(path);
+      for (const std::string& path : elsewhere_) beneath().files->grip(path)->remove();
       beneath().files->deleteFolder(Base::folder());
     } catch (const RuntimeError&) {
     }

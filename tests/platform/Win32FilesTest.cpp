@@ -42,7 +42,7 @@ TEST_CASE("a stand-in is never read as a part of the path itself") {
     CAPTURE(std::string(name));
     if (!isNt(pc) && std::string_view(name) == "con")
       continue;  // found and not removed, as the device that it is
-    CHECK(failure([&] { files.remove(pc.folder() + '\\' + name); }) == 52);
+    CHECK(failure([&] { files.grip(pc.folder() + '\\' + name); }) == 53);
     CHECK_FALSE(files.find(pc.folder() + '\\' + name));
   }
   CHECK(files.fileExists(pc.folder() + "\\kept"));
@@ -69,8 +69,8 @@ TEST_CASE("code page 932: no byte of a character is taken for a separator" * doc
   CHECK(files.find(base + "\x95\x5C"));
 
   files.deleteFolder(base + "<8868>");
-  files.remove(base + "<30BD>.tmp");
-  files.remove(base + "\x82\xA0.tmp");
+  files.grip(base + "<30BD>.tmp")->remove();
+  files.grip(base + "\x82\xA0.tmp")->remove();
   for (const char16_t* gone : {u"\u8868", u"\u30BD.tmp", u"\u3042.tmp"}) CHECK_FALSE(pc.hasWide(gone));
   for (const char* decoy : {".tmp", "tmp", "kept"}) CHECK(files.fileExists(base + decoy));
 }

@@ -125,6 +125,38 @@ class TestSearch : public FileSearch {
   std::map<std::string, FoundFile> sorted_;
 };
 
+// Its first step is logged and fails where the file is looked for.
+class TestGrip : public FileGrip {
+ public:
+  using Call = TestPc::Call;
+  TestGrip(std::unique_ptr<FileGrip> grip, const FileFaults& faults, const CallLog& log,
+           std::string_view path)
+      : grip_(std::move(grip)), faults_(faults), log_(log), path_(path) {}
+
+  void resetAttributes() override { grip_->resetAttributes(); }
+  std::int64_t length(ReadOnlyBit bit) override {
+    log_({"length of ", path_});
+    faults_.strike(Call::OpenedLength, path_);
+    return grip_->length(bit);
+  }
+  std::unique_ptr<FileChannel> open() override {
+    log_({"open to write over ", path_});
+    faults_.strike(Call::Open, path_);
+    return std::make_unique<TestChannel>(grip_->open(), faults_, log_, path_);
+  }
+  void remove() override {
+    log_({"remove ", path_});
+    faults_.strike(Call::Remove, path_);
+    grip_->remove();
+  }
+
+ private:
+  std::unique_ptr<FileGrip> grip_;
+  const FileFaults& faults_;
+  const CallLog& log_;
+  std::string path_;
+};
+
 class TestFiles : public Files {
  public:
   using Call = TestPc::Call;
@@ -153,10 +185,10 @@ class TestFiles : public Files {
     log_({"short path of ", path});
     return files_.shortPath(path);
   }
-  void resetAttributes(std::string_view path) override {
+  std::unique_ptr<FileGrip> grip(std::string_view path) override {
     log_({"reset attributes of ", path});
     faults_.strike(Call::ResetAttributes, path);
-    files_.resetAttributes(path);
+    return std::make_unique<TestGrip>(files_.grip(path), faults_, log_, path);
   }
   std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override {
     constexpr const char* how[] = {"open to write over ", "open to read ", "open anew "};
@@ -164,19 +196,9 @@ class TestFiles : public Files {
     faults_.strike(Call::Open, path);
     return std::make_unique<TestChannel>(files_.open(path, mode), faults_, log_, path);
   }
-  std::int64_t openedLength(std::string_view path, ReadOnlyBit bit) override {
-    log_({"length of ", path});
-    faults_.strike(Call::OpenedLength, path);
-    return files_.openedLength(path, bit);
-  }
   std::int64_t removable(std::string_view path, Removal how) override {
     faults_.strike(Call::Remove, path);
     return files_.removable(path, how);
-  }
-  void remove(std::string_view path) override {
-    log_({"remove ", path});
-    faults_.strike(Call::Remove, path);
-    files_.remove(path);
   }
   void replace(std::string_view path, std::string_view bytes) override {
     log_({"replace ", path});

@@ -47,6 +47,10 @@ class FolderConsolePc : public ConsolePc {
   }
   std::vector<std::string> oddities() override {
     std::vector<std::string> lines = pc_.driveFolders().oddities();
+    for (const std::string& bins : pc_.shell.unknownBins()) {
+      lines.push_back(utf8FromAnsi(bins) +
+                      ": no recycle bin in it is emptied: \"user = S-1-...\" tells whose is meant");
+    }
     for (std::string& line : lines) line = printable(line, Letters::Utf8);
     return lines;
   }

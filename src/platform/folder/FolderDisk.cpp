@@ -41,10 +41,9 @@ std::size_t FolderDisk::sharedParts(const FolderPath& path, std::size_t parts) c
   return shared;
 }
 
-FolderNames& FolderDisk::namesOf(HostDir& folder, const FolderPath& path, std::size_t parts) {
-  FolderPath prefix{path.drive, {}};
-  prefix.parts.assign(path.parts.begin(), path.parts.begin() + static_cast<std::ptrdiff_t>(parts));
-  const std::string key = prefix.key();
+FolderNames& FolderDisk::names() {
+  std::string key;
+  for (const Open& folder : open_) key += folded(folder.name) + '\\';
   auto known = names_.find(key);
   if (known != names_.end() && !known->second.fresh()) {
     names_.erase(known);
@@ -52,27 +51,26 @@ FolderNames& FolderDisk::namesOf(HostDir& folder, const FolderPath& path, std::s
   }
   if (known != names_.end()) return known->second;
   if (names_.size() == MostFolders) names_.clear();
-  return names_.emplace(key, FolderNames(folder)).first->second;
+  return names_.emplace(key, FolderNames(*open_.back().dir)).first->second;
 }
 
-// Tries the part of the path as it is written and then by the names that it may mean. `hostName` is the one
-// that the last try was for; where nothing is there, as written.
+// Tries a name in the folder that is open last, as it is written and then by the names that it may mean. `hostName` is
+// the one that the last try was for; where nothing is there, as written.
 template <class Try>
-HostError FolderDisk::byAnyName(HostDir& folder, const FolderPath& path, std::size_t at,
-                                std::string& hostName, Try attempt) {
-  const std::string& name = path.parts[at];
+HostError FolderDisk::byAnyName(const std::string& name, std::string& hostName, Try attempt) {
+  HostDir& folder = *open_.back().dir;
   hostName = utf8FromAnsi(name);
   // Some hosts find an entry by its 8.3 name, too, and then do not tell its own.
   const bool mayBeShort = isMadeShortName(name);
   HostError error = HostError::NotFound;
-  if (!mayBeShort || namesOf(folder, path, at).has(hostName)) error = attempt();
+  if (!mayBeShort || names().has(hostName)) error = attempt();
   if (error != HostError::NotFound) return error;
-  FolderNames& names = namesOf(folder, path, at);
-  while (const auto found = names.find(folder, name)) {
+  FolderNames& known = names();
+  while (const auto found = known.find(folder, name)) {
     hostName = *found;
     error = attempt();
     if (error != HostError::NotFound) return error;
-    names.drop(*found);
+    known.drop(*found);
   }
   hostName = utf8FromAnsi(name);
   if (!mayBeShort) return error;
@@ -97,39 +95,103 @@ void FolderDisk::holdLast() {
   std::size_t held = open_.size() - 1;
   while (open_[held].dir == nullptr) --held;
   for (std::size_t at = held + 1; at < open_.size(); ++at) {
-    const HostError error = open_[at - 1].dir->openDir(open_[at].hostName, open_[at].dir);
+    std::unique_ptr<HostDir> dir;
+    const HostError error = open_[at - 1].dir->openDir(open_[at].hostName, dir);
     if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
     check(error);
+    open_[at].dir = std::move(dir);
     letGoBefore(at);
   }
 }
 
-HostDir& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
+// Goes one folder down.
+void FolderDisk::enter(const std::string& name) {
+  HostDir& folder = *open_.back().dir;
+  std::unique_ptr<HostDir> next;
+  std::string hostName;
+  const HostError error = byAnyName(name, hostName, [&] { return folder.openDir(hostName, next); });
+  if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
+  if (error == HostError::NotAFolder && isLink(folder, hostName))
+    throw RuntimeError(ErrorNumber::PermissionDenied);
+  check(error);
+  open_.push_back({name, std::move(hostName), std::move(next)});
+  letGoBefore(open_.size() - 1);
+}
+
+HostDir& FolderDisk::here() {
+  holdLast();
+  return *open_.back().dir;
+}
+
+HostError FolderDisk::down(const std::string& hostName) {
+  std::unique_ptr<HostDir> next;
+  const HostError error = here().openDir(hostName, next);
+  if (error != HostError::None) return error;
+  open_.push_back({toldNameFromUtf8(hostName), hostName, std::move(next)});
+  letGoBefore(open_.size() - 1);
+  return error;
+}
+
+void FolderDisk::foundIn(std::string_view folder) {
+  const bool plain = folder.size() > 2 && folder[1] == ':' && folder.back() == '\\' &&
+                     static_cast<std::size_t>(std::ranges::count(folder, '\\')) == open_.size();
+  text_ = plain ? folder : std::string_view();
+}
+
+bool FolderDisk::enterFromLast(std::string_view folder) {
+  const auto differ = std::ranges::mismatch(folder, text_).in1;
+  const auto shared = folder.substr(0, static_cast<std::size_t>(differ - folder.begin())).rfind('\\') + 1;
+  if (shared == 0) return false;
+  const auto over = std::ranges::count(std::string_view(text_).substr(shared), '\\');
+  open_.resize(open_.size() - static_cast<std::size_t>(over));
+  text_.resize(shared);
+  folder.remove_prefix(shared);
+  try {
+    holdLast();
+    while (!folder.empty()) {
+      const std::string_view part = folder.substr(0, folder.find('\\'));
+      if (part.size() == folder.size() || !isPlainPart(part)) return false;
+      enter(std::string(part));
+      text_.append(part) += '\\';
+      folder.remove_prefix(part.size() + 1);
+    }
+  } catch (const RuntimeError&) {
+    close();
+  }
+  return !open_.empty();
+}
+
+HostDir* FolderDisk::folderFromLast(std::string_view folder) {
+  return enterFromLast(folder) ? open_.back().dir.get() : nullptr;
+}
+
+std::optional<FolderDisk::Place> FolderDisk::placeFromLast(std::string_view path) {
+  const auto behindFolder = path.rfind('\\') + 1;
+  const std::string name(path.substr(behindFolder));
+  if (!isPlainPart(name) || !enterFromLast(path.substr(0, behindFolder))) return std::nullopt;
+  Place place;
+  place.parent = open_.back().dir;
+  const HostError error =
+      byAnyName(name, place.name, [&] { return place.parent->stat(place.name, place.stat); });
+  place.exists = error == HostError::None;
+  return place.exists ? std::optional(place) : std::nullopt;
+}
+
+const std::shared_ptr<HostDir>& FolderDisk::openOn(const FolderPath& path, std::size_t parts) {
+  text_.clear();
   if (open_.empty() || open_[0].name[0] != path.drive) {
     open_.clear();
     const std::string letter(1, path.drive);
     open_.push_back({letter, letter, openDrive(path.drive)});
   }
-  std::size_t at = sharedParts(path, parts);
-  open_.resize(at + 1);
+  const std::size_t shared = sharedParts(path, parts);
+  open_.resize(shared + 1);
   holdLast();
-  for (; at < parts; ++at) {
-    HostDir& here = *open_.back().dir;
-    const std::string& name = path.parts[at];
-    std::unique_ptr<HostDir> next;
-    std::string hostName;
-    const HostError error = byAnyName(here, path, at, hostName, [&] { return here.openDir(hostName, next); });
-    if (error == HostError::NotFound) throw RuntimeError(ErrorNumber::PathNotFound);
-    if (error == HostError::NotAFolder && isLink(here, hostName))
-      throw RuntimeError(ErrorNumber::PermissionDenied);
-    check(error);
-    open_.push_back({name, std::move(hostName), std::move(next)});
-    letGoBefore(open_.size() - 1);
-  }
-  return *open_.back().dir;
+  for (std::size_t at = shared; at < parts; ++at) enter(path.parts[at]);
+  return open_.back().dir;
 }
 
-HostDir& FolderDisk::walk(const FolderPath& path, std::size_t parts) {
+const std::shared_ptr<HostDir>& FolderDisk::walk(const FolderPath& path, std::size_t parts) {
   const bool fromKept = !open_.empty();
   try {
     return openOn(path, parts);
@@ -152,9 +214,9 @@ FolderDisk::Place FolderDisk::place(const FolderPath& path) {
   }
   const std::size_t last = path.parts.size() - 1;
   for (bool fromKept = !open_.empty();; fromKept = false) {
-    place.parent = &walk(path, last);
-    const HostError error = byAnyName(*place.parent, path, last, place.name,
-                                      [&] { return place.parent->stat(place.name, place.stat); });
+    place.parent = walk(path, last);
+    const HostError error =
+        byAnyName(path.parts[last], place.name, [&] { return place.parent->stat(place.name, place.stat); });
     place.exists = error == HostError::None;
     if (place.exists) return place;
     if (error != HostError::NotFound) check(error);
@@ -170,10 +232,10 @@ std::string FolderDisk::shortName(const FolderPath& path) {
   const std::size_t last = path.parts.size() - 1;
   // Some hosts find a name without regard to case, and then do not tell their own.
   const auto told = [&] {
-    FolderNames& names = namesOf(*found.parent, path, last);
-    if (names.has(found.name)) return names.shortName(*found.parent, found.name);
-    const auto own = names.find(*found.parent, path.parts[last]);
-    return own ? names.shortName(*found.parent, *own) : std::nullopt;
+    FolderNames& known = names();
+    if (known.has(found.name)) return known.shortName(*found.parent, found.name);
+    const auto own = known.find(*found.parent, path.parts[last]);
+    return own ? known.shortName(*found.parent, *own) : std::nullopt;
   };
   return told().value_or(toldNameFromUtf8(found.name));
 }

@@ -5,7 +5,9 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/folder/DriveFolders.h"
@@ -23,10 +25,10 @@ class FolderDisk {
   FolderDisk(DriveFolders& folders, const PcFacts& facts, HostFailures& failures)
       : folders_(folders), facts_(facts), failures_(failures) {}
 
-  // Where a path leads. The pointer is good until the next call on the disk.
+  // Where a path leads.
   struct Place {
-    HostDir* parent = nullptr;  // null for the root of a drive
-    std::string name;           // on the host; where nothing exists, the name to make
+    std::shared_ptr<HostDir> parent;  // null for the root of a drive
+    std::string name;                 // on the host; where nothing exists, the name to make
     HostStat stat;
     bool exists = false;
   };
@@ -36,13 +38,27 @@ class FolderDisk {
   // The path of the place found last, with the names that the disk has: a path may hold 8.3 names.
   FolderPath pathOf(const Place& place) const;
   // The folder that a path names; fails in the same way, for the last part too. Good until the next call.
-  HostDir& folder(const FolderPath& path) { return walk(path, path.parts.size()); }
+  HostDir& folder(const FolderPath& path) { return *walk(path, path.parts.size()); }
+
+  // The same from where the last path led, by the texts of both: only what differs is taken apart and opened. Nothing
+  // where that does not find it, which is no more than that.
+  std::optional<Place> placeFromLast(std::string_view path);
+  HostDir* folderFromLast(std::string_view folder);
+  // `folder`, up to its separator, is what the last path was found in.
+  void foundIn(std::string_view folder);
+
+  // The folder found last, and steps from it by names of the host.
+  HostDir& here();
+  HostError down(const std::string& hostName);
+  void up() { open_.pop_back(); }
+  char drive() const { return open_.front().name[0]; }
+
   // The 8.3 name of what a path leads to, without its folder: the name itself where the disk keeps no other.
   // RuntimeError 53 where it is missing.
   std::string shortName(const FolderPath& path);
   // Forgets the handles and names. For those who change the disk in another way.
   void forget() {
-    open_.clear();
+    close();
     names_.clear();
   }
   // Forgets the names. For those who have made an entry.
@@ -54,18 +70,23 @@ class FolderDisk {
   struct Open {
     std::string name;              // as the path wrote it
     std::string hostName;          // on the host
-    std::unique_ptr<HostDir> dir;  // null where it was let go
+    std::shared_ptr<HostDir> dir;  // null where it was let go
   };
 
-  HostDir& walk(const FolderPath& path, std::size_t parts);
-  HostDir& openOn(const FolderPath& path, std::size_t parts);
+  const std::shared_ptr<HostDir>& walk(const FolderPath& path, std::size_t parts);
+  const std::shared_ptr<HostDir>& openOn(const FolderPath& path, std::size_t parts);
+  void enter(const std::string& name);
+  bool enterFromLast(std::string_view folder);
+  void close() {
+    open_.clear();
+    text_.clear();
+  }
   void letGoBefore(std::size_t at);
   void holdLast();
   template <class Try>
-  HostError byAnyName(HostDir& folder, const FolderPath& path, std::size_t at, std::string& hostName,
-                      Try attempt);
-  // Those of the folder that the first parts of the path lead to.
-  FolderNames& namesOf(HostDir& folder, const FolderPath& path, std::size_t parts);
+  HostError byAnyName(const std::string& name, std::string& hostName, Try attempt);
+  // Of the folder that is open last.
+  FolderNames& names();
   std::unique_ptr<HostDir> openDrive(char letter);
   void tellNoShortName(std::string_view name);
   std::size_t sharedParts(const FolderPath& path, std::size_t parts) const;
@@ -73,7 +94,8 @@ class FolderDisk {
   DriveFolders& folders_;
   const PcFacts& facts_;
   HostFailures& failures_;
-  std::vector<Open> open_;                    // the drive, then folder by folder
+  std::vector<Open> open_;  // the drive, then folder by folder
+  std::string text_;        // what they were found by, each with a backslash behind; or empty
   std::map<std::string, FolderNames> names_;  // by FolderPath::key of the folder
 };
 

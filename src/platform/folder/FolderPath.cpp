@@ -47,6 +47,10 @@ std::string FolderPath::key() const {
   return folded(text());
 }
 
+bool isPlainPart(std::string_view part) {
+  return part == withoutEnd(part) && isLegal(part);
+}
+
 PathFault parsePath(std::string_view path, const FolderPath& current, FolderPath& result) {
   const auto isSeparator = [](char c) { return c == '\\' || c == '/'; };
   if (path.empty()) return PathFault::BadName;

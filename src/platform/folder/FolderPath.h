@@ -19,6 +19,9 @@ struct FolderPath {
   std::string text() const;
 };
 
+// One part of a path that is an entry's name as it stands.
+bool isPlainPart(std::string_view part);
+
 enum class PathFault : std::uint8_t {
   None,
   BadName,    // holds a part that no file can have: an illegal character, a device, blanks and dots only

@@ -3,18 +3,18 @@
 
 #include "platform/Files.h"
 #include "platform/Wildcard.h"
-#include "platform/folder/FolderPath.h"
 #include "platform/folder/PcFacts.h"
 #include "platform/host/HostDir.h"
 
 namespace zub {
 
-// The attribute bits of an entry at `path`.
-std::uint32_t attributesOf(const HostStat& stat, const FolderPath& path, const PcFacts& facts);
+// The attribute bits of an entry. `key` is its path's, asked for where the facts tell attributes.
+std::uint32_t attributesOf(const HostStat& stat, const std::string& key, const PcFacts& facts);
 
 class FolderSearch : public FileSearch {
  public:
-  FolderSearch(std::unique_ptr<HostList> listing, std::string_view pattern, const FolderPath& folder,
+  // `folder` is the key of the folder with a backslash behind, asked for where the facts tell attributes.
+  FolderSearch(std::unique_ptr<HostList> listing, std::string_view pattern, std::string folder,
                const PcFacts& facts);
 
   // There is a match at all. Throws where the folder could not be listed so far.
@@ -26,7 +26,7 @@ class FolderSearch : public FileSearch {
 
   std::unique_ptr<HostList> listing_;
   Wildcard pattern_;
-  FolderPath path_;  // the folder, and its last part the entry
+  std::string folder_;
   const PcFacts& facts_;
   HostEntry entry_;
   bool waiting_ = false;  // entry_ is a match that is still to be told

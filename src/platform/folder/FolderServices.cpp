@@ -84,6 +84,17 @@ std::vector<std::string> FolderShell::recycleBins() {
   return folders;
 }
 
+std::vector<std::string> FolderShell::unknownBins() {
+  std::vector<std::string> folders;
+  if (!facts_.family->binsOfUsers || isIdentifier(facts_.user)) return folders;
+  for (const std::string& drive : drives_.list()) {
+    for (const std::string_view bins : UserBins) {
+      if (files_.folderExists(JoinPath(drive, bins))) folders.push_back(JoinPath(drive, bins));
+    }
+  }
+  return folders;
+}
+
 std::int32_t FolderShell::emptyRecycleBin(std::uint32_t) {
   return emptyFolders(files_, recycleBins()) ? 0 : Failed;
 }

@@ -61,6 +61,8 @@ class FolderShell : public Shell {
   // each user only that of the PC's user is meant.
   std::int32_t emptyRecycleBin(std::uint32_t flags) override;
   std::vector<std::string> recycleBins() override;
+  // Folders that hold a bin for each user and are left alone, since nobody has told who the PC's user is.
+  std::vector<std::string> unknownBins();
   void updateRecycleBinIcon() override {}
   void open(std::string_view) override {}
   void start(std::string_view program) override;

@@ -200,6 +200,28 @@ std::uint32_t PretendFiles::attributes(std::string_view path) {
   return reset && bits != attribute::Invalid ? cleared(bits) : bits;
 }
 
+class PretendFiles::Grip : public FileGrip {
+ public:
+  Grip(PretendFiles& files, std::string_view path) : files_(files), path_(path) {}
+  void resetAttributes() override { files_.resetAttributes(path_); }
+  std::int64_t length(ReadOnlyBit bit) override { return files_.openedLength(path_, bit); }
+  std::unique_ptr<FileChannel> open() override { return files_.open(path_, OpenMode::Binary); }
+  void remove() override { files_.remove(path_); }
+
+ private:
+  PretendFiles& files_;
+  std::string path_;
+};
+
+std::unique_ptr<FileGrip> PretendFiles::grip(std::string_view path) {
+  const Spot spot = locate(path);
+  if (spot.own == nullptr && spot.asksBeneath())
+    beneath_.grip(path);
+  else if (spot.own == nullptr)
+    throw RuntimeError(ErrorNumber::FileNotFound);
+  return std::make_unique<Grip>(*this, path);
+}
+
 void PretendFiles::resetAttributes(std::string_view path) {
   const Spot spot = locate(path);
   if (spot.own != nullptr) {
@@ -234,7 +256,7 @@ std::int64_t PretendFiles::openedLength(std::string_view path, ReadOnlyBit bit) 
   }
   if (!spot.asksBeneath()) throwMissing(spot);
   const bool reset = spot.folder != nullptr && spot.folder->reset.contains(spot.name);
-  return beneath_.openedLength(path, reset ? ReadOnlyBit::Ignored : bit);
+  return beneath_.grip(path)->length(reset ? ReadOnlyBit::Ignored : bit);
 }
 
 // The file's own form, made for the first change of its content.

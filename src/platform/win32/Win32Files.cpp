@@ -1,6 +1,7 @@
 #include "platform/win32/Win32Files.h"
 
 #include <optional>
+#include <utility>
 
 #include "base/Text.h"
 #include "platform/win32/FolderLink.h"
@@ -67,6 +68,41 @@ void removeEntry(const SystemPath& path) {
   if (GetLastError() != ERROR_ACCESS_DENIED || !removeFolderLink(path)) throwLastError();
 }
 
+// What a step of a removal tells of a file that is missing, its folder with it or by its name.
+template <class Step>
+auto withMissingFile(Step step) {
+  try {
+    return step();
+  } catch (const RuntimeError& failure) {
+    const bool missing = nothingThere(failure.number()) && failure.number() != ErrorNumber::DiskNotReady;
+    if (missing) throw RuntimeError(ErrorNumber::FileNotFound);
+    throw;
+  }
+}
+
+// By the path as the system wants it, which is worked out once.
+class Win32Grip : public FileGrip {
+ public:
+  explicit Win32Grip(SystemPath path) : path_(std::move(path)) {}
+
+  void resetAttributes() override {
+    withMissingFile([&] {
+      if (!path_.setAttributes(FILE_ATTRIBUTE_NORMAL)) throwLastError();
+    });
+  }
+  std::int64_t length(ReadOnlyBit bit) override {
+    return Win32FileChannel(openFile(path_, bit == ReadOnlyBit::Counts ? FileUse::Write : FileUse::ReadAlone))
+        .length();
+  }
+  std::unique_ptr<FileChannel> open() override {
+    return std::make_unique<Win32FileChannel>(openFile(path_, FileUse::Write));
+  }
+  void remove() override { removeEntry(path_); }
+
+ private:
+  SystemPath path_;
+};
+
 // All that can go goes; the first failure is told.
 class TreeRemoval {
  public:
@@ -131,24 +167,17 @@ std::uint32_t Win32Files::attributes(std::string_view path) {
   return look(path).value_or(attribute::Invalid);
 }
 
-void Win32Files::resetAttributes(std::string_view path) {
-  try {
-    if (!filePath(path).setAttributes(FILE_ATTRIBUTE_NORMAL)) throwLastError();
-  } catch (const RuntimeError& failure) {
-    const bool missing = nothingThere(failure.number()) && failure.number() != ErrorNumber::DiskNotReady;
-    if (missing) throw RuntimeError(ErrorNumber::FileNotFound);
-    throw;
-  }
+std::unique_ptr<FileGrip> Win32Files::grip(std::string_view path) {
+  return withMissingFile([&] {
+    SystemPath place = filePath(path);
+    if (place.attributes() == INVALID_FILE_ATTRIBUTES) throwLastError();
+    return std::make_unique<Win32Grip>(std::move(place));
+  });
 }
 
 std::unique_ptr<FileChannel> Win32Files::open(std::string_view path, OpenMode mode) {
   return std::make_unique<Win32FileChannel>(
       openFile(filePath(path), mode == OpenMode::Binary ? FileUse::Make : FileUse::Read));
-}
-
-std::int64_t Win32Files::openedLength(std::string_view path, ReadOnlyBit bit) {
-  const FileUse use = bit == ReadOnlyBit::Counts ? FileUse::Write : FileUse::ReadAlone;
-  return Win32FileChannel(openFile(filePath(path), use)).length();
 }
 
 // The 9x family asks for no right to remove, and opens no folder.
@@ -169,10 +198,6 @@ std::int64_t Win32Files::removable(std::string_view path, Removal how) {
                                            : place.open(rights, sharing, OPEN_EXISTING, flags);
   if (opened == INVALID_HANDLE_VALUE) throwLastError();
   return asFolder ? (CloseHandle(opened), 0) : Win32FileChannel(opened).length();
-}
-
-void Win32Files::remove(std::string_view path) {
-  removeEntry(filePath(path));
 }
 
 void Win32Files::replace(std::string_view path, std::string_view bytes) {

@@ -39,8 +39,7 @@ std::wstring environment(const wchar_t* name) {
 // on, so that it needs no password. The 9x family knows no accounts.
 void runAsThisUser(ComPointer<ITask>& task) {
   task->SetFlags(TASK_FLAG_RUN_ONLY_IF_LOGGED_ON);
-  const bool family9x = (GetVersion() & 0x80000000) != 0;
-  if (family9x) return;
+  if (!isNtFamily()) return;
   const std::wstring domain = environment(L"USERDOMAIN");
   const std::wstring user = environment(L"USERNAME");
   mustSucceed(task->SetAccountInformation((domain.empty() ? user : domain + L'\\' + user).c_str(), nullptr));
