@@ -104,7 +104,7 @@ TEST_CASE("a folder that the registry names in another alphabet is found, and it
   CHECK(registry.query(key.get(), "Cache", type, data.data(), needed) == status::MoreData);
 
   const auto* bytes = reinterpret_cast<const std::uint8_t*>(told.data());
-  REQUIRE(registry.set(key.get(), "Copy", 1, {bytes, told.size()}) == status::Success);
+  REQUIRE(registry.set(key.get(), "Copy", ValueType::Text, {bytes, told.size()}) == status::Success);
   std::array<wchar_t, 512> stored;
   DWORD room = sizeof stored;
   REQUIRE(RegQueryValueExW(handle, L"Copy", nullptr, nullptr, reinterpret_cast<BYTE*>(stored.data()),
