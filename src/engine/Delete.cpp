@@ -195,6 +195,7 @@ void Delete::ZUBShredder(std::string_view szname, int nTimes) {
   try {
     const auto file = engine_.pc.files.open(szname, OpenMode::Binary);
     const std::int64_t blocks = divideRoundHalfEven(file->length(), BlockSize);
+    insideFile_ = true;
     engine_.clean.AddItem(joined({"\tShredding file ", lastPathPart(szname)}));
     for (int pass = 1; pass <= nTimes; ++pass) {
       file->seek(0);
@@ -208,6 +209,7 @@ void Delete::ZUBShredder(std::string_view szname, int nTimes) {
   } catch (const RuntimeError&) {
     // The removal that follows decides what is told.
   }
+  insideFile_ = false;
 }
 
 }  // namespace zub

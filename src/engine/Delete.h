@@ -40,6 +40,8 @@ class Delete {
   // reached the disk before the next pass begins. Name, length and tail of the file stay.
   void ZUBShredder(std::string_view szname, int nTimes);
 
+  bool insideFile() const { return insideFile_; }  // in a turn of the event loop: a file is half shredded
+
   std::vector<std::string> DelDirList;   // folders, parents before their children
   std::vector<std::string> DelFileList;  // matching files
   FileLister DelFile;
@@ -55,6 +57,7 @@ class Delete {
   void removeAtRestart(std::string_view strFileName);
 
   Engine& engine_;
+  bool insideFile_ = false;
 };
 
 }  // namespace zub

@@ -50,32 +50,18 @@ portrait "$pc" >"$work/before"
 while IFS='|' read -r text words; do
   eval "refused '$text' $words"
 done <<'END'
-no command is given|
---pc takes a folder|--pc
---pc takes a folder|--pc "" wash
-there is no command "polish"|--pc "$pc" polish
-there is no command "plugin"|--pc "$pc" plugin polish
+wash takes no arguments|--pc "$work/nowhere" wash now
 there is no Windows here to work on: give a PC in a folder with --pc FOLDER|wash
 nowhere: is no folder that can be opened|--pc "$work/nowhere" wash
 empty: is no PC|--pc "$work/empty" wash
 is not empty|new "$pc"
 nowhere/: is no folder that can be opened|new "$work/nowhere/pc"
-new takes a folder|new "$work/one" "$work/two"
-wash takes no arguments|--pc "$pc" wash now
-start takes /STARTUP and /SCHEDULER, not "/startup"|--pc "$pc" start /SCHEDULER /startup
-set takes NAME=VALUE|--pc "$pc" set
-"chkBleach" is not NAME=VALUE|--pc "$pc" set chkBleach
 there is no setting "chkPolish"|--pc "$pc" set chkPolish=1
 "chkBleach" takes 0 to 1, not "2"|--pc "$pc" set chkBleach=2
 "ComboInterval" takes 0 to 2, not "10"|--pc "$pc" set ComboInterval=10
 there is no setting "chkPolish"|--pc "$pc" set chkBleach=1 chkPolish=1
 there is no plugin "Café"|--pc "$pc" plugin show Café
-plugin check reads .zb1 and .zb2 files|--pc "$pc" plugin check C:\\polish.txt
 C:\polish.zb1: File not found|--pc "$pc" plugin check C:\\polish.zb1
-cookies takes "ie" or "netscape"|--pc "$pc" cookies opera
-cookies takes "keep" or "drop" and numbers of the list, ranges or sites|--pc "$pc" cookies ie eat 1
-"3-1" is no number of the list|--pc "$pc" cookies ie keep 3-1
-schedule add takes a date and a time|--pc "$pc" schedule add 12/24/2030
 there is no dated wash 1x|--pc "$pc" schedule remove 1x
 END
 gone "$work/nowhere"
@@ -110,6 +96,15 @@ check "a text was changed, or a file stays beside it" diff "$work/texts" <(cd "$
 "${program[@]}" --pc "$pc" options >/dev/full 2>"$work/err"
 check "a full disk ends with $?" [ $? -eq 2 ]
 tells "zub: the output could not be written"
+# A reader that goes away does not stop a wash.
+echo old >"$pc/C/WINDOWS/TEMP/old.tmp"
+exec 8> >(:)
+wait $!
+"${program[@]}" --pc "$pc" wash >&8 2>"$work/err"
+check "a closed pipe ends with $?" [ $? -eq 2 ]
+exec 8>&-
+tells "zub: the output could not be written"
+gone "$pc/C/WINDOWS/TEMP/old.tmp"
 
 # A tree that is deeper than the files that may be open at once.
 deep=$(printf 'd/%.0s' {1..400})

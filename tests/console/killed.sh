@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A wash that is killed, at the start of each of many tasks, in the midst of a removal and while it saves: the
-# registry text is the old one or the new one, whole, and a later wash works.
+# registry text is the old one or the new one, whole, and a later wash works. One that is interrupted ends by itself.
 . "$(dirname "$0")/check.sh"
 pc=$work/pc
 files=1000
@@ -26,14 +26,18 @@ run 0 --pc "$pc" wash
 timeless "$pc/registry.reg" >"$work/new"
 check "the wash has not emptied the folder" [ "$(left)" -eq 0 ]
 
-# begin WORD...: starts a wash; its progress is in $work/progress.
+# begin WORD...: starts a wash on a terminal, which shows its progress; that is in $work/progress.
 begin() {
-  : >"$work/progress"
-  "${program[@]}" --pc "$pc" "$@" >/dev/null 2>"$work/progress" </dev/null &
-  process=$!
+  rm -f "$work/progress" "$work/process"
+  script -qefc "echo \$\$ >'$work/process'; exec $(printf '%q ' "${program[@]}" --pc "$pc" "$@")" "$work/progress" \
+    >/dev/null </dev/null &
+  terminal=$!
+  until_true test -s "$work/process"
+  process=$(cat "$work/process")
 }
-running() { kill -0 $process 2>/dev/null; }
-tasksBegun() { [ "$(wc -l <"$work/progress")" -ge "$1" ] || ! running; }
+running() { kill -0 "$process" 2>/dev/null; }
+# tasksBegun NUMBER [OF]: in a wash of so many tasks.
+tasksBegun() { grep -aq "$1 of ${2:-${#tasks[@]}}: " "$work/progress" || ! running; }
 fewerFiles() { [ "$(left)" -lt "$1" ] || ! running; }
 besides() { compgen -G "$pc/registry.reg.*.new" >/dev/null; }
 saving() { besides || ! running; }
@@ -46,8 +50,8 @@ for moment in "tasksBegun 1" "tasksBegun 4" "tasksBegun 5" "tasksBegun 8" \
   begin wash
   # shellcheck disable=SC2086
   until_true $moment
-  kill -9 $process 2>/dev/null
-  wait $process 2>/dev/null
+  kill -9 "$process" 2>/dev/null
+  wait $terminal 2>/dev/null
   [ $? -eq 137 ] && hits=$((hits + 1))
   if ! cmp -s "$pc/registry.reg" "$work/first/registry.reg"; then
     timeless "$pc/registry.reg" | cmp -s - "$work/new" || fail "the registry is neither old nor new after $moment"
@@ -64,7 +68,28 @@ check "only $hits of 9 washes were killed" [ $hits -ge 4 ]
 makePc
 run 0 --pc "$pc" set chkRunStarted=1
 begin start /STARTUP /SCHEDULER
-until_true tasksBegun $((${#tasks[@]} + 1))
-kill -9 $process 2>/dev/null
-wait $process 2>/dev/null
+secondBegun() { grep -aq "${#tasks[@]} of ${#tasks[@]}: .*1 of ${#tasks[@]}: " "$work/progress" || ! running; }
+until_true secondBegun
+kill -9 "$process" 2>/dev/null
+wait $terminal 2>/dev/null
 check "the first wash was not saved" [ "$(grep -c RunMRU "$pc/registry.reg")" -eq 0 ]
+
+# A signal ends a wash behind the file that is being shredded, before the next task; what was done is saved and told.
+run 0 --pc "$work/first" set chkBleach=1 cmbShredder=8
+started() { [ "$(head -c 4096 "$pc/C/WINDOWS/TEMP/long.tmp" | tr -d '\0' | wc -c)" -eq 0 ]; }
+for signal in INT:130 TERM:143 HUP:129; do
+  makePc
+  yes | head -c 64M >"$pc/C/WINDOWS/TEMP/long.tmp"
+  echo lost >"$pc/C/FILE0000.CHK"
+  "${program[@]}" --pc "$pc" wash >"$work/out" 2>"$work/err" </dev/null &
+  process=$!
+  until_true started
+  kill -"${signal%:*}" $process
+  wait $process
+  check "SIG$signal ends it with $?" [ $? -eq "${signal#*:}" ]
+  gone "$pc/C/WINDOWS/TEMP/long.tmp"
+  here "$pc/C/FILE0000.CHK"
+  says "	Shredding file long.tmp"
+  says "The wash was interrupted. Space restored so far: 67,108,864 Bytes"
+  check "the registry was not saved" [ "$(grep -c RunMRU "$pc/registry.reg")" -eq 0 ]
+done

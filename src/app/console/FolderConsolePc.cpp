@@ -1,5 +1,5 @@
+#include "app/console/Commands.h"
 #include "app/console/ConsolePc.h"
-#include "app/console/Printable.h"
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/FolderPc.h"
 
@@ -17,14 +17,12 @@ class FolderConsolePc : public ConsolePc {
   std::vector<std::string> failures() const override {
     const HostFailures& failures = pc_.failures();
     std::vector<std::string> texts;
-    for (const std::string& text : failures.texts()) texts.push_back(printable(text, Letters::Utf8));
+    for (const std::string& text : failures.texts()) texts.push_back(printable(text));
     if (failures.more() > 0) texts.push_back(std::to_string(failures.more()) + " more failures");
     return texts;
   }
   std::string folder() const override { return folder_; }
-  std::string toTerminal(std::string_view text) const override {
-    return printable(utf8FromAnsi(text), Letters::Utf8);
-  }
+  std::string utf8(std::string_view text) const override { return utf8FromAnsi(text); }
   std::string fromTerminal(std::string_view text) const override { return ansiFromUtf8(text); }
 
  private:
@@ -34,6 +32,15 @@ class FolderConsolePc : public ConsolePc {
 };
 
 }  // namespace
+
+void checkNew(const Given& given) {
+  if (given.arguments.size() != 1) throw UsageError("new takes a folder");
+}
+
+int newCommand(const Given& given, const std::string&) {
+  createPc(given.arguments[0]);
+  return exitStatus::Done;
+}
 
 std::unique_ptr<ConsolePc> openFolderPc(const std::string& folder, EventLoop& events, Messages& messages,
                                         const std::string& commandLine, DamagedTasks damaged) {

@@ -48,22 +48,27 @@ std::vector<Setting> settingsOf(Options& options) {
 
 void apply(std::vector<Setting>& settings, const std::string& argument) {
   const auto sign = argument.rfind('=');  // a plugin's name may hold the sign
-  if (sign == std::string::npos) throw UsageError("\"" + argument + "\" is not NAME=VALUE");
   const std::string name = argument.substr(0, sign);
   const std::string value = argument.substr(sign + 1);
   const auto setting = std::ranges::find(settings, name, &Setting::name);
-  if (setting == settings.end()) throw UsageError("there is no setting \"" + name + "\"");
+  if (setting == settings.end()) throw Refusal("there is no setting \"" + name + "\"");
   if (value.size() != 1 || value[0] < '0' || value[0] - '0' > setting->highest) {
-    throw UsageError("\"" + name + "\" takes 0 to " + std::to_string(setting->highest) + ", not \"" + value +
-                     "\"");
+    throw Refusal("\"" + name + "\" takes 0 to " + std::to_string(setting->highest) + ", not \"" + value +
+                  "\"");
   }
   setting->set(value[0] - '0');
 }
 
 }  // namespace
 
+void checkSet(const Given& given) {
+  if (given.arguments.empty()) throw UsageError("set takes NAME=VALUE");
+  for (const std::string& argument : given.arguments) {
+    if (!contains(argument, "=")) throw UsageError("\"" + argument + "\" is not NAME=VALUE");
+  }
+}
+
 int optionsCommand(CommandContext& context) {
-  context.needNoArguments("options");
   Store store(context.pc.platform());
   context.print("lblLastRemoval=" + store.options.lblLastRemoval.Caption);
   for (const Setting& setting : settingsOf(store.options)) context.print(setting.name + "=" + setting.value);
@@ -71,14 +76,13 @@ int optionsCommand(CommandContext& context) {
 }
 
 int setCommand(CommandContext& context) {
-  if (context.arguments.empty()) throw UsageError("set takes NAME=VALUE");
   context.needAlone();
   Store store(context.pc.platform());
   std::vector<Setting> settings = settingsOf(store.options);
-  for (const std::string& argument : context.arguments) apply(settings, argument);
+  for (const std::string& argument : context.given.arguments) apply(settings, argument);
   for (const CatalogueRow& row : store.catalogue.rows()) {
     const std::string tick = joined({standardPluginPrefix, row.name, "=1"});
-    if (row.warns() && std::ranges::find(context.arguments, tick) != context.arguments.end()) {
+    if (row.warns() && std::ranges::find(context.given.arguments, tick) != context.given.arguments.end()) {
       context.tell(row.name + ": " + row.description);
     }
   }

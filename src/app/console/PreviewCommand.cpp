@@ -39,8 +39,7 @@ void printList(const CommandContext& context, Preview& preview) {
 }  // namespace
 
 int previewCommand(CommandContext& context) {
-  const bool list = context.arguments == std::vector<std::string>{"--list"};
-  if (!list) context.needNoArguments("preview");
+  const bool list = context.given.has("--list");
   Preview preview(context.pc.platform(), context.loop, context.loop);
   Program& program = preview.program;
   {

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/Numbers.h"
 #include "base/Text.h"
 
 namespace zub {
@@ -24,6 +25,12 @@ void printReport(const CommandContext& context, Program& program) {
   printLines(context, program.engine.clean.txtResult);
   const frmAnimated::State& shown = program.engine.animated.peek().state;
   context.print("");
+  if (context.loop.interrupted()) {
+    const std::string restored = groupedThousands(program.engine.TotalBytes);
+    context.print("The wash was interrupted. Space restored so far: " + (restored.empty() ? "0" : restored) +
+                  " Bytes");
+    return;
+  }
   context.print(shown.lblRemove.Caption);
   context.print(shown.StatusBar1[1]);
   context.print(program.options.lblLastRemoval.Caption);

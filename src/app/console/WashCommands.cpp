@@ -3,6 +3,7 @@
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "app/console/Interrupt.h"
 #include "app/console/OddFolders.h"
 #include "app/console/Report.h"
 #include "app/console/Store.h"
@@ -27,6 +28,7 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
   for (const std::string& folder : oddFolders(context.pc.platform().registry)) {
     context.tell(context.pc.toTerminal(folder));
   }
+  interrupt::watch();
   Program program(context.pc.platform());
   program.engine.clean.cleaners.ended = [&context] { saved(context.pc); };
   {
@@ -42,23 +44,26 @@ int runProgram(CommandContext& context, const std::function<void(Program&)>& aft
   const std::optional<PcError> unsaved = saved(context.pc);
   printReport(context, program);
   if (unsaved) throw *unsaved;
-  needStoreSaved(program.engine.pc, program.options);
-  return tellLeftBehind(context, program, "could not be removed");
+  if (!context.loop.interrupted()) needStoreSaved(program.engine.pc, program.options);
+  const int status = tellLeftBehind(context, program, "could not be removed");
+  return context.loop.interrupted() ? interrupt::status() : status;
 }
 
 }  // namespace
 
 int washCommand(CommandContext& context) {
-  context.needNoArguments("wash");
   return runProgram(context, [](Program& program) { program.main.cmdRemove_Click(); });
 }
 
-int startCommand(CommandContext& context) {
-  for (const std::string& argument : context.arguments) {
+void checkStart(const Given& given) {
+  for (const std::string& argument : given.arguments) {
     if (argument != "/STARTUP" && argument != "/SCHEDULER") {
       throw UsageError("start takes /STARTUP and /SCHEDULER, not \"" + argument + "\"");
     }
   }
+}
+
+int startCommand(CommandContext& context) {
   return runProgram(context, [](Program&) {});
 }
 
