@@ -1,5 +1,7 @@
 #include <doctest/doctest.h>
+#include <unistd.h>
 
+#include <cstdio>
 #include <functional>
 
 #include "app/console/Scheduler.h"
@@ -63,6 +65,23 @@ struct TimedPc : ConsolePc {
   }
 };
 
+// What is said on a stream while some work is done.
+std::string heardOn(FILE* stream, const std::function<void()>& work) {
+  std::fflush(stream);
+  const int before = ::dup(::fileno(stream));
+  FILE* const file = std::tmpfile();
+  ::dup2(::fileno(file), ::fileno(stream));
+  work();
+  std::fflush(stream);
+  ::dup2(before, ::fileno(stream));
+  ::close(before);
+  std::string said(1000, ' ');
+  std::rewind(file);
+  said.resize(std::fread(said.data(), 1, said.size(), file));
+  std::fclose(file);
+  return said;
+}
+
 }  // namespace
 
 TEST_CASE("the scheduler starts a dated wash once, when its time has come") {
@@ -109,4 +128,29 @@ TEST_CASE("the scheduler keeps the automatic interval, and follows a change of i
     other->save();
   }
   CHECK_FALSE(pc.washesAt(11, 5, 0));
+}
+
+TEST_CASE("the scheduler says what comes next, and tells a damaged text once") {
+  TimedPc pc([](Options& options) { options.chkRunAuto.Value(1); });
+  const std::string tasks = "task = ZUB\nparameters =  /SCHEDULER\ntrigger = 0 2001-09-14 10:25\n";
+  const struct {
+    std::uint16_t second;
+    std::string tasks, said, told;
+  } rows[] = {
+      {31, tasks, "Next dated wash: 9/14/2001 10:25:00 AM\nNext wash by the interval: 11:20\n", ""},
+      {32, tasks + "trigger = 0 2001-02-31 10:00\n", "", "zub: tasks.txt: line 4: a trigger is told as"},
+      {33, tasks + "trigger = 0 2001-02-31 10:00\n", "", ""},
+      {34, "colour = blue\n", "", "zub: tasks.txt: line 1: stands before the first task"},
+      {35, tasks, "", ""},
+      {36, "", "Next dated wash: none\nNext wash by the interval: 11:20\n", ""},
+  };
+  for (const auto& row : rows) {
+    pc.tasks(row.tasks.c_str());
+    CAPTURE(row.second);
+    std::string told;
+    CHECK(heardOn(stdout, [&] { told = heardOn(stderr, [&] { pc.washesAt(10, 20, row.second); }); }) ==
+          row.said);
+    CHECK(told.substr(0, row.told.size()) == row.told);
+    CHECK(told.empty() == row.told.empty());
+  }
 }

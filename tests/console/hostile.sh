@@ -18,11 +18,9 @@ untouched() { check "what lies outside was changed: $1" diff "$work/outside befo
 everything=(chkDocHistory chkFindHistory chkRunHistory chkTempFolder chkScanDisk chkRecycleBin chkOfficeMRU chkWMP chkIE
   chkNetscape chkIECache chkIECookies chkIEPrograms chkIEIndex chkIEAutocomplete chkNSCache chkNSCookie chkNSMail
   chkNSHistory chkBleach)
-newPc() {
-  [ -d "$pc" ] && rm -rf "$pc"
-  run 0 new "$pc"
-  run 0 --pc "$pc" set "${everything[@]/%/=1}"
-}
+run 0 new "$work/first"
+run 0 --pc "$work/first" set "${everything[@]/%/=1}"
+newPc() { rm -rf "$pc" && cp -R "$work/first" "$pc"; }
 # A wash that ends by itself, with any status of a wash.
 wash() {
   local status=0
@@ -63,7 +61,7 @@ newPc
 rm -rf "$temp"
 ln -s "$outside" "$temp"
 run 1 --pc "$pc" wash
-check "the link is not told" grep -qxF 'zub: not looked into: C:\WINDOWS\TEMP\: a link, which is not entered' "$work/err"
+check "the link is not told" grep -qxF 'zub: C/WINDOWS/TEMP: a link, which is not entered' "$work/err"
 
 # Links in place of the folders of the PC, of a drive and of the texts that hold the PC.
 for place in C/WINDOWS/TEMP C/WINDOWS C/RECYCLED C D "C/Program Files/Zubrane/Plugins" "C/Program Files"; do
@@ -91,34 +89,44 @@ leadsOut=("C:\\$up\\outside" "$up\\outside" 'C:\WINDOWS\..\..\outside' 'C:\WINDO
   "$fromHere" "C:$fromHere" "Z:$fromHere" "\\\\server\\share" "\\\\?\\C:$fromHere" "\\\\.\\C:\\..\\outside" "$outside"
   "C:/../outside" 'C:\LINK' 'C:\LINK\..\outside' 'D:\' 'C:\WINDOWS\./../../outside' 'C:\outside:stream')
 
-for path in "${leadsOut[@]}"; do
+plugins="C/Program Files/Zubrane/Plugins"
+shell='Software\Microsoft\Windows\CurrentVersion\Explorer\Shell Folders'
+hostilePc() {
   newPc
   ln -s "$outside" "$pc/C/LINK"
   ln -s "$outside" "$pc/D"
-  escaped=${path//\\/\\\\}
+}
+# In the registry, as many at once as it has folders.
+for ((at = 0; at < ${#leadsOut[@]}; at += 6)); do
+  hostilePc
+  escaped=("${leadsOut[@]:at:6}")
+  escaped=("${escaped[@]//\\/\\\\}")
   {
-    printf '\n[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders]\n'
-    for name in Recent Cache Cookies History AppData; do printf '"%s"="%s"\n' $name "$escaped"; done
+    printf '\n[HKEY_CURRENT_USER\\%s]\n' "$shell"
+    for name in Recent Cache Cookies History AppData; do
+      printf '"%s"="%s"\n' $name "${escaped[0]}"
+      escaped=("${escaped[@]:1}" "${escaped[0]}")
+    done
     printf '\n[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\5.0\\Cache\\Content]\n'
-    printf '"CachePath"="%s"\n' "$escaped"
+    printf '"CachePath"="%s"\n' "${escaped[0]}"
   } >>"$pc/registry.reg"
-  text "C/Program Files/Zubrane/Plugins/Out.zb1" "$path\\old.tmp" "$path\\*.*" "$path\\*.tmp >plus subdirectories< " "$path"
-  text "C/Program Files/Zubrane/Plugins/Out.zb2" 'No entries.'
-  text "C/Program Files/Zubrane/Plugins/Out.zb3" '' ''
-  run 0 --pc "$pc" set "ZUBPlugin Out=1"
   wash
-  untouched "folders at $path"
-
-  # The same where a browser's own file names the folder: a profile with a cookie file.
-  newPc
-  ln -s "$outside" "$pc/C/LINK"
-  printf '\n[HKEY_CURRENT_USER\\%s]\n"AppData"="C:\\\\Data"\n' \
-    'Software\Microsoft\Windows\CurrentVersion\Explorer\Shell Folders' >>"$pc/registry.reg"
-  mkdir -p "$pc/C/Data/Mozilla"
-  printf '%s\0%s\0' "$path\\x.slt" "$path\\.slt" >"$pc/C/Data/Mozilla/Registry.dat"
-  wash
-  untouched "a profile at $path"
+  untouched "folders from the path $at on"
 done
+# In a plugin, and where a browser's own file names the folder: a profile with a cookie file.
+hostilePc
+printf '\n[HKEY_CURRENT_USER\\%s]\n"AppData"="C:\\\\Data"\n' "$shell" >>"$pc/registry.reg"
+mkdir -p "$pc/C/Data/Mozilla"
+printf '%s\\x.slt\0' "${leadsOut[@]}" "${leadsOut[@]/%/.slt}" >"$pc/C/Data/Mozilla/Registry.dat"
+text "$plugins/Out.zb1" "${leadsOut[@]/%/\\old.tmp}" "${leadsOut[@]/%/\\*.*}" \
+  "${leadsOut[@]/%/\\*.tmp >plus subdirectories< }" "${leadsOut[@]}" 'C:\last.tmp'
+text C/last.tmp x
+text "$plugins/Out.zb2" 'No entries.'
+text "$plugins/Out.zb3" '' ''
+run 0 --pc "$pc" set "ZUBPlugin Out=1"
+wash
+untouched "paths in a plugin and profiles"
+gone "$pc/C/last.tmp"
 
 # A PC whose facts lead out is washed within its folder.
 newPc

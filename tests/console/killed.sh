@@ -1,95 +1,64 @@
 #!/usr/bin/env bash
-# A wash that is killed, at the start of each of many tasks, in the midst of a removal and while it saves: the
-# registry text is the old one or the new one, whole, and a later wash works. One that is interrupted ends by itself.
+# killed.sh PROGRAM FAULTS: washes that are killed before each call that changes something. The registry text is whole:
+# the old one before it is put in place, the new one from then on, also while a second wash goes on in the same start.
+# A later wash does the rest. One that is interrupted ends by itself, behind the file at which it is.
 . "$(dirname "$0")/check.sh"
+faults=${program[1]} program=("${program[0]}")
 pc=$work/pc
-files=1000
-values=10000
-tasks=(chkDocHistory chkFindHistory chkRunHistory chkTempFolder chkScanDisk chkRecycleBin chkOfficeMRU chkWMP)
+calls=$work/calls
 
 left() { find "$pc/C/WINDOWS/TEMP" -name 'work*.tmp' | wc -l; }
 # The text without the time of the wash, which may go over several lines.
 timeless() { LC_ALL=C awk '/^"lblLastRemoval"/ { skip = 1 } !skip; !/\\\r?$/ { skip = 0 }' "$1"; }
+makePc() { rm -rf "$pc" && cp -R "$work/first" "$pc"; }
+killedAt() { ZUB_FAULT_AT=$1 ZUB_FAULT=kill ZUB_FAULT_LOG=$calls LD_PRELOAD=$faults "${program[@]}" --pc "$pc" $words; }
 
 run 0 new "$work/first"
-{
-  printf '\n[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\RunMRU]\n"a"="private"\n'
-  printf '\n[HKEY_CURRENT_USER\\Software\\Many]\n'
-  seq -f '"Value%g"="some text that makes the registry long enough for a kill while it is saved"' $values
-} >>"$work/first/registry.reg"
-run 0 --pc "$work/first" set "${tasks[@]/%/=1}"
-(cd "$work/first/C/WINDOWS/TEMP" && seq -f 'work%g.tmp' $files | xargs touch)
-makePc() { rm -rf "$pc" && cp -R "$work/first" "$pc"; }
+printf '\n[%s\\RunMRU]\n"a"="private"\n' 'HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Explorer' \
+  >>"$work/first/registry.reg"
+run 0 --pc "$work/first" set chkRunHistory=1 chkTempFolder=1 chkRunStarted=1 chkLoadStartup=1
+run 0 --pc "$work/first" schedule add 1/1/2035 1:00
+touch "$work/first/C/WINDOWS/TEMP"/work{1..3}.tmp
 
-makePc
-run 0 --pc "$pc" wash
-timeless "$pc/registry.reg" >"$work/new"
-check "the wash has not emptied the folder" [ "$(left)" -eq 0 ]
-
-# begin WORD...: starts a wash on a terminal, which shows its progress; that is in $work/progress.
-begin() {
-  rm -f "$work/progress" "$work/process"
-  script -qefc "echo \$\$ >'$work/process'; exec $(printf '%q ' "${program[@]}" --pc "$pc" "$@")" "$work/progress" \
-    >/dev/null </dev/null &
-  terminal=$!
-  until_true test -s "$work/process"
-  process=$(cat "$work/process")
-}
-running() { kill -0 "$process" 2>/dev/null; }
-# tasksBegun NUMBER [OF]: in a wash of so many tasks.
-tasksBegun() { grep -aq "$1 of ${2:-${#tasks[@]}}: " "$work/progress" || ! running; }
-fewerFiles() { [ "$(left)" -lt "$1" ] || ! running; }
-besides() { compgen -G "$pc/registry.reg.*.new" >/dev/null; }
-saving() { besides || ! running; }
-
-pause=0
-hits=0
-for moment in "tasksBegun 1" "tasksBegun 4" "tasksBegun 5" "tasksBegun 8" \
-  "fewerFiles $files" "fewerFiles $((files / 2))" saving saving saving; do
+for words in wash "start /STARTUP /SCHEDULER"; do
   makePc
-  begin wash
-  # shellcheck disable=SC2086
-  until_true $moment
-  kill -9 "$process" 2>/dev/null
-  wait $terminal 2>/dev/null
-  [ $? -eq 137 ] && hits=$((hits + 1))
-  if ! cmp -s "$pc/registry.reg" "$work/first/registry.reg"; then
-    timeless "$pc/registry.reg" | cmp -s - "$work/new" || fail "the registry is neither old nor new after $moment"
-  fi
-  run 0 --pc "$pc" wash
-  check "the later wash has not emptied the folder" [ "$(left)" -eq 0 ]
-  check "the later wash has another registry" cmp <(timeless "$pc/registry.reg") "$work/new"
-  check "a file beside the registry stays" eval "! besides"
+  : >"$calls"
+  killedAt 0 >"$work/out" 2>&1 || fail "the wash does not end"
+  timeless "$pc/registry.reg" >"$work/new"
+  check "$words saves $(grep -c renameat "$calls") times" [ "$(grep -c renameat "$calls")" -eq 2 ]  # after the wash, at the end
+  saved=$(grep -n renameat "$calls" | head -1 | cut -d: -f1)
+  for at in $(grep -nE '^(unlinkat|pwrite|fsync|fdatasync|renameat|mkdirat)$' "$calls" | cut -d: -f1); do
+    makePc
+    (killedAt "$at") >"$work/out" 2>&1
+    check "it is not killed at call $at" [ $? -eq 137 ]
+    [ "$at" -le "$saved" ] && timeless "$work/first/registry.reg" >"$work/wanted" || cp "$work/new" "$work/wanted"
+    check "the registry is another one at call $at of $words" cmp "$work/wanted" <(timeless "$pc/registry.reg")
+    run 0 --pc "$pc" wash
+    check "the later wash has not emptied the folder" [ "$(left)" -eq 0 ]
+    check "the later wash has another registry" cmp <(timeless "$pc/registry.reg") "$work/new"
+    check "a file beside the registry stays" eval '! compgen -G "$pc/registry.reg.*" >/dev/null'
+  done
 done
-# A wash may end before the kill comes, but not most of them.
-check "only $hits of 9 washes were killed" [ $hits -ge 4 ]
 
-# Of two washes in one start the first is saved before the second begins.
-makePc
-run 0 --pc "$pc" set chkRunStarted=1
-begin start /STARTUP /SCHEDULER
-secondBegun() { grep -aq "${#tasks[@]} of ${#tasks[@]}: .*1 of ${#tasks[@]}: " "$work/progress" || ! running; }
-until_true secondBegun
-kill -9 "$process" 2>/dev/null
-wait $terminal 2>/dev/null
-check "the first wash was not saved" [ "$(grep -c RunMRU "$pc/registry.reg")" -eq 0 ]
-
-# A signal ends a wash behind the file that is being shredded, before the next task; what was done is saved and told.
-run 0 --pc "$work/first" set chkBleach=1 cmbShredder=8
-started() { [ "$(head -c 4096 "$pc/C/WINDOWS/TEMP/long.tmp" | tr -d '\0' | wc -c)" -eq 0 ]; }
-for signal in INT:130 TERM:143 HUP:129; do
+# The signal comes while the first of three files is removed, or shredded, before the next task.
+words=wash
+run 0 --pc "$work/first" set chkScanDisk=1
+for name in work{1..3}.tmp; do head -c 3000 /dev/zero | tr '\0' x >"$work/first/C/WINDOWS/TEMP/$name"; done
+for row in "2 130 unlinkat 0" "15 143 unlinkat 0" "1 129 pwrite 1"; do
+  read -r signal status call shred <<<"$row"
+  run 0 --pc "$work/first" set chkBleach="$shred"
   makePc
-  yes | head -c 64M >"$pc/C/WINDOWS/TEMP/long.tmp"
   echo lost >"$pc/C/FILE0000.CHK"
-  "${program[@]}" --pc "$pc" wash >"$work/out" 2>"$work/err" </dev/null &
-  process=$!
-  until_true started
-  kill -"${signal%:*}" $process
-  wait $process
-  check "SIG$signal ends it with $?" [ $? -eq "${signal#*:}" ]
-  gone "$pc/C/WINDOWS/TEMP/long.tmp"
+  : >"$calls"
+  killedAt 0 >"$work/out" 2>&1
+  at=$(grep -nx "$call" "$calls" | head -1 | cut -d: -f1)
+  makePc
+  echo lost >"$pc/C/FILE0000.CHK"
+  ZUB_FAULT_AT=$at ZUB_FAULT=signal$signal LD_PRELOAD=$faults zub --pc "$pc" wash
+  check "signal $signal ends it with $?" [ $? -eq "$status" ]
+  check "$(left) files are left" [ "$(left)" -eq 2 ]
   here "$pc/C/FILE0000.CHK"
-  says "	Shredding file long.tmp"
-  says "The wash was interrupted. Space restored so far: 67,108,864 Bytes"
+  says "The wash was interrupted. Space restored so far: 3,000 Bytes"
+  check "a file is half shredded" [ "$(cat "$pc"/C/WINDOWS/TEMP/work*.tmp | tr -d x | wc -c)" -eq 0 ]
   check "the registry was not saved" [ "$(grep -c RunMRU "$pc/registry.reg")" -eq 0 ]
 done

@@ -2,7 +2,9 @@
 # A wash of a whole Windows: the registry and the disk of a Wine prefix of the test's own, without a way to the host's
 # disk. The program is installed in it, and what it is to wash is put there with files and the system's own "reg".
 . "$(dirname "$0")/check.sh"
-prefix=${ZUB_WINEPREFIX:?the prefix of this test}
+# Kept between runs, for it takes a while to make; one for each Windows of tools/wine-run.
+export ZUB_WINEPREFIX=${ZUB_WINEPREFIX:?the prefix of this test}${ZUB_WINDOWS:+-$ZUB_WINDOWS}
+prefix=$ZUB_WINEPREFIX
 emulator=${program[0]}
 # The user's folders of a new prefix, and its recycle bin, are links to the home folder.
 export HOME=$prefix/home

@@ -2,7 +2,7 @@
 
 #include "platform/ContractPc.h"
 #include "platform/folder/CodePage1252.h"
-#include "platform/folder/HostDir.h"
+#include "platform/host/HostDir.h"
 #include "support/TempFolder.h"
 
 #ifndef _WIN32

@@ -1,9 +1,11 @@
 // What only a PC in a folder has: names of the host, links out of the folder, facts about files.
 #include <algorithm>
+#include <utility>
 
 #include "platform/ContractPc.h"
 #include "platform/folder/FolderChannel.h"
 #include "platform/folder/FolderPc.h"
+#include "platform/folder/FolderSearch.h"
 #include "support/TempFolder.h"
 
 #ifndef _WIN32
@@ -265,6 +267,22 @@ TEST_CASE("a profile is replaced in one step, and no file beside it is lost") {
     CHECK(pc.bytes(ini + ".new") == "somebody's own");
     CHECK_FALSE(pc.hasFile(ini + ".new_"));
   }
+}
+
+TEST_CASE("a search whose listing fails in its midst says so") {
+  struct Failing : HostList {
+    bool next(HostEntry& entry) override {
+      entry = {"a.txt", {HostKind::File}, true};
+      return !std::exchange(told, true);
+    }
+    HostError failure() const override { return HostError::DeviceFailure; }
+    bool told = false;
+  };
+  const PcFacts facts("");
+  FolderSearch search(std::make_unique<Failing>(), "*.txt", FolderPath{}, facts);
+  FoundFile found;
+  REQUIRE(search.next(found));
+  CHECK(failure([&] { search.next(found); }) == 57);
 }
 
 TEST_CASE("names that only another system makes are told so that they lead back") {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/folder/HostDir.h"
+#include "platform/host/HostDir.h"
 #include "support/TempFolder.h"
 
 namespace zub {

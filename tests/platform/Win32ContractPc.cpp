@@ -8,8 +8,8 @@
 #include <iterator>
 
 #include "platform/WineDeviations.h"
+#include "platform/host/win32/LoadedCall.h"
 #include "platform/win32/ComPointer.h"
-#include "platform/win32/LoadedCall.h"
 #include "platform/win32/Text.h"
 
 namespace zub {

@@ -1,7 +1,7 @@
 // What only a Windows of its own has: its error numbers, its kinds of reparse points, what it reads into a name.
 #ifdef _WIN32
 #include "platform/ContractPc.h"
-#include "platform/win32/FolderLink.h"
+#include "platform/host/win32/ReparsePoint.h"
 #include "platform/win32/Win32Error.h"
 
 namespace zub {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/folder/HostDir.h"
+#include "platform/host/HostDir.h"
 
 namespace zub {
 

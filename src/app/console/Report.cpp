@@ -37,7 +37,10 @@ void printReport(const CommandContext& context, Program& program) {
 }
 
 int tellLeftBehind(const CommandContext& context, const Program& program, std::string_view happened) {
-  for (const std::string& folder : program.engine.unread) context.tell("not looked into: " + folder);
+  // A PC in a folder tells by itself what could not be looked into.
+  if (context.pc.folder().empty()) {
+    for (const std::string& folder : program.engine.unread) context.tell("not looked into: " + folder);
+  }
   if (program.engine.leftBehind == 0) return exitStatus::Done;
   context.tell(std::to_string(program.engine.leftBehind) + " files, folders or keys " +
                std::string(happened));

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "app/console/Commands.h"
-#include "platform/folder/HostDir.h"
+#include "platform/host/HostDir.h"
 #include "scheduler/AutomaticInterval.h"
 #include "scheduler/DueTimes.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/RuntimeError.h"
-#include "platform/folder/HostFailure.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/Files.h"
-#include "platform/folder/HostDir.h"
+#include "platform/host/HostDir.h"
 
 namespace zub {
 

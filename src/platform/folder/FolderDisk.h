@@ -10,8 +10,8 @@
 
 #include "platform/folder/FolderNames.h"
 #include "platform/folder/FolderPath.h"
-#include "platform/folder/HostDir.h"
 #include "platform/folder/PcFacts.h"
+#include "platform/host/HostDir.h"
 
 namespace zub {
 

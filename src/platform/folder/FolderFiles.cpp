@@ -7,8 +7,8 @@
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/FolderChannel.h"
 #include "platform/folder/FolderSearch.h"
-#include "platform/folder/HostFailure.h"
 #include "platform/folder/HostText.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {

@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "platform/folder/CodePage1252.h"
-#include "platform/folder/HostFailure.h"
 #include "platform/folder/ShortName.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {

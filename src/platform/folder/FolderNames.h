@@ -10,7 +10,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/folder/HostDir.h"
+#include "platform/host/HostDir.h"
 
 namespace zub {
 

@@ -2,10 +2,10 @@
 
 #include <functional>
 
-#include "platform/folder/HostFailure.h"
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
 #include "platform/folder/RegistryText.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {

@@ -13,10 +13,10 @@
 #include "platform/folder/FolderRegistry.h"
 #include "platform/folder/FolderServices.h"
 #include "platform/folder/FolderTasks.h"
-#include "platform/folder/HostDir.h"
 #include "platform/folder/PcFacts.h"
 #include "platform/folder/RegistryTree.h"
-#include "platform/folder/WatchedDir.h"
+#include "platform/host/HostDir.h"
+#include "platform/host/WatchedDir.h"
 
 namespace zub {
 

@@ -1,7 +1,7 @@
 #include "platform/folder/FolderSearch.h"
 
 #include "platform/folder/CodePage1252.h"
-#include "platform/folder/HostFailure.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 

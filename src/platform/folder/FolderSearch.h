@@ -4,8 +4,8 @@
 #include "platform/Files.h"
 #include "platform/Wildcard.h"
 #include "platform/folder/FolderPath.h"
-#include "platform/folder/HostDir.h"
 #include "platform/folder/PcFacts.h"
+#include "platform/host/HostDir.h"
 
 namespace zub {
 

@@ -7,8 +7,8 @@
 #include "platform/FolderContent.h"
 #include "platform/ProfileText.h"
 #include "platform/folder/CodePage1252.h"
-#include "platform/folder/HostFailure.h"
 #include "platform/folder/PcError.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "platform/TaskScheduler.h"
-#include "platform/folder/HostDir.h"
 #include "platform/folder/PcError.h"
+#include "platform/host/HostDir.h"
 
 namespace zub {
 

@@ -2,8 +2,8 @@
 
 #include <unistd.h>
 
-#include "platform/folder/HostFailure.h"
 #include "platform/folder/PcError.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/folder/HostDir.h"
+#include "platform/host/HostDir.h"
 
 namespace zub {
 

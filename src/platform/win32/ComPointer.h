@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 
 namespace zub {
 

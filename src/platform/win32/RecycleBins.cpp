@@ -1,6 +1,6 @@
 #include "platform/win32/RecycleBins.h"
 
-#include "platform/win32/LoadedCall.h"
+#include "platform/host/win32/LoadedCall.h"
 #include "platform/win32/Win32Drives.h"
 
 namespace zub {

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 
 namespace zub {
 

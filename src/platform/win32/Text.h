@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "base/Time.h"
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 
 namespace zub {
 

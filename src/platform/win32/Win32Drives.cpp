@@ -1,6 +1,6 @@
 #include "platform/win32/Win32Drives.h"
 
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 
 namespace zub {
 namespace {

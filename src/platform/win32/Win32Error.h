@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/RuntimeError.h"
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 
 namespace zub {
 

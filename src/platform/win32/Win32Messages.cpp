@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "base/RuntimeError.h"
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 
 namespace zub {
 namespace {

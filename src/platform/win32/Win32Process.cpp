@@ -2,7 +2,7 @@
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 
 namespace zub {
 

@@ -1,7 +1,7 @@
 #include "platform/win32/Win32Shell.h"
 
 #include "base/RuntimeError.h"
-#include "platform/win32/LoadedCall.h"
+#include "platform/host/win32/LoadedCall.h"
 #include "platform/win32/RecycleBins.h"
 
 namespace zub {

@@ -1,7 +1,7 @@
 // The system's common controls.
 #pragma once
 
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 
 // Behind the one header, which sets what it needs.
 #include <commctrl.h>

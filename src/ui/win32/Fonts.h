@@ -6,7 +6,7 @@
 #include <string_view>
 #include <tuple>
 
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 #include "state/Controls.h"
 #include "ui/controls/Geometry.h"
 #include "ui/layout/WindowSpec.h"

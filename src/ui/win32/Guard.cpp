@@ -1,6 +1,6 @@
 #include "ui/win32/Guard.h"
 
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 
 namespace zub {
 

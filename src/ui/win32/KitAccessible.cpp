@@ -1,6 +1,6 @@
 #include "ui/win32/KitAccessible.h"
 
-#include "platform/win32/LoadedCall.h"
+#include "platform/host/win32/LoadedCall.h"
 #include "ui/controls/CaptionLabel.h"
 
 namespace zub {

@@ -2,7 +2,7 @@
 // its parts. All else (place, parent, children, focus) the system's own object for a window answers.
 #pragma once
 
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 #include "ui/controls/Control.h"
 // Behind it.
 #include <oleacc.h>

@@ -2,7 +2,7 @@
 // of the system's bitmaps and device contexts, so that no control keeps one of its own.
 #pragma once
 
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 #include "ui/controls/Surface.h"
 
 namespace zub {

@@ -3,7 +3,7 @@
 // thing, and nothing happens.
 #pragma once
 
-#include "platform/win32/LoadedCall.h"
+#include "platform/host/win32/LoadedCall.h"
 
 namespace zub {
 

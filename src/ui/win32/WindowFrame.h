@@ -1,7 +1,7 @@
 // What the system puts around a window's inner part, and the scale at which all windows still fit on the screen.
 #pragma once
 
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 #include "ui/layout/WindowSpec.h"
 
 namespace zub {

@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "platform/folder/HostDir.h"
-#include "platform/win32/NtCalls.h"
+#include "platform/host/HostDir.h"
+#include "platform/host/win32/NtCalls.h"
 
 namespace zub {
 

@@ -1,7 +1,7 @@
 // Calls that not every Windows has, looked up when they are needed.
 #pragma once
 
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/win32/WindowsHeader.h"
 
 namespace zub {
 

@@ -1,4 +1,4 @@
-#include "platform/folder/HostFailure.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 

@@ -2,11 +2,11 @@
 #include <cstdio>
 #include <vector>
 
-#include "platform/folder/HostDir.h"
-#include "platform/win32/FolderLink.h"
-#include "platform/win32/HostFileNt.h"
-#include "platform/win32/HostListNt.h"
-#include "platform/win32/NtCalls.h"
+#include "platform/host/HostDir.h"
+#include "platform/host/win32/HostFileNt.h"
+#include "platform/host/win32/HostListNt.h"
+#include "platform/host/win32/NtCalls.h"
+#include "platform/host/win32/ReparsePoint.h"
 
 namespace zub {
 namespace {

@@ -1,8 +1,8 @@
 // An open plain file of the machine that holds a PC folder.
 #pragma once
 
-#include "platform/folder/HostDir.h"
-#include "platform/win32/NtCalls.h"
+#include "platform/host/HostDir.h"
+#include "platform/host/win32/NtCalls.h"
 
 namespace zub {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/RuntimeError.h"
-#include "platform/folder/HostDir.h"
+#include "platform/host/HostDir.h"
 
 namespace zub {
 

@@ -1,8 +1,4 @@
 // The host's file system on POSIX.
-#include "platform/folder/HostDir.h"
-
-#ifndef _WIN32
-
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -12,6 +8,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <utility>
+
+#include "platform/host/HostDir.h"
 
 namespace zub {
 namespace {
@@ -341,5 +339,3 @@ std::unique_ptr<HostDir> openHostDir(const std::string& path) {
 }
 
 }  // namespace zub
-
-#endif

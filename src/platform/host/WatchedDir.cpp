@@ -1,8 +1,8 @@
-#include "platform/folder/WatchedDir.h"
+#include "platform/host/WatchedDir.h"
 
 #include <utility>
 
-#include "platform/folder/HostFailure.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {
@@ -89,6 +89,7 @@ class WatchedDir : public HostDir {
   HostError openDir(const std::string& name, std::unique_ptr<HostDir>& child) override {
     std::unique_ptr<HostDir> opened;
     const HostError error = watch_.note(name, folder_.openDir(name, opened));
+    if (error == HostError::NotAFolder && isLink(name)) watch_.failures.addLink(watch_.at(name).path);
     if (error == HostError::None) child = std::make_unique<WatchedDir>(std::move(opened), watch_.at(name));
     return error;
   }
@@ -121,6 +122,13 @@ class WatchedDir : public HostDir {
   HostError take() override { return folder_.take(); }
 
  private:
+  // A drive's own name that is a link is no drive, and nothing to tell.
+  bool isLink(const std::string& name) {
+    HostStat found;
+    return !watch_.path.empty() && folder_.stat(name, found) == HostError::None &&
+           found.kind == HostKind::Link;
+  }
+
   std::unique_ptr<HostDir> own_;
   HostDir& folder_;
   Watch watch_;
@@ -129,10 +137,18 @@ class WatchedDir : public HostDir {
 }  // namespace
 
 void HostFailures::add(const std::string& path, HostError error) {
+  add(path + ": " + reasonOf(error));
+}
+
+void HostFailures::addLink(const std::string& path) {
+  add(path + ": a link, which is not entered");
+}
+
+void HostFailures::add(std::string text) {
   if (texts_.size() == MostTexts) {
     ++more_;
   } else {
-    texts_.insert(path + ": " + reasonOf(error));
+    texts_.insert(std::move(text));
   }
 }
 

@@ -1,8 +1,8 @@
-#include "platform/win32/NtCalls.h"
+#include "platform/host/win32/NtCalls.h"
 
 #include <ntstatus.h>
 
-#include "platform/win32/LoadedCall.h"
+#include "platform/host/win32/LoadedCall.h"
 
 namespace zub {
 namespace {

@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "platform/folder/HostDir.h"
+#include "platform/host/HostDir.h"
 
 namespace zub {
 
@@ -16,11 +16,14 @@ namespace zub {
 class HostFailures {
  public:
   void add(const std::string& path, HostError error);
+  void addLink(const std::string& path);  // one that stood on the way to something
   // "C/WINDOWS/TEMP: Permission denied"
   const std::set<std::string>& texts() const { return texts_; }
   std::size_t more() const { return more_; }  // beyond those
 
  private:
+  void add(std::string text);
+
   std::set<std::string> texts_;
   std::size_t more_ = 0;
 };

@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "platform/folder/HostDir.h"
-#include "platform/win32/WindowsHeader.h"
+#include "platform/host/HostDir.h"
+#include "platform/host/win32/WindowsHeader.h"
 
 namespace zub {
 

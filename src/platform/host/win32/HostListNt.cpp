@@ -1,8 +1,8 @@
-#include "platform/win32/HostListNt.h"
+#include "platform/host/win32/HostListNt.h"
 
 #include <ntstatus.h>
 
-#include "platform/win32/FolderLink.h"
+#include "platform/host/win32/ReparsePoint.h"
 
 namespace zub {
 namespace {

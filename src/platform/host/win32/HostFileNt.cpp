@@ -1,4 +1,4 @@
-#include "platform/win32/HostFileNt.h"
+#include "platform/host/win32/HostFileNt.h"
 
 #include <ntstatus.h>
 
