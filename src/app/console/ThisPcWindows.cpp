@@ -1,9 +1,4 @@
 #include "app/console/ConsolePc.h"
-<<<<<<< HEAD
-=======
-#include "app/console/Printable.h"
-#include "platform/host/win32/NtCalls.h"
->>>>>>> main
 #include "platform/win32/Text.h"
 #include "platform/win32/Win32Platform.h"
 #include "platform/win32/Win32SystemFolders.h"
