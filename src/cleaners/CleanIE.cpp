@@ -49,7 +49,7 @@ void cleanTypedAddresses(Engine& engine) {
 }
 
 void cleanDownloadedPrograms(Engine& engine) {
-  engine.deleter->DeleteFolder(engine.pc.folders.windows() + "\\Downloaded Program Files", "*.*");
+  engine.deleter->DeleteFolder(engine.pc.folders->windows() + "\\Downloaded Program Files", "*.*");
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ bool isFixed(Drives& drives, const std::string& drive) {
 void CleanTempFolder(Engine& engine) {
   CleanerFrame frame(engine, Task::TempFolder);
   frame.announce();
-  std::string temp = engine.pc.folders.temp(TempRoom);
+  std::string temp = engine.pc.folders->temp(TempRoom);
   if (temp.empty()) return;
   temp.pop_back();
   // The guard looks at the path without its last backslash: "C:" passes, three characters and less than two
@@ -37,20 +37,20 @@ void CleanTempFolder(Engine& engine) {
   frame.finish();
 }
 
-Recycle::Recycle(Engine& engine) : engine_(engine), drvFind_(engine.pc.drives.list()) {}
+Recycle::Recycle(Engine& engine) : engine_(engine), drvFind_(engine.pc.drives->list()) {}
 
 void Recycle::CleanBin() {
   for (const std::string& entry : drvFind_) {
     const std::string drive = entry.substr(0, 2);
     const std::string bin = drive + "\\recycled";
-    if (!isFixed(engine_.pc.drives, drive) || !engine_.pc.files.folderExists(bin)) continue;
-    engine_.clean.AddItem("\tCleaned Recycle Bin on drive " + engine_.pc.codePage.upper(drive.substr(0, 1)));
+    if (!isFixed(*engine_.pc.drives, drive) || !engine_.pc.files->folderExists(bin)) continue;
+    engine_.clean.AddItem("\tCleaned Recycle Bin on drive " + engine_.pc.codePage->upper(drive.substr(0, 1)));
     engine_.deleter->DeleteFilesInFolder(bin, "*.*");
   }
-  const std::int32_t failure = engine_.pc.shell.emptyRecycleBin(SilentEmpty);
+  const std::int32_t failure = engine_.pc.shell->emptyRecycleBin(SilentEmpty);
   if (failure != 0 && failure != NothingToEmpty) ++engine_.leftBehind;
   // The icon is refreshed after a failure only.
-  if (failure != 0) engine_.pc.shell.updateRecycleBinIcon();
+  if (failure != 0) engine_.pc.shell->updateRecycleBinIcon();
 }
 
 void CleanRecycleBin(Engine& engine, Recycle& recycle) {
@@ -59,10 +59,10 @@ void CleanRecycleBin(Engine& engine, Recycle& recycle) {
 
 ScanDisk::ScanDisk(Engine& engine)
     : engine_(engine),
-      drvFind_(engine.pc.drives.list()),
+      drvFind_(engine.pc.drives->list()),
       FileBox_(engine.pc, "*.chk", FileLister::Hidden::Skip) {
   try {
-    FileBox_.path(engine.pc.folders.current());
+    FileBox_.path(engine.pc.folders->current());
   } catch (const RuntimeError&) {
     // A current folder that is gone lists nothing.
   }
@@ -73,9 +73,9 @@ void ScanDisk::GetFiles() {
   lstDelFiles.clear();
   for (const std::string& entry : drvFind_) {
     const std::string drive = entry.substr(0, 2);
-    if (!isFixed(engine_.pc.drives, drive)) continue;
+    if (!isFixed(*engine_.pc.drives, drive)) continue;
     const std::string root = drive + "\\";
-    if (engine_.pc.files.fileExists(root + "scandisk.log")) lstDelFiles.push_back(root + "scandisk.log");
+    if (engine_.pc.files->fileExists(root + "scandisk.log")) lstDelFiles.push_back(root + "scandisk.log");
     for (const std::string& name : FileBox_.names()) lstDelFiles.push_back(root + name);
   }
 }

@@ -51,7 +51,7 @@ class UnclaimedFiles {
 
 void listIndexed(const Platform& pc, const std::string& indexFile, UnclaimedFiles& files, CookieRows& rows) {
   try {
-    IECookieIndex index(pc.files, indexFile);
+    IECookieIndex index(*pc.files, indexFile);
     IECookie cookie;
     while (index.next(cookie)) {
       if (files.claim(trim(cookie.file))) rows.push_back({cookie.site, cookie.file});
@@ -62,10 +62,10 @@ void listIndexed(const Platform& pc, const std::string& indexFile, UnclaimedFile
 }
 
 void tickKept(const Platform& pc, const std::string& keepFile, CookieRows& rows) {
-  const auto comparable = [&](std::string_view text) { return pc.codePage.upper(trim(text)); };
+  const auto comparable = [&](std::string_view text) { return pc.codePage->upper(trim(text)); };
   std::unordered_set<std::string> kept;
   try {
-    FileReader file(pc.files, keepFile);
+    FileReader file(*pc.files, keepFile);
     std::string line;
     while (file.line(line)) kept.insert(comparable(line));
   } catch (const RuntimeError& failure) {
@@ -87,7 +87,7 @@ std::string cookieIndexFile(const std::string& folder) {
 void readIECookies(const Platform& pc, const std::string& folder, CookieRows& rows) {
   FileLister lister(pc, "*.txt", FileLister::Hidden::Skip);
   onFile(folder, [&] { lister.path(folder); });
-  UnclaimedFiles unclaimed(pc.codePage, lister.names());
+  UnclaimedFiles unclaimed(*pc.codePage, lister.names());
   const std::string indexFile = cookieIndexFile(folder);
   onFile(indexFile, [&] { listIndexed(pc, indexFile, unclaimed, rows); });
   unclaimed.forEach([&](const std::string& name) { rows.push_back({name, name}); });
@@ -99,7 +99,7 @@ void saveIEKeepList(const Platform& pc, const std::string& folder, const CookieR
   for (const CookieRow& row : rows) {
     if (row.kept) lines.append(row.shown).append(CrLf);
   }
-  onFile(keepFile(folder), [&] { pc.files.replace(keepFile(folder), lines); });
+  onFile(keepFile(folder), [&] { pc.files->replace(keepFile(folder), lines); });
 }
 
 }  // namespace zub

@@ -41,7 +41,7 @@ void frmIECookieKeep::LoadCookies() {
 void frmIECookieKeep::makeIndex() {
   const std::string index = cookieIndexFile(g_strPath);
   try {
-    if (!engine_.pc.files.fileExists(index)) engine_.pc.files.open(index, OpenMode::Binary);
+    if (!engine_.pc.files->fileExists(index)) engine_.pc.files->open(index, OpenMode::Binary);
   } catch (const RuntimeError&) {
   }
 }
@@ -58,7 +58,7 @@ void frmIECookieKeep::cmdOK_Click() {
 void frmIECookieKeep::lstDelete_Click() {
   txtKeep.Text.clear();
   try {
-    FileReader file(engine_.pc.files, g_strPath + lstFiles.List(lstDelete.ListIndex()));
+    FileReader file(*engine_.pc.files, g_strPath + lstFiles.List(lstDelete.ListIndex()));
     std::string line;
     while (readLfLine(file, line)) {
       if (!line.empty()) txtKeep.Text.append(line).append(CrLf);

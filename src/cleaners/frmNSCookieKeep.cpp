@@ -66,7 +66,7 @@ void frmNSCookieKeep::findProfiles() {
 }
 
 Files& frmNSCookieKeep::files() const {
-  return engine_.pc.files;
+  return *engine_.pc.files;
 }
 
 void frmNSCookieKeep::LoadCookieLines(std::string_view Folder) {

@@ -22,13 +22,13 @@ bool Delete::DeleteFolder(std::string_view strPath, std::string_view strPattern)
   DeleteSubDir(strPath, strPattern);
   engine_.animated->RemoveEntries(removing::Files);
   for (std::size_t file = 0; file < DelFileList.size(); ++file) {
-    engine_.pc.events.DoEvents();
+    engine_.pc.events->DoEvents();
     if (file < DelFileList.size()) DeleteFile(std::string(DelFileList[file]), 0);
   }
   engine_.animated->RemoveEntries(removing::Folder);
   if (strPattern == AllFiles) {
     for (std::size_t left = DelDirList.size(); left > 0; left = std::min(left - 1, DelDirList.size())) {
-      engine_.pc.events.DoEvents();
+      engine_.pc.events->DoEvents();
       if (left > DelDirList.size()) continue;
       const std::string folder = DelDirList[left - 1];
       engine_.clean.AddItem(joined({"\tDeleting Folder ", lastPathPart(folder)}));
@@ -76,16 +76,16 @@ void Delete::WalkFolder(const std::string& start, std::string_view strPattern) {
 void Delete::listFolder(const std::string& folder, std::string_view strPattern,
                         std::vector<std::string>& children) {
   FoundFile found;
-  if (const auto search = engine_.pc.files.find(folder + "*")) {
+  if (const auto search = engine_.pc.files->find(folder + "*")) {
     while (search->next(found)) {
       if (!isFolder(found.attributes)) continue;
       children.push_back(found.name);
       DelDirList.push_back(folder + found.name);
     }
   }
-  if (const auto search = engine_.pc.files.find(joined({folder, strPattern}))) {
+  if (const auto search = engine_.pc.files->find(joined({folder, strPattern}))) {
     while (search->next(found)) {
-      engine_.pc.events.DoEvents();
+      engine_.pc.events->DoEvents();
       if (isFolder(found.attributes) || (isFolderLink(found.attributes) && strPattern != AllFiles)) continue;
       DelFileList.push_back(folder + found.name);
     }
@@ -95,7 +95,7 @@ void Delete::listFolder(const std::string& folder, std::string_view strPattern,
 // What is in a folder that cannot be listed stays.
 void Delete::countUnread(std::string_view folder, const RuntimeError& failure) {
   ++engine_.leftBehind;
-  const bool link = isFolderLink(engine_.pc.files.attributes(folder));
+  const bool link = isFolderLink(engine_.pc.files->attributes(folder));
   engine_.unread.push_back(
       joined({folder, ": ", link ? "a link, which is not entered" : failure.description()}));
 }
@@ -107,7 +107,7 @@ void Delete::DeleteFilesInFolder(std::string_view strPath, std::string_view strP
     const std::string folder = withBackslash(strPath);
     const std::vector<std::string> names = DelFile.names();
     for (const std::string& name : names) {
-      engine_.pc.events.DoEvents();
+      engine_.pc.events->DoEvents();
       DeleteFile(folder + name, 0);
     }
   } catch (const RuntimeError& failure) {
@@ -118,25 +118,25 @@ void Delete::DeleteFilesInFolder(std::string_view strPath, std::string_view strP
 
 void Delete::MakeDir(std::string_view strPath) {
   try {
-    if (!FolderPresent(strPath)) engine_.pc.files.createFolder(strPath);
+    if (!FolderPresent(strPath)) engine_.pc.files->createFolder(strPath);
   } catch (const RuntimeError&) {
   }
 }
 
 void Delete::RemoveFolderTree(std::string_view strPath) {
   try {
-    if (FolderPresent(strPath)) engine_.pc.files.deleteFolder(strPath);
+    if (FolderPresent(strPath)) engine_.pc.files->deleteFolder(strPath);
   } catch (const RuntimeError&) {
     ++engine_.leftBehind;
   }
 }
 
 bool Delete::FolderPresent(std::string_view strPath) {
-  return engine_.pc.files.folderExists(strPath);
+  return engine_.pc.files->folderExists(strPath);
 }
 
 bool Delete::DeleteFile(std::string_view strFileName, int nSpecial) {
-  Files& files = engine_.pc.files;
+  Files& files = *engine_.pc.files;
   engine_.animated->RemoveEntries(removing::Files);
   try {
     // First of all, so that a missing file fails before anything could create it.
@@ -180,12 +180,12 @@ void Delete::reportFailure(std::string_view strFileName, int nSpecial, const Run
 }
 
 void Delete::removeAtRestart(std::string_view strFileName) {
-  Restart& restart = engine_.pc.restart;
+  Restart& restart = *engine_.pc.restart;
   if (engine_.userFunctions.IsWinNT()) {
     restart.deleteAtRestart(strFileName);
   } else {
     // One key for every file: only the file scheduled last stands in the profile.
-    const std::string path = engine_.pc.files.shortPath(strFileName);
+    const std::string path = engine_.pc.files->shortPath(strFileName);
     if (!path.empty()) restart.writeProfile("rename", "nul", path, "wininit.ini");
   }
 }
@@ -193,7 +193,7 @@ void Delete::removeAtRestart(std::string_view strFileName) {
 void Delete::ZUBShredder(std::string_view szname, int nTimes) {
   static constexpr std::array<char, BlockSize> zeros{};
   try {
-    const auto file = engine_.pc.files.open(szname, OpenMode::Binary);
+    const auto file = engine_.pc.files->open(szname, OpenMode::Binary);
     const std::int64_t blocks = divideRoundHalfEven(file->length(), BlockSize);
     insideFile_ = true;
     engine_.clean.AddItem(joined({"\tShredding file ", lastPathPart(szname)}));
@@ -201,7 +201,7 @@ void Delete::ZUBShredder(std::string_view szname, int nTimes) {
       file->seek(0);
       for (std::int64_t block = 1; block <= blocks - 1; ++block) {
         file->write({zeros.data(), zeros.size()});
-        engine_.pc.events.DoEvents();
+        engine_.pc.events->DoEvents();
       }
       if (blocks > 1) file->sync();
     }

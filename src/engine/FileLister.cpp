@@ -9,7 +9,7 @@ namespace zub {
 
 void FileLister::path(std::string_view folder) {
   names_.clear();
-  if (!pc_.files.folderExists(folder)) throw RuntimeError(ErrorNumber::PathNotFound);
+  if (!pc_.files->folderExists(folder)) throw RuntimeError(ErrorNumber::PathNotFound);
   path_ = folder;
   refresh();
 }
@@ -25,9 +25,9 @@ void FileLister::refresh() {
       attribute::Directory | (hidden_ == Hidden::Skip ? attribute::Hidden | attribute::System : 0);
   if (!path_.empty() && !pattern_.empty()) {
     FoundFile file;
-    const auto search = pc_.files.find(withBackslash(path_) + pattern_);
+    const auto search = pc_.files->find(withBackslash(path_) + pattern_);
     while (search && search->next(file)) {
-      if ((file.attributes & unwanted) == 0) found.push_back({pc_.codePage.upper(file.name), file.name});
+      if ((file.attributes & unwanted) == 0) found.push_back({pc_.codePage->upper(file.name), file.name});
     }
   }
   std::ranges::sort(found, {}, &Name::upper);

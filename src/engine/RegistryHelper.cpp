@@ -27,7 +27,7 @@ RegistryStatus RegistryHelper::counted(RegistryStatus result) {
 int RegistryHelper::DeleteTrace(const Trace& trace) {
   engine_.animated->RemoveEntries(removing::Registry);
   takeToRemove(trace);
-  Registry& registry = engine_.pc.registry;
+  Registry& registry = *engine_.pc.registry;
   OpenKey key(registry);
   if (counted(key.open(hive, trace.path, access::All)) != status::Success) return -1;
 
@@ -52,7 +52,7 @@ int RegistryHelper::DeleteTrace(const Trace& trace) {
 
 RegistryStatus RegistryHelper::enumKey(RegistryKey key, std::uint32_t index, std::size_t& place) {
   auto length = static_cast<std::uint32_t>(keyName_.size());
-  const RegistryStatus result = engine_.pc.registry.enumKey(key, index, keyName_.data(), length);
+  const RegistryStatus result = engine_.pc.registry->enumKey(key, index, keyName_.data(), length);
   if (result != status::NoMoreItems) place = lstKey.add(textIn(keyName_));
   return result;
 }
@@ -62,7 +62,7 @@ RegistryStatus RegistryHelper::enumValue(RegistryKey key, std::uint32_t index, s
   std::uint32_t type = 0;
   auto dataLength = static_cast<std::uint32_t>(data_.size());
   const RegistryStatus result =
-      engine_.pc.registry.enumValue(key, index, valueName_.data(), length, type, data_.data(), dataLength);
+      engine_.pc.registry->enumValue(key, index, valueName_.data(), length, type, data_.data(), dataLength);
   const std::string_view name = trimLeft(textIn(valueName_));
   if (result != status::NoMoreItems) place = lstValue.add(name.empty() ? "[Default]" : name);
   return result;
@@ -93,7 +93,7 @@ int RegistryHelper::wipe(RegistryKey key, Walk keys, Walk values) {
     std::ranges::sort(walk.places);
     for (const std::size_t place : walk.places) remove(names[place]);
   };
-  Registry& registry = engine_.pc.registry;
+  Registry& registry = *engine_.pc.registry;
   forEach(values, lstValue, [&](const std::string& name) { registry.deleteValue(key, name); });
   forEach(keys, lstKey, [&](const std::string& name) { registry.deleteKey(key, name); });
   return counted(registry.deleteKey(key, ""));
@@ -102,7 +102,7 @@ int RegistryHelper::wipe(RegistryKey key, Walk keys, Walk values) {
 std::string RegistryHelper::TraceValue(const Trace& trace) {
   takeToRead(trace);
   if (!trace.valueForm) return {};
-  Registry& registry = engine_.pc.registry;
+  Registry& registry = *engine_.pc.registry;
   OpenKey key(registry);
   if (key.open(hive, trace.path, access::All) != status::Success) return {};
 

@@ -11,7 +11,7 @@ std::string shellFolderTrace(std::string_view name) {
 }
 
 std::string shellFolder(Engine& engine, std::string_view name) {
-  return engine.pc.codePage.toldPath(engine.registryHelper.TraceValue(shellFolderTrace(name)));
+  return engine.pc.codePage->toldPath(engine.registryHelper.TraceValue(shellFolderTrace(name)));
 }
 
 }  // namespace zub

@@ -48,7 +48,7 @@ void frmAnimated::StopAnimation() {
   const std::string restored = groupedThousands(engine_.TotalBytes);
   state.lblRemove.Caption =
       "Total amount of space restored: " + (restored.empty() ? std::string("100") : restored) + " Bytes";
-  Clock& clock = engine_.pc.clock;
+  Clock& clock = *engine_.pc.clock;
   const SystemTime now = clock.local();
   engine_.options.lblLastRemoval.Caption =
       "Last removal on " + clock.dateText(now) + " at " + clock.timeText(now);

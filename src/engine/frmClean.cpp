@@ -11,7 +11,7 @@ void frmClean::CleanAll() {
   engine_.animated->state.lblTasksTotal.Caption = std::to_string(CalculateItems());
   engine_.TotalBytes = 0;
   txtResult.clear();
-  Clock& clock = engine_.pc.clock;
+  Clock& clock = *engine_.pc.clock;
   const SystemTime now = clock.local();
   AddItem("Zubrone\r\n");
   AddItem("Log file generated at " + clock.timeText(now) + " on " + clock.dateText(now) + "\r\n");

@@ -102,7 +102,8 @@ class Registry {
   // value has the empty name. With MoreData because of the data the name may or may not have been written.
   virtual RegistryStatus enumValue(RegistryKey key, std::uint32_t index, char* name, std::uint32_t& length,
                                    std::uint32_t& type, std::uint8_t* data, std::uint32_t& dataLength) = 0;
-  // The data of one value as stored, with no NUL added. MoreData sets `dataLength` to the length needed.
+  // The data of one value as stored, with no NUL added. MoreData sets `dataLength` to the length needed. A text that
+  // the code page does not hold exactly is told by stand-ins (platform/ToldName.h), and set() takes it so.
   virtual RegistryStatus query(RegistryKey key, std::string_view name, std::uint32_t& type,
                                std::uint8_t* data, std::uint32_t& dataLength) = 0;
   // Stores the bytes as they stand, but texts as the system does, to which they are handed over with a NUL

@@ -19,7 +19,7 @@ std::string baseOf(Engine& engine, const Action& action, const std::string& appD
     case Base::AppData:
       return appData;
     case Base::Windows:
-      return std::string(StripAtNull(engine.pc.folders.windows()));
+      return std::string(StripAtNull(engine.pc.folders->windows()));
     case Base::Registry:
       return engine.registryHelper.TraceValue(action.trace);
   }

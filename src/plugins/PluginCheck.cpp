@@ -22,7 +22,7 @@ Meaning PluginCheck::meaningOf(std::string_view line) {
   using enum Meaning::Verdict;
   if (reading_ == Reading::ListEnded) return {"Is not read: the list has ended above", Never};
   if (reading_ == Reading::PluginStopped) return {"Is not read: the plugin has stopped above", Never};
-  const auto action = actionOf(engine_->pc.codePage, which_, line);
+  const auto action = actionOf(*engine_->pc.codePage, which_, line);
   if (!action) {
     reading_ = Reading::ListEnded;
     return {"Ends the list"};
@@ -33,7 +33,7 @@ Meaning PluginCheck::meaningOf(std::string_view line) {
 }
 
 std::vector<CheckedLine> PluginCheck::readFile(std::string_view path, PluginFile which) {
-  FileReader file(engine_->pc.files, path);
+  FileReader file(*engine_->pc.files, path);
   begin(which);
   std::vector<CheckedLine> lines;
   std::string line;

@@ -17,7 +17,7 @@ Plugins::Plugins(Engine& engine)
     : zb1(engine.pc, "*.zb1", FileLister::Hidden::Skip),
       zb2(engine.pc, "*.zb2", FileLister::Hidden::Skip),
       engine_(engine) {
-  CurPath(JoinPath(engine.pc.folders.programFolder(), "Plugins"));
+  CurPath(JoinPath(engine.pc.folders->programFolder(), "Plugins"));
 }
 
 void Plugins::CurPath(std::string_view folder) {

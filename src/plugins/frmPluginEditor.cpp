@@ -63,7 +63,7 @@ void frmPluginEditor::OpenFiles(std::string_view base) {
   try {
     readRows(state.lstRegistry, base, PluginFile::Registry);
     readRows(state.lstFileFolder, base, PluginFile::Files);
-    FileReader file(engine_.pc.files, std::string(base) += extensionOf(PluginFile::Comments));
+    FileReader file(*engine_.pc.files, std::string(base) += extensionOf(PluginFile::Comments));
     std::string line;
     if (file.line(line)) state.txtInfoPlugin.Text = line;
     while (file.line(line)) (state.txtComments.Text += line) += CrLf;
@@ -73,7 +73,7 @@ void frmPluginEditor::OpenFiles(std::string_view base) {
 }
 
 void frmPluginEditor::readRows(ListRows& list, std::string_view base, PluginFile which) {
-  FileReader file(engine_.pc.files, std::string(base) += extensionOf(which));
+  FileReader file(*engine_.pc.files, std::string(base) += extensionOf(which));
   std::string line;
   while (file.line(line)) list.AddItem(line);
 }
@@ -99,7 +99,7 @@ int frmPluginEditor::SavePlugin() {
 }
 
 void frmPluginEditor::writeFile(const std::string& base, PluginFile file, std::string_view text) {
-  engine_.pc.files.replace(base + std::string(extensionOf(file)), text);
+  engine_.pc.files->replace(base + std::string(extensionOf(file)), text);
 }
 
 void frmPluginEditor::cmdOK_Click() {
@@ -143,7 +143,7 @@ void frmPluginEditor::cmdFFRemove_Click() {
 }
 
 void frmPluginEditor::cmdPathBrowse_Click() {
-  CFolderBrowse picker(engine_.pc.shell);
+  CFolderBrowse picker(*engine_.pc.shell);
   picker.Prompt("Find the Folder");
   state.form.Enabled = false;  // the picker has no owner of its own to hold still
   picker.Browse();
@@ -172,7 +172,7 @@ void frmPluginEditor::optFilePattern_Click() {
 
 void frmPluginEditor::lstRegistry_Click() {
   const std::string row = state.lstRegistry.Text();
-  const CodePage& codePage = engine_.pc.codePage;
+  const CodePage& codePage = *engine_.pc.codePage;
   if (isNoEntries(codePage, row)) return;
   if (trim(row).empty()) clearRegistryBoxes();
   const RegistryBoxes boxes = registryBoxes(codePage, row);
@@ -185,7 +185,7 @@ void frmPluginEditor::lstRegistry_Click() {
 void frmPluginEditor::lstFileFolder_Click() {
   const std::string row = state.lstFileFolder.Text();
   if (trim(row).empty()) clearFileBoxes();
-  const std::optional<FileBoxes> boxes = fileBoxes(engine_.pc.codePage, row);
+  const std::optional<FileBoxes> boxes = fileBoxes(*engine_.pc.codePage, row);
   if (!boxes) return;
   if (boxes->byPattern) {
     optFilePattern_Click();
@@ -229,7 +229,7 @@ void frmPluginEditor::putRow(ListRows& list, std::string_view entry) {
       list.ListIndex(list.ListCount() - 1);
       return;
     }
-    if (!isNoEntries(engine_.pc.codePage, list.List(0))) return;
+    if (!isNoEntries(*engine_.pc.codePage, list.List(0))) return;
     row = 0;
   }
   list.RemoveItem(row);
@@ -239,7 +239,7 @@ void frmPluginEditor::putRow(ListRows& list, std::string_view entry) {
 
 // The new row's click clears the boxes.
 void frmPluginEditor::newRow(ListRows& list) {
-  if (list.ListCount() == 1 && isNoEntries(engine_.pc.codePage, list.List(0))) list.RemoveItem(0);
+  if (list.ListCount() == 1 && isNoEntries(*engine_.pc.codePage, list.List(0))) list.RemoveItem(0);
   list.AddItem("");
   list.ListIndex(list.ListCount() - 1);
 }

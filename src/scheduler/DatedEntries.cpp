@@ -21,9 +21,9 @@ void withTheFacility(Operation operation) {
 void DatedEntries::InitSchedulerTab() {
   try {
     openDatedTask(pc_);
-    const SystemTime now = pc_.clock.local();
-    txtTime.Text = pc_.clock.timeText(now);
-    txtDate.Text = pc_.clock.dateText(plusDays(now, 1));
+    const SystemTime now = pc_.clock->local();
+    txtTime.Text = pc_.clock->timeText(now);
+    txtDate.Text = pc_.clock->dateText(plusDays(now, 1));
     FillScheduleList();
   } catch (const RuntimeError&) {
     // Nobody has asked yet for what the facility refuses.
@@ -37,7 +37,7 @@ void DatedEntries::FillScheduleList() {
 
 std::optional<SystemTime> DatedEntries::ParseDateField(const TextBox& box, std::string_view message) {
   try {
-    return pc_.clock.parse(box.Text);
+    return pc_.clock->parse(box.Text);
   } catch (const RuntimeError&) {
     user_.ShowMessage(message, 0, "ZUB Scheduler", false);
     focus = &box;

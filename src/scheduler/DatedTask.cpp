@@ -14,10 +14,10 @@ std::string withoutExtension(const std::string& file) {
 
 // As the system lists them now; null where it has none of this name.
 ScheduleTask* findDatedTask(const Platform& pc) {
-  pc.tasks.refresh();
-  const int count = pc.tasks.count();
+  pc.tasks->refresh();
+  const int count = pc.tasks->count();
   for (int position = 1; position <= count; ++position) {
-    ScheduleTask& task = pc.tasks.at(position);
+    ScheduleTask& task = pc.tasks->at(position);
     if (task.name() == DatedTaskName) return &task;
   }
   return nullptr;
@@ -27,13 +27,13 @@ ScheduleTask* findDatedTask(const Platform& pc) {
 
 ScheduleTask& openDatedTask(const Platform& pc) {
   const std::string path =
-      withBackslash(pc.folders.programFolder()) + withoutExtension(pc.folders.programFile());
+      withBackslash(pc.folders->programFolder()) + withoutExtension(pc.folders->programFile());
   if (ScheduleTask* found = findDatedTask(pc)) {
     found->application(path);
     found->parameters(" /SCHEDULER");
     return *found;
   }
-  ScheduleTask& made = pc.tasks.add(DatedTaskName);
+  ScheduleTask& made = pc.tasks->add(DatedTaskName);
   made.application(path);
   made.comment("Zubrane");
   made.save(SaveNow);

@@ -5,7 +5,6 @@
 namespace zub {
 namespace {
 
-constexpr std::string_view storeKey = "Software\\ZUB";
 constexpr std::size_t DigitSize = 2;
 constexpr std::size_t TextSize = 256;
 
@@ -30,9 +29,9 @@ bool INIFile::openKey(OpenKey& key) {
 }
 
 int INIFile::PutInfo() {
-  OpenKey key(pc_.registry);
+  OpenKey key(*pc_.registry);
   if (!openKey(key)) return -1;
-  PutText("ZUBPath", pc_.folders.programFolder());
+  PutText("ZUBPath", pc_.folders->programFolder());
   PutText("lblLastRemoval", options_.lblLastRemoval.Caption);
   for (int row = 0; row < IconChecks::Count; ++row) {
     PutBool(iconNames[static_cast<std::size_t>(row)], options_.LstIcons.Check(row));
@@ -45,7 +44,7 @@ int INIFile::PutInfo() {
 }
 
 int INIFile::GetInfo() {
-  OpenKey key(pc_.registry);
+  OpenKey key(*pc_.registry);
   if (!openKey(key)) return -1;
   options_.lblLastRemoval.Caption = GetText("lblLastRemoval");
   for (const int row : iconReadOrder) {
@@ -62,7 +61,7 @@ int INIFile::GetInfo() {
 }
 
 int INIFile::GetInfo2() {
-  OpenKey key(pc_.registry);
+  OpenKey key(*pc_.registry);
   if (!openKey(key)) return -1;
   getRows(options_.standardlist, standardPluginPrefix);
   return 0;
@@ -86,7 +85,7 @@ char INIFile::digitOf(std::string_view name) {
   std::array<std::uint8_t, DigitSize> buffer{};
   std::uint32_t type = 0;
   std::uint32_t length = DigitSize;
-  if (pc_.registry.query(key_, name, type, buffer.data(), length) != status::Success) {
+  if (pc_.registry->query(key_, name, type, buffer.data(), length) != status::Success) {
     write(name, std::string_view("0\0", DigitSize));
     return '\0';
   }
@@ -119,7 +118,7 @@ std::string INIFile::GetText(std::string_view name) {
   std::array<std::uint8_t, TextSize> buffer{};
   std::uint32_t type = 0;
   std::uint32_t length = TextSize;
-  if (pc_.registry.query(key_, name, type, buffer.data(), length) != status::Success) {
+  if (pc_.registry->query(key_, name, type, buffer.data(), length) != status::Success) {
     write(name, std::string_view("\0\0", 2));
     return {};
   }
@@ -129,7 +128,7 @@ std::string INIFile::GetText(std::string_view name) {
 int INIFile::write(std::string_view name, std::string_view bytes) {
   const std::span data(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
   const auto type = static_cast<std::uint32_t>(ValueType::Text);
-  return pc_.registry.set(key_, name, type, data) == status::Success ? 0 : -1;
+  return pc_.registry->set(key_, name, type, data) == status::Success ? 0 : -1;
 }
 
 }  // namespace zub

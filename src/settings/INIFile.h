@@ -19,6 +19,8 @@
 
 namespace zub {
 
+inline constexpr std::string_view storeKey = "Software\\ZUB";
+
 // The fixed flags by their stored names, which differ from their controls' names in three places.
 struct FlagName {
   std::string_view stored;

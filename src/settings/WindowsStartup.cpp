@@ -3,13 +3,6 @@
 #include "base/Text.h"
 
 namespace zub {
-namespace {
-
-constexpr std::string_view runKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
-constexpr std::string_view parkedKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run-";
-
-}  // namespace
-
 void WindowsStartup::AddStartupEntry(std::string_view data, std::string_view name) {
   move(parkedKey, runKey, data, name);
 }

@@ -10,6 +10,9 @@
 
 namespace zub {
 
+inline constexpr std::string_view runKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+inline constexpr std::string_view parkedKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run-";
+
 class WindowsStartup {
  public:
   explicit WindowsStartup(Registry& registry) : registry_(registry) {}

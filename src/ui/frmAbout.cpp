@@ -37,29 +37,29 @@ void frmAbout::StartSysInfo() {
   const std::string tool = informationTool();
   if (!tool.empty()) {
     try {
-      pc_.shell.start(tool);
+      pc_.shell->start(tool);
       return;
     } catch (const RuntimeError&) {
       // A stored path is used untested; one that leads nowhere is as good as none.
     }
   }
-  pc_.messages.show(NoTool, OkOnly, Title);
+  pc_.messages->show(NoTool, OkOnly, Title);
 }
 
 std::string frmAbout::informationTool() {
-  const RegistryKey machine = pc_.registry.hive(Hive::LocalMachine);
+  const RegistryKey machine = pc_.registry->hive(Hive::LocalMachine);
   std::string path;
   if (GetKeyValue(machine, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", path) && !path.empty())
     return path;
   if (!GetKeyValue(machine, "SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO", path)) return {};
   path += "\\MSINFO32.EXE";
-  return pc_.files.fileExists(path) ? path : std::string();
+  return pc_.files->fileExists(path) ? path : std::string();
 }
 
 bool frmAbout::GetKeyValue(RegistryKey KeyRoot, std::string_view KeyName, std::string_view SubKeyRef,
                            std::string& KeyVal) {
   KeyVal.clear();
-  Registry& registry = pc_.registry;
+  Registry& registry = *pc_.registry;
   RegistryKey key = 0;
   if (registry.open(KeyRoot, KeyName, access::Read, key) != status::Success) return false;
   std::array<std::uint8_t, LongestValue> data{};

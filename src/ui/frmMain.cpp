@@ -27,7 +27,7 @@ void selectAllAs(const CheckOption& control, ListRows& rows) {
 
 frmMain::frmMain(const MainParts& parts)
     : options(parts.engine.options),
-      automatic(parts.engine.pc.clock, options),
+      automatic(*parts.engine.pc.clock, options),
       dated(parts.engine.pc, parts.engine.userFunctions),
       parts_(parts),
       engine_(parts.engine) {
@@ -89,8 +89,8 @@ Label& frmMain::helpLabel(HelpLabel which) {
 }
 
 void frmMain::writeStartupEntry() {
-  WindowsStartup startup(engine_.pc.registry);
-  const std::string command = startupCommand(engine_.pc.folders);
+  WindowsStartup startup(*engine_.pc.registry);
+  const std::string command = startupCommand(*engine_.pc.folders);
   if (options.chkLoadStartUp.Value() == 1) {
     startup.AddStartupEntry(command, applicationTitle);
   } else {
@@ -109,9 +109,9 @@ void frmMain::Form_Load() {
 
 bool frmMain::ApplyStartMode() {
   INIFile(engine_.pc, options).GetInfo();
-  if (engine_.pc.process.otherInstanceRuns()) Unload();
-  const std::string commandLine = engine_.pc.process.commandLine();
-  engine_.pc.tray.add(frmIcon::szTip);
+  if (engine_.pc.process->otherInstanceRuns()) Unload();
+  const std::string commandLine = engine_.pc.process->commandLine();
+  engine_.pc.tray->add(frmIcon::szTip);
   parts_.icon.SetTopForm(frmIcon::MainWindow);
 
   const bool withWindows = contains(commandLine, "/STARTUP");
@@ -159,8 +159,8 @@ void frmMain::QueryUnload(UnloadMode mode) {
 
 void frmMain::Unload() {
   INIFile(engine_.pc, options).PutInfo();
-  engine_.pc.tray.remove();
-  engine_.pc.process.end();
+  engine_.pc.tray->remove();
+  engine_.pc.process->end();
 }
 
 void frmMain::Form_Resize() {
@@ -203,12 +203,12 @@ void frmMain::rowTouched(int row, std::string_view text) {
 }
 
 void frmMain::cmdHelp_Click() {
-  engine_.pc.shell.open(JoinPath(engine_.pc.folders.programFolder(), userGuide));
+  engine_.pc.shell->open(JoinPath(engine_.pc.folders->programFolder(), userGuide));
 }
 
 void frmMain::cmdDownload_Click() {
-  engine_.pc.shell.open(pluginPage.empty() ? JoinPath(engine_.pc.folders.programFolder(), pluginHelp)
-                                           : std::string(pluginPage));
+  engine_.pc.shell->open(pluginPage.empty() ? JoinPath(engine_.pc.folders->programFolder(), pluginHelp)
+                                            : std::string(pluginPage));
 }
 
 void frmMain::cmdEditOptions_Click() {

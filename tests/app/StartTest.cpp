@@ -42,7 +42,7 @@ TEST_CASE("which switches wash at the start, and whether the window shows") {
     CHECK(pc.options().standardlist.ListCount() == 84);
     CHECK(pc.main().lblHelp.Caption == "");
     CHECK_FALSE(pc.main().dated.txtDate.Text.empty());
-    CHECK(pc.pc.platform().tasks.count() == 1);
+    CHECK(pc.pc.platform().tasks->count() == 1);
     CHECK(pc.pc.tray == std::vector<std::string>{"add Zubrone"});
     CHECK(pc.icon().SetTopForm() == (row.washes > 0 ? 1 : 0));
     if (row.washes == 0) continue;
@@ -72,7 +72,7 @@ TEST_CASE("a wash inside the start comes before the scheduler tab and the standa
       CHECK_FALSE(pc.main().lblHelp.Caption.empty());
       CHECK(pc.options().lstFiles.SelCount() == 1);
       CHECK(pc.options().standardlist.ListCount() == 0);
-      CHECK(pc.pc.platform().tasks.count() == 0);
+      CHECK(pc.pc.platform().tasks->count() == 0);
       CHECK(pc.main().dated.txtDate.Text.empty());
       CHECK_FALSE(pc.main().form.Visible);
     });

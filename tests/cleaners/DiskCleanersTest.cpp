@@ -20,9 +20,9 @@ struct OtherTemp : FolderSystemFolders {
   }
 };
 
-Platform with(const Platform& pc, SystemFolders& folders) {
-  return {pc.codePage, pc.registry, pc.files,  pc.drives,   folders, pc.restart, pc.shell,
-          pc.clock,    pc.process,  pc.events, pc.messages, pc.tray, pc.tasks};
+Platform with(Platform pc, SystemFolders& folders) {
+  pc.folders = &folders;
+  return pc;
 }
 
 }  // namespace
@@ -38,7 +38,7 @@ TEST_CASE("the temp folder is emptied and stays, and is made where it is missing
   CHECK(pc.takeReport() ==
         "ZUB has cleaned the TEMP folder, with the following results:\r\n\tDeleting file a.tmp\r\n"
         "\tDeleting file b.tmp\r\n\tDeleting Folder Sub\r\n");
-  pc.pc.platform().files.deleteFolder(temp);
+  pc.pc.platform().files->deleteFolder(temp);
   CHECK(pc.removedBy(clean) == "+ " + temp + "\n");
 }
 

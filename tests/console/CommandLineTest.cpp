@@ -63,6 +63,7 @@ TEST_CASE("the command line") {
       {"help plugin check", "help in  <plugin> <check>"},
 
       {"", "no command is given"},
+      {"--user x wash", "wash: --user takes a name, with --pc FOLDER"},
       {"--pc", "--pc takes a folder"},
       {"--pc= wash", "--pc takes a folder"},
       {"--pc '' wash", "--pc takes a folder"},

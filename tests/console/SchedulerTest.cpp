@@ -7,6 +7,7 @@
 #include "app/console/Scheduler.h"
 #include "app/console/Store.h"
 #include "platform/folder/FolderPc.h"
+#include "platform/folder/NewPc.h"
 #include "support/TempFolder.h"
 
 using namespace zub;
@@ -27,7 +28,7 @@ struct TimedPc : ConsolePc {
   ConsoleLoop loop{"zub", [](std::string_view text) { return std::string(text); }};
   std::unique_ptr<ConsolePc> pc;
   MovedClock clock;
-  std::unique_ptr<Platform> timed;
+  Platform timed{};
   std::unique_ptr<CommandContext> context;
   std::unique_ptr<Scheduler> scheduler;
 
@@ -39,23 +40,25 @@ struct TimedPc : ConsolePc {
     if (choose) choose(store.options);
     store.save();
     pc->save();
-    const Platform& p = pc->platform();
-    timed = std::make_unique<Platform>(Platform{p.codePage, p.registry, p.files, p.drives, p.folders,
-                                                p.restart, p.shell, clock, p.process, p.events, p.messages,
-                                                p.tray, p.tasks});
+    timed = pc->platform();
+    timed.clock = &clock;
     context = std::make_unique<CommandContext>(CommandContext{*this, loop, {}});
     scheduler = std::make_unique<Scheduler>(*context, secondsOf(clock.now));
   }
-  Platform& platform() override { return *timed; }
+  Platform& platform() override { return timed; }
   void save() override {}
+  bool saveChanges(bool, std::string_view) override { return false; }
   std::vector<std::string> failures() const override { return {}; }
+  std::vector<std::string> oddities() override { return {}; }
+  void needWashable() override {}
   std::string folder() const override { return path; }
+  std::string user() const override { return {}; }
   std::string utf8(std::string_view text) const override { return std::string(text); }
   std::string fromTerminal(std::string_view text) const override { return std::string(text); }
 
   void tasks(const char* text) { writeHostFile(*openHostDir(path), "tasks.txt", text); }
   bool washesAt(std::uint16_t hour, std::uint16_t minute, std::uint16_t second) {
-    Files& files = pc->platform().files;
+    Files& files = *pc->platform().files;
     files.open(Trace, OpenMode::Binary);
     clock.now.wHour = hour;
     clock.now.wMinute = minute;
@@ -102,7 +105,7 @@ TEST_CASE("a dated wash that meets another program waits its turn") {
   pc.tasks("task = ZUB\nparameters =  /SCHEDULER\ntrigger = 0 2001-09-14 10:25\n");
   {
     const auto other = openFolderPc(pc.path, pc.loop, pc.loop, "");
-    REQUIRE_FALSE(other->platform().process.otherInstanceRuns());
+    REQUIRE_FALSE(other->platform().process->otherInstanceRuns());
     CHECK_FALSE(pc.washesAt(10, 25, 0));
     CHECK_FALSE(pc.washesAt(10, 25, 1));
   }

@@ -25,7 +25,7 @@ newPc() { rm -rf "$pc" && cp -R "$work/first" "$pc"; }
 wash() {
   local status=0
   zub --pc "$pc" wash || status=$?
-  [ $status -le 1 ] || fail "the wash ended with $status: $(tail -1 "$work/err")"
+  [ $status -le "${worst:-1}" ] || fail "the wash ended with $status: $(tail -1 "$work/err")"
 }
 
 # Links in folders that a wash empties: they go, as links.
@@ -69,7 +69,7 @@ for place in C/WINDOWS/TEMP C/WINDOWS C/RECYCLED C D "C/Program Files/Zubrane/Pl
   rm -rf "${pc:?}/$place"
   mkdir -p "$(dirname "$pc/$place")"
   ln -s "$outside" "$pc/$place"
-  wash
+  worst=$([ "$place" = C ] && echo 2 || echo 1) wash  # refused without any drive
   untouched "$place is a link"
   check "the link is gone: $place" [ -L "$pc/$place" ]
 done

@@ -56,7 +56,7 @@ check "new registry entries: $(head -3 "$work/new")" [ ! -s "$work/new" ]
 
 # Two profiles share what their keep files hold after a wash, so their cookies are left out, and the times of the
 # folders in which files are replaced.
-disk() { portrait "$pc" | grep -Ev 'ZUBKeepNS6|cookies.txt|registry.reg|^\./C d |\.slt d |^\. '; }
+disk() { portrait "$pc" | grep -Ev 'ZUBKeepNS6|cookies.txt|registry.reg|changes.reg|^\./C d |\.slt d |^\. '; }
 disk >"$work/disk"
 run 1 --pc "$pc" wash
 says "Total amount of space restored: 100 Bytes"  # the wording for none

@@ -103,7 +103,7 @@ TEST_CASE("the file scheduled last stands alone in the profile, on both families
       pc.pc.lock(held);
       CHECK(pc.engine.deleter->DeleteFile(held, 1));
       CHECK(pc.pc.bytes("C:\\WINDOWS\\wininit.ini") ==
-            "[rename]\r\nnul=" + pc.pc.platform().files.shortPath(held) + "\r\n");
+            "[rename]\r\nnul=" + pc.pc.platform().files->shortPath(held) + "\r\n");
     }
   }
 }

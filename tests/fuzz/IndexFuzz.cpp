@@ -32,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   pc.keep.LoadCookies();
   std::set<std::string> named;
   for (int row = 0; row < pc.keep.lstFiles.ListCount(); ++row) {
-    named.insert(pc.engine.pc.codePage.upper(trim(pc.keep.lstFiles.List(row))));
+    named.insert(pc.engine.pc.codePage->upper(trim(pc.keep.lstFiles.List(row))));
   }
   if (named != pc.files || pc.keep.lstDelete.ListCount() != static_cast<int>(named.size())) __builtin_trap();
   return 0;

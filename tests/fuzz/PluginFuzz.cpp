@@ -42,7 +42,7 @@ void rebuildRegistryRow(const CodePage& codePage, std::string_view line) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static WashFixture pc;
   PluginCheck check(pc.engine);
-  const CodePage& codePage = pc.engine.pc.codePage;
+  const CodePage& codePage = *pc.engine.pc.codePage;
   for (const PluginFile which : {PluginFile::Files, PluginFile::Registry}) {
     check.begin(which);
     std::string_view text(reinterpret_cast<const char*>(data), size);

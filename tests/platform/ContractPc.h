@@ -69,7 +69,7 @@ using PretendingNt = Pretending<FolderPcNt>;
 
 template <class Pc>
 bool isNt(Pc& pc) {
-  return pc.platform().restart.platformId(148) == 2;
+  return pc.platform().restart->platformId(148) == 2;
 }
 
 // The number of the error that the call fails with; 0 where it does not fail.

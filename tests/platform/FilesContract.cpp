@@ -37,7 +37,7 @@ TEST_CASE_TEMPLATE("files: wildcards find what Windows finds", Pc, CONTRACT_PCS)
   for (const char* name :
        {"a.tmp", "B.TMP", "cc.tmp", "Trash", "Trash.txt", "x y.old", "two.dots.tmp", "page.html"})
     pc.file(base + name, "x");
-  pc.platform().files.createFolder(base + "Sub");
+  pc.platform().files->createFolder(base + "Sub");
   const std::string all = "B.TMP, Sub, Trash, Trash.txt, a.tmp, cc.tmp, page.html, two.dots.tmp, x y.old";
   const struct {
     const char* pattern;
@@ -65,14 +65,14 @@ TEST_CASE_TEMPLATE("files: wildcards find what Windows finds", Pc, CONTRACT_PCS)
   };
   for (const auto& row : rows) {
     CAPTURE(std::string(row.pattern));
-    CHECK(found(pc.platform().files, base + row.pattern) == row.expected);
+    CHECK(found(*pc.platform().files, base + row.pattern) == row.expected);
   }
 }
 
 TEST_CASE_TEMPLATE("files: a search tells sizes and attributes, and files may go meanwhile", Pc,
                    CONTRACT_PCS) {
   Pc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   const std::string base = pc.folder() + '\\';
   pc.file(base + "some.bin", std::string(70000, 'x'));
   pc.readOnly(base + "some.bin");
@@ -97,7 +97,7 @@ TEST_CASE_TEMPLATE("files: a search tells sizes and attributes, and files may go
 TEST_CASE_TEMPLATE("files: paths are found without case, with doubled backslashes, from here", Pc,
                    CONTRACT_PCS) {
   Pc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   files.createFolder(pc.folder() + "\\Inner");
   pc.file(pc.folder() + "\\Inner\\File.Txt", "12345");
   for (const char* path : {"\\inner\\FILE.TXT", "\\\\INNER\\\\file.txt"}) {
@@ -106,7 +106,7 @@ TEST_CASE_TEMPLATE("files: paths are found without case, with doubled backslashe
   }
   CHECK(found(files, pc.folder() + "\\*") == "Inner");  // as written
 
-  const std::string here = pc.platform().folders.current();
+  const std::string here = pc.platform().folders->current();
   files.open("Relative.txt", OpenMode::Binary)->write("here");
   CHECK(pc.bytes(JoinPath(here, "Relative.txt")) == "here");
   CHECK(files.fileExists(JoinPath(here, "relative.TXT").substr(2)));  // on the current drive
@@ -114,7 +114,7 @@ TEST_CASE_TEMPLATE("files: paths are found without case, with doubled backslashe
 
 TEST_CASE_TEMPLATE("files: what is a file and what is a folder", Pc, CONTRACT_PCS) {
   Pc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   pc.file(pc.folder() + "\\file", "x");
   const std::string drive = pc.folder().substr(0, 2);
   const struct {
@@ -147,7 +147,7 @@ TEST_CASE_TEMPLATE("files: what is a file and what is a folder", Pc, CONTRACT_PC
 
 TEST_CASE_TEMPLATE("files: every failure has its number", Pc, CONTRACT_PCS) {
   Pc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   const std::string base = pc.folder() + '\\';
   files.createFolder(base + "folder");
   pc.file(base + "plain", "x");
@@ -210,7 +210,7 @@ TEST_CASE_TEMPLATE("files: every failure has its number", Pc, CONTRACT_PCS) {
 TEST_CASE_TEMPLATE("files: what others hold open can be read as they share it, and is not taken from them",
                    Pc, CONTRACT_PCS) {
   Pc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   const std::string path = pc.folder() + "\\held";
   for (const Sharing sharing : {Sharing::Reading, Sharing::Everything}) {
     pc.file(path, "theirs");
@@ -227,13 +227,13 @@ TEST_CASE_TEMPLATE("files: what others hold open can be read as they share it, a
   CHECK(failure([&] { files.open(path, OpenMode::Input); }) == 0);
   CHECK(pc.hold(path, Sharing::Everything));
   pc.unlock(path);
-  const bool family9x = pc.platform().restart.platformId(148) == 1;  // shares no removal
+  const bool family9x = pc.platform().restart->platformId(148) == 1;  // shares no removal
   CHECK(failure([&] { files.remove(path); }) == (family9x ? 70 : 0));
 }
 
 TEST_CASE_TEMPLATE("files: each mode opens what it is for", Pc, CONTRACT_PCS) {
   Pc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   const std::string path = pc.folder() + "\\File.dat";
   files.open(path, OpenMode::Binary);
   CHECK(pc.bytes(path).empty());
@@ -262,7 +262,7 @@ TEST_CASE_TEMPLATE(
     "files: a file that is replaced keeps its name and attributes, and nothing stays beside it", Pc,
     CONTRACT_PCS) {
   Pc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   const std::string base = pc.folder() + '\\';
   pc.file(base + "The Cookies.txt", std::string(100000, 'o'));
   pc.hide(base + "The Cookies.txt");
@@ -287,7 +287,7 @@ TEST_CASE_TEMPLATE("files: what is written in pieces arrives whole", Pc, CONTRAC
   const std::string path = pc.folder() + "\\big.dat";
   std::string expected(300000, 'o');
   pc.file(path, expected);
-  const auto channel = pc.platform().files.open(path, OpenMode::Binary);
+  const auto channel = pc.platform().files->open(path, OpenMode::Binary);
   const auto overwrite = [&](std::size_t place, std::size_t piece, int times, char letter) {
     channel->seek(static_cast<std::int64_t>(place));
     for (int time = 0; time < times; ++time) channel->write(std::string(piece, letter));
@@ -313,7 +313,7 @@ TEST_CASE_TEMPLATE("files: what is written in pieces arrives whole", Pc, CONTRAC
 
 TEST_CASE_TEMPLATE("files: a folder goes with all that it holds", Pc, CONTRACT_PCS) {
   Pc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   const std::string base = pc.folder() + '\\';
   for (const char* folder : {"tree", "tree\\a", "tree\\a\\deep", "tree\\b", "beside"})
     files.createFolder(base + folder);
@@ -333,7 +333,7 @@ TEST_CASE_TEMPLATE("files: a folder goes with all that it holds", Pc, CONTRACT_P
 
 TEST_CASE_TEMPLATE("files: a link to a folder is an empty file, never a way in", Pc, CONTRACT_PCS) {
   Pc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   const std::string base = pc.folder() + '\\';
   files.createFolder(base + "target");
   pc.file(base + "target\\kept", "x");
@@ -379,7 +379,7 @@ TEST_CASE_TEMPLATE("files: each told name leads back to its own entry", Pc, CONT
   Pc pc;
   // A real Windows of the 9x family has no calls that reach such names.
   if (pc.followsLinks() && !isNt(pc)) return;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   const std::u16string decoys[] = {u"a.tmp", u"end", u"keepdir"};
   const struct {
     std::u16string name;
@@ -419,7 +419,7 @@ TEST_CASE_TEMPLATE("files: no length of a path hides a file", Pc, CONTRACT_PCS) 
   Pc pc;
   // The calls of the 9x family take 259 characters.
   if (pc.followsLinks() && !isNt(pc)) return;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   std::string folder = pc.folder();
   for (int level = 0; level < 5; ++level) {
     folder += '\\' + std::string(100, static_cast<char>('a' + level));
@@ -433,7 +433,7 @@ TEST_CASE_TEMPLATE("files: no length of a path hides a file", Pc, CONTRACT_PCS) 
 
 TEST_CASE_TEMPLATE("files: the short path of a file is in 8.3 and leads to it", Pc, CONTRACT_PCS) {
   Pc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   const std::string path = pc.folder() + "\\a long file name.text";
   pc.file(path, "1234567");
   const std::string shortPath = files.shortPath(path);

@@ -6,6 +6,7 @@
 #include "platform/folder/FolderChannel.h"
 #include "platform/folder/FolderPc.h"
 #include "platform/folder/FolderSearch.h"
+#include "platform/folder/NewPc.h"
 #include "support/TempFolder.h"
 
 #ifndef _WIN32
@@ -49,7 +50,7 @@ struct Fenced {
 
 TEST_CASE("what is remembered of a folder's names hides nothing that the program makes or removes") {
   TestPc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   pc.file("C:\\T\\A long name.txt");
   CHECK_FALSE(files.fileExists("C:\\T\\new.txt"));
   files.open("C:\\T\\NEW.TXT", OpenMode::Binary)->close();
@@ -100,7 +101,7 @@ TEST_CASE("no path leads out of the folder") {
 TEST_CASE("paths that mean the same file") {
   TestPc pc;
   pc.file("C:\\WINDOWS\\My Folder\\file.txt", "12345");
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   for (const char* path : {"C:\\WINDOWS\\My Folder\\file.txt", "c:\\windows\\MY FOLDER\\FILE.TXT",
                            "C:/WINDOWS//My Folder/file.txt", "\\WINDOWS\\My Folder\\file.txt",
                            "WINDOWS\\My Folder\\file.txt", "C:WINDOWS\\.\\My Folder\\x\\..\\file.txt",
@@ -114,7 +115,7 @@ TEST_CASE("paths that mean the same file") {
 
 TEST_CASE("names that no file can have") {
   TestPc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   for (const char* path : {"C:\\a?b", "C:\\a*", "C:\\a:b", "C:\\a|b", "C:\\<", "C:\\con", "C:\\NUL.txt",
                            "C:\\com1.x", "C:\\x\\lpt9", "C:\\ \\a", "C:\\...", "C:\\a\tb", ""}) {
     CAPTURE(path);
@@ -132,7 +133,7 @@ TEST_CASE("facts about files and drives") {
   pc.file("C:\\long dir\\locked.html");
   pc.file("C:\\H.TXT");
   pc.file("D:\\f");
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   CHECK(files.attributes("C:\\h.txt") == (attribute::Hidden | attribute::System));
   files.resetAttributes("C:\\h.txt");
   CHECK(files.attributes("C:\\h.txt") == attribute::Normal);
@@ -146,8 +147,8 @@ TEST_CASE("facts about files and drives") {
   CHECK(failure([&] { files.createFolder("D:\\new"); }) == 70);
   CHECK(failure([&] { files.open("D:\\f", OpenMode::Binary); }) == 70);
   CHECK(failure([&] { files.open("D:\\f", OpenMode::Input); }) == 0);
-  CHECK(pc.platform().drives.list() == std::vector<std::string>{"C:", "D:", "E:"});
-  CHECK(pc.platform().drives.type("e:\\") == DriveType::CdRom);
+  CHECK(pc.platform().drives->list() == std::vector<std::string>{"C:", "D:", "E:"});
+  CHECK(pc.platform().drives->type("e:\\") == DriveType::CdRom);
   CHECK(failure([&] { files.open("F:\\f", OpenMode::Input); }) == 76);
 }
 
@@ -261,7 +262,7 @@ TEST_CASE("a profile is replaced in one step, and no file beside it is lost") {
     if (readOnly) pc.readOnly(ini);
     const std::string host = pc.hostFolder() + "/C/WINDOWS/";
     REQUIRE(::link((host + "wininit.ini").c_str(), (host + "same").c_str()) == 0);
-    pc.platform().restart.writeProfile("a", "k", "1", "wininit.ini");
+    pc.platform().restart->writeProfile("a", "k", "1", "wininit.ini");
     CHECK(pc.bytes(ini) == (readOnly ? "[a]\r\n" : "[a]\r\nk=1\r\n"));
     CHECK(pc.bytes("C:\\WINDOWS\\same") == "[a]\r\n");
     CHECK(pc.bytes(ini + ".new") == "somebody's own");

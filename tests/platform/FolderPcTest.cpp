@@ -7,6 +7,7 @@
 #include "platform/ProfileText.h"
 #include "platform/folder/FolderPc.h"
 #include "platform/folder/HostText.h"
+#include "platform/folder/NewPc.h"
 #include "platform/folder/PcError.h"
 #include "platform/folder/RegistryText.h"
 #include "support/TempFolder.h"
@@ -80,6 +81,8 @@ TEST_CASE("bad facts are refused with their line") {
       {"current\n", 1},
       {"drive CD = fixed\n", 1},
       {"drive C = floppy\n", 1},
+      {"drive C = fixed at \n", 1},
+      {"user = Software\\x\n", 1},
       {"drive C = fixed\nDRIVE c = fixed\n", 2},
       {"read only = C:\n", 1},
       {"no rights = HKLM\\Software\n", 1},
@@ -105,6 +108,67 @@ TEST_CASE("facts are read whatever their case, blanks and line ends") {
   CHECK(facts.drives.at('D') == DriveType::CdRom);
   CHECK(facts.locked == std::set<std::string>{"C:\\A", "C:\\B"});
   CHECK(facts.windows.text() == "C:\\WINDOWS");
+}
+
+TEST_CASE("drives lie in folders of the PC's folder, or where the facts tell") {
+  TempFolder temp;
+  for (const char* folder : {"pc", "disk"}) REQUIRE(temp.dir().makeDir(folder) == HostError::None);
+  const auto root = openHostDir(temp.path() + "/pc");
+  const auto disk = openHostDir(temp.path() + "/disk");
+  writeHostFile(*disk, "F", "x");
+  for (const char* folder : {"E", "not a drive"}) REQUIRE(root->makeDir(folder) == HostError::None);
+  writeHostFile(*root, "pc.txt",
+                "drive C = fixed at ../disk\ndrive D = removable at " + temp.path() +
+                    "/disk\ndrive F = fixed at gone\n");
+  FolderPc pc(temp.path() + "/pc");
+  CHECK(pc.files.fileExists("C:\\f"));
+  CHECK(pc.files.fileExists("d:\\F"));
+  CHECK(pc.drives.type("D:") == DriveType::Removable);
+  CHECK(pc.driveFolders().letters() == std::vector<char>{'C', 'D', 'E', 'F'});
+  CHECK(pc.driveFolders().withDisk() == std::vector<char>{'C', 'D', 'E'});
+  CHECK(failure([&] { pc.files.open("F:\\f", OpenMode::Input); }) == 71);
+  const std::vector<std::string> oddities = pc.driveFolders().oddities();
+  REQUIRE(oddities.size() == 2);
+  CHECK(contains(oddities[0], "drive F: holds no disk"));
+  CHECK(contains(oddities[1], "drive E: is empty"));
+  pc.files.remove("C:\\f");
+  CHECK_FALSE(pc.files.fileExists("D:\\F"));
+}
+
+TEST_CASE("a hive shows the part of another one that it is on a running PC, and that part stays") {
+  NewPc folder;
+  const std::string machine =
+      "[HKEY_LOCAL_MACHINE\\Software\\Classes\\txt]\n[HKEY_LOCAL_MACHINE\\Config\\0001\\x]\n";
+  const std::string users = "[HKEY_USERS\\.DEFAULT\\Of default]\n[HKEY_USERS\\S-1\\Of one\\Below]\n";
+  folder.write("registry.reg", "REGEDIT4\n[HKEY_CURRENT_USER\\Own]\n" + machine + users);
+  struct Row {
+    const char* user;
+    const char* key;
+  };
+  for (const Row& row : {Row{"", "Own"}, {".default", "Of default"}, {"S-1", "Of one"}}) {
+    CAPTURE(row.user);
+    FolderPc pc(folder.path(), {}, DamagedTasks::Refused, row.user);
+    Registry& registry = pc.registry;
+    const auto opens = [&](Hive hive, const char* path) {
+      return OpenKey(registry).open(hive, path, access::Read) == status::Success;
+    };
+    CHECK(opens(Hive::CurrentUser, row.key));
+    CHECK(opens(Hive::ClassesRoot, "txt"));
+    CHECK(opens(Hive::CurrentConfig, "x"));
+    CHECK(registry.deleteKey(registry.hive(Hive::LocalMachine), "Software") == status::AccessDenied);
+    CHECK(registry.deleteKey(registry.hive(Hive::CurrentUser), "") == status::AccessDenied);
+    CHECK(registry.deleteKey(registry.hive(Hive::CurrentUser), row.key) == status::Success);
+  }
+  folder.write("pc.txt", "user = S-1\nno rights = HKEY_CURRENT_USER\\Of one\n");
+  FolderPc pc(folder.path());
+  OpenKey key(pc.registry);
+  CHECK(key.open(Hive::Users, "S-1\\Of one\\Below", access::Write) == status::AccessDenied);
+  CHECK_THROWS_AS(FolderPc(folder.path(), {}, DamagedTasks::Refused, "S-2"), PcError);
+  // What the text has of a hive's own is shown.
+  folder.write("pc.txt", "");
+  folder.write("registry.reg", "REGEDIT4\n[HKEY_CLASSES_ROOT\\own]\n" + machine);
+  FolderPc own(folder.path());
+  CHECK(OpenKey(own.registry).open(Hive::ClassesRoot, "txt", access::Read) == status::FileNotFound);
 }
 
 TEST_CASE("a save changes only what the program changed") {
@@ -230,29 +294,42 @@ TEST_CASE("a profile key is set and all other lines stay") {
   CHECK(changed("[rename]\r\n NUL = C:\\Y\r\nb=2\r\n") == "[rename]\r\nNUL=C:\\X\r\nb=2\r\n");
 }
 
-TEST_CASE("the bins of fixed drives are emptied and stay; those of single users are the NT family's") {
-  for (const Family* family : {&family9x, &familyNt}) {
-    CAPTURE(std::string(family->name));
+TEST_CASE("the common bins of fixed drives are emptied and stay; of the others the bin of the PC's user is") {
+  struct Row {
+    const Family* family;
+    const char* user;
+    bool userBinEmptied;
+  };
+  const Row rows[] = {{&family9x, "S-1-5-21-7", false},
+                      {&familyNt, "", false},
+                      {&familyNt, "s-1-5-21-7", true},
+                      {&familyNt, "..", false}};
+  for (const Row& row : rows) {
+    CAPTURE(row.user);
     TestPc pc({"drive D = removable"});
-    for (const char* file : {"C:\\Recycled\\INFO2", "C:\\Recycled\\Dc0\\x", "C:\\Recycler\\S-1-5\\x",
-                             "C:\\$Recycle.Bin\\S-1-5\\x", "D:\\RECYCLED\\kept", "C:\\kept"})
-      pc.file(file);
+    const std::vector<std::string> ofUser{"C:\\Recycler\\S-1-5-21-7\\Dc0\\x",
+                                          "C:\\$Recycle.Bin\\S-1-5-21-7\\x"};
+    const std::vector<std::string> ofOthers{"C:\\Recycler\\S-1-5-21-8\\x", "D:\\RECYCLED\\x", "C:\\x"};
+    for (const char* file : {"C:\\Recycled\\INFO2", "C:\\Recycled\\Dc0\\x"}) pc.file(file);
+    for (const std::string& file : ofUser) pc.file(file);
+    for (const std::string& file : ofOthers) pc.file(file);
     pc.readOnly("C:\\Recycled\\INFO2");
-    FolderShell shell(pc.platform().files, pc.platform().drives, *family);
+    PcFacts facts("");
+    facts.family = row.family;
+    facts.user = row.user;
+    FolderShell shell(*pc.platform().files, *pc.platform().drives, facts);
     CHECK(shell.emptyRecycleBin(7) == 0);
-    CHECK_FALSE(pc.platform().files.find("C:\\Recycled\\*"));
+    CHECK_FALSE(pc.platform().files->find("C:\\Recycled\\*"));
     CHECK(pc.hasFolder("C:\\Recycled"));
-    for (const char* userBin : {"C:\\Recycler\\S-1-5", "C:\\$Recycle.Bin\\S-1-5"})
-      CHECK(pc.hasFolder(userBin) == (family == &family9x));
-    CHECK(pc.hasFile("D:\\RECYCLED\\kept"));
-    CHECK(pc.hasFile("C:\\kept"));
+    for (const std::string& file : ofUser) CHECK(pc.hasFile(file) != row.userBinEmptied);
+    for (const std::string& file : ofOthers) CHECK(pc.hasFile(file));
   }
 }
 
 TEST_CASE("keys without rights") {
   TestPc pc({"family = nt", "no rights = HKEY_LOCAL_MACHINE\\Software\\Closed"});
   pc.value("HKEY_LOCAL_MACHINE\\Software\\Closed\\Below", "v", "x");
-  Registry& registry = pc.platform().registry;
+  Registry& registry = *pc.platform().registry;
   const RegistryKey machine = registry.hive(Hive::LocalMachine);
   RegistryKey key = 0;
   CHECK(registry.open(machine, "software\\closed", access::All, key) == status::AccessDenied);
@@ -271,7 +348,7 @@ TEST_CASE("keys without rights") {
 TEST_CASE("an open key that is deleted answers so, and its handle can be closed") {
   TestPc pc;
   pc.value("HKEY_CURRENT_USER\\A\\B", "v", "x");
-  Registry& registry = pc.platform().registry;
+  Registry& registry = *pc.platform().registry;
   RegistryKey inner = 0;
   REQUIRE(registry.open(registry.hive(Hive::CurrentUser), "A\\B", access::All, inner) == status::Success);
   REQUIRE(registry.deleteKey(registry.hive(Hive::CurrentUser), "A") == status::Success);

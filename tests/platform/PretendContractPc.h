@@ -20,7 +20,7 @@ class Pretending : public Base {
   // What was pretended to go is still there, under names that no clean-up of the host may know.
   ~Pretending() {
     try {
-      beneath().files.deleteFolder(Base::folder());
+      beneath().files->deleteFolder(Base::folder());
     } catch (const RuntimeError& error) {
       MESSAGE("the scratch folder stays: " << error.description());
     }
@@ -29,7 +29,7 @@ class Pretending : public Base {
   Platform& beneath() { return Base::platform(); }
 
   std::string bytes(const std::string& path) {
-    const auto channel = platform_.files.open(path, OpenMode::Input);
+    const auto channel = platform_.files->open(path, OpenMode::Input);
     std::string bytes(static_cast<std::size_t>(channel->length()), '\0');
     bytes.resize(channel->read(bytes));
     return bytes;
@@ -42,7 +42,7 @@ class Pretending : public Base {
   // Beneath, with the folders that were made here.
   bool link(const std::string& path, const std::string& target) {
     for (const std::string& folder : {path.substr(0, path.rfind('\\')), target}) {
-      if (!beneath().files.folderExists(folder)) beneath().files.createFolder(folder);
+      if (!beneath().files->folderExists(folder)) beneath().files->createFolder(folder);
     }
     return Base::link(path, target);
   }
@@ -50,14 +50,14 @@ class Pretending : public Base {
  private:
   bool tells(std::u16string_view name) {
     FoundFile found;
-    for (const auto search = platform_.files.find(Base::folder() + "\\*"); search && search->next(found);) {
+    for (const auto search = platform_.files->find(Base::folder() + "\\*"); search && search->next(found);) {
       if (utf16FromAnsi(found.name) == name) return true;
     }
     return false;
   }
 
   PretendPc pretend_{Base::platform()};
-  Platform platform_{pretend_.platform(Base::platform().events, Base::platform().messages)};
+  Platform platform_{pretend_.platform(*Base::platform().events, *Base::platform().messages)};
 };
 
 }  // namespace zub

@@ -9,7 +9,7 @@ namespace {
 // The scratch key, open, with shorter calls.
 struct Scratch {
   template <class Pc>
-  explicit Scratch(Pc& pc) : registry(pc.platform().registry), path(pc.key()), key(registry) {
+  explicit Scratch(Pc& pc) : registry(*pc.platform().registry), path(pc.key()), key(registry) {
     REQUIRE(key.create(Hive::CurrentUser, path, access::All) == status::Success);
   }
 
@@ -81,7 +81,7 @@ std::vector<std::string> sorted(std::vector<std::string> names) {
 
 TEST_CASE_TEMPLATE("registry: a key is opened, made with its parents, and refused", Pc, CONTRACT_PCS) {
   Pc pc;
-  Registry& registry = pc.platform().registry;
+  Registry& registry = *pc.platform().registry;
   const RegistryKey user = registry.hive(Hive::CurrentUser);
   RegistryKey key = 77;
   CHECK(registry.open(user, pc.key(), access::All, key) == status::FileNotFound);
@@ -235,7 +235,7 @@ TEST_CASE_TEMPLATE("registry: each told name leads back to its own key", Pc, CON
   Pc pc;
   // A real Windows of the 9x family has no calls that reach such names.
   if (pc.followsLinks() && !isNt(pc)) return;
-  Registry& registry = pc.platform().registry;
+  Registry& registry = *pc.platform().registry;
   for (const char16_t* name : {u"a", u"\u0101", u"\uFF0E\uFF3C", u"<0101>"}) pc.wideKey(name);
   OpenKey key(registry);
   REQUIRE(key.open(Hive::CurrentUser, pc.key(), access::All) == status::Success);

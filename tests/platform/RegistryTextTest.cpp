@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/folder/PcError.h"
+#include "platform/folder/RegistryChanges.h"
 #include "platform/folder/RegistryText.h"
 
 using namespace zub;
@@ -53,6 +54,7 @@ TEST_CASE("every form of data is read into the stored bytes") {
       {"@=\"default\"\r\n", "", 1, "default\0"s},
       {"\"with \\\\ and = ]\"=\"\"\r\n", "with \\ and = ]", 1, "\0"s},
       {"\"a\" = dword:0000abCD ; comment\r\n", "a", 4, "\xCD\xAB\0\0"s},
+      {"\"a\"=dword:2a\r\n", "a", 4, "\x2A\0\0\0"s},
       {"\"a\"=hex:01,fF\r\n", "a", 3, "\x01\xFF"s},
       {"\"a\"=hex:\r\n", "a", 3, ""},
       {"\"a\"=hex(2):25,41,\\\r\n  42,00\r\n", "a", 2, "%AB\0"s},
@@ -90,6 +92,44 @@ TEST_CASE("the newer form and the encodings give the same 8-bit content") {
   CHECK(valueIn(other, "<65E5>").data == "\0"s);
 }
 
+TEST_CASE(
+    "UTF-8 needs no mark where the text can be nothing else, and the program's own texts are never it") {
+  const std::string heading = "Windows Registry Editor Version 5.00\n\n[HKEY_CURRENT_USER\\Software\\T]\n";
+  RegistryTree utf8 = read(heading + "\"a\"=\"\xC3\xA4\"\n");
+  CHECK(valueIn(utf8, "a").data == "\xE4\0"s);
+  RegistryTree codePage = read(heading + "\"a\"=\"\xC3\xA4\xE4\"\n");
+  CHECK(valueIn(codePage, "a").data == "\xC3\xA4\xE4\0"s);
+  RegistryTree tree;
+  tree.make(Key)->values["a"] = {1, "\xC3\xA4\0"s};
+  const std::string own = writeRegistryText(tree);
+  CHECK(isOwnRegistryText(own));
+  RegistryTree again = read(own);
+  CHECK(valueIn(again, "a").data == "\xC3\xA4\0"s);
+}
+
+TEST_CASE("texts that are joined, end a hive with a backslash or name none") {
+  const std::string mark = "\xEF\xBB\xBF";
+  const std::string newForm =
+      "Windows Registry Editor Version 5.00\r\n\r\n[HKEY_CURRENT_USER\\Software\\T]\r\n";
+  const std::string old = oldForm("\"a\"=hex(2):25,00\r\n");
+  RegistryTree joint = read(mark + old + mark + newForm + "\"b\"=hex(2):25,00,00,00\r\n");
+  CHECK(valueIn(joint, "a").data == "%\0"s);
+  CHECK(valueIn(joint, "b").data == "%\0"s);
+
+  RegistryTree root = read("REGEDIT4\n[HKEY_CURRENT_USER\\]\n\"a\"=\"\"\n[HKEY_CURRENT_USER\\Software\\T]\n");
+  CHECK(root.hive("HKEY_CURRENT_USER")->values.size() == 1);
+
+  RegistryTree below;
+  for (const char* text :
+       {"REGEDIT4\n[\\]\n\"r\"=\"\"\n[\\T]\n\"a\"=\"\"\n", "REGEDIT4\n[T\\B]\n[-\\T\\Gone]\n"}) {
+    readRegistryInto(below, text, "x.reg", "HKEY_CURRENT_USER\\Software");
+  }
+  CHECK(below.find("HKEY_CURRENT_USER\\Software")->values.size() == 1);
+  CHECK(valueIn(below, "a").data == "\0"s);
+  CHECK(below.find("HKEY_CURRENT_USER\\Software\\T\\B") != nullptr);
+  CHECK_THROWS_AS(readRegistryInto(below, old, "x.reg", "HKEY_USERS\\x"), PcError);
+}
+
 TEST_CASE("comments, blank lines and deletions") {
   RegistryTree tree = read(
       "REGEDIT4\n; a comment\n\n[HKEY_CURRENT_USER\\Software\\T]\n\"a\"=\"1\"\n  ; "
@@ -115,14 +155,15 @@ TEST_CASE("a damaged text is refused with its line") {
       {"REGEDIT4\n[]\n", 2},
       {"REGEDIT4\n[-HKEY_USERS]\n", 2},
       {"REGEDIT4\n[HKEY_USERS\\a\\\\b]\n", 2},
-      {"REGEDIT4\n[HKEY_USERS\\a\\]\n", 2},
       {"REGEDIT4\n[HKEY_USERS\\" + std::string(256, 'k') + "]\n", 2},
       {oldForm("\"a\"=\"cut"), 4},
       {oldForm("\"a\"=\"two\nlines\n"), 4},
       {oldForm("\"a"), 4},
       {oldForm("\"a\""), 4},
       {oldForm("\"a\"="), 4},
-      {oldForm("\"a\"=dword:0001\n"), 4},
+      {oldForm("\"a\"=dword:0001"), 4},
+      {oldForm("\"a\"=dword:\n"), 4},
+      {oldForm("\"a\"=dword:000000001\n"), 4},
       {oldForm("\"a\"=hex:01,0"), 4},
       {oldForm("\"a\"=hex:01"), 4},
       {oldForm("\"a\"=hex:01,\n"), 4},
@@ -132,7 +173,13 @@ TEST_CASE("a damaged text is refused with its line") {
       {oldForm("\"a\"=\"x\" y\n"), 4},
       {oldForm("\"a\"=\"C:\\WINDOWS\"\n"), 4},
       {oldForm("a=\"x\"\n"), 4},
+      {"REGEDIT4\n[\\Software]\n", 2},
+      {"REGEDIT4\n[HKEY_USERS]\nREGEDIT4\n\"a\"=\"below no key\"\n", 4},
       {utf16("REGEDIT4\n") + "x", 0},
+      {"\xFE\xFF\0R"s, 0},
+      {"regf\1\0"s, 0},
+      {"CREG\0"s, 0},
+      {"WINE REGISTRY Version 2\n", 0},
       {utf16("REGEDIT4\n[HKEY_NONE]\n"), 2},
   };
   for (const Row& row : rows) {
@@ -182,6 +229,55 @@ TEST_CASE("what is written is sorted, stable and reads back to the same bytes") 
   CHECK(text.find("\"no NUL\"=hex(1):31\r\n") != std::string::npos);
   CHECK(text.find("\"number\"=dword:04030201\r\n") != std::string::npos);
   CHECK(text.find("5a,\\\r\n  5a,") != std::string::npos);  // long data goes on in further lines
+}
+
+TEST_CASE("what changed is told in the form of the export, and makes the one registry into the other") {
+  const auto build = [](RegistryTree& tree, bool after) {
+    const auto make = [&](const char* below) { return tree.make(std::string(Key) + below); };
+    make("\\Same\\Below")->values["a"] = {1, "x\0"s};
+    make("")->values["changed"] = {1, after ? "n\xE4\"w \\\0"s : "old\0"s};
+    make("")->values["expand"] = {2, after ? "<0101>%\0"s : "\0"s};
+    make("")->values["stays"] = {4, "\1\0\0\0"s};
+    if (!after) {
+      make("")->values["gone"] = {1, "x\0"s};
+      make("")->values[""] = {1, "x\0"s};
+      make("\\Went\\Below")->values["a"] = {1, "x\0"s};
+    } else {
+      make("\\New\\Empty");
+      make("\\New")->values["list"] = {7, "a\0b\0\0"s};
+      make("\\Left out")->values["a"] = {1, "x\0"s};
+    }
+  };
+  RegistryTree after;
+  build(after, true);
+  const LeftOut leftOut = [](std::string_view path, std::string_view, bool) {
+    return path.ends_with("Left out");
+  };
+  const std::string heading = "Windows Registry Editor Version 5.00\r\n";
+  for (const std::string& start : {"REGEDIT4\r\n"s, heading, "\xEF\xBB\xBF" + heading, utf16(heading)}) {
+    CAPTURE(start);
+    const RegistryForm form = formOf(start);
+    RegistryTree before;
+    build(before, false);
+    const std::string text = changesText(before, after, form, leftOut);
+    CHECK(text.starts_with(start));
+    readRegistryInto(before, text, "changes.reg", {});
+    after.find(Key)->keys.erase("Left out");
+    CHECK(writeRegistryText(before) == writeRegistryText(after));
+    build(after, true);
+    // An export of that form is read back alike.
+    RegistryTree again = read(writeRegistryText(after, form));
+    CHECK(writeRegistryText(again) == writeRegistryText(after));
+  }
+  RegistryTree before;
+  build(before, false);
+  CHECK(changesText(before, after, {}, leftOut) ==
+        "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\T]\r\n@=-\r\n\"gone\"=-\r\n\"changed\"=\"n\xE4\\\"w "
+        "\\\\\"\r\n"
+        "\"expand\"=hex(2):3c,30,31,30,31,3e,25,00\r\n\r\n[-HKEY_CURRENT_USER\\Software\\T\\Went]\r\n\r\n"
+        "[HKEY_CURRENT_USER\\Software\\T\\New]\r\n\"list\"=hex(7):61,00,62,00,00\r\n\r\n"
+        "[HKEY_CURRENT_USER\\Software\\T\\New\\Empty]\r\n\r\n");
+  CHECK(changesText(after, after, {}, leftOut) == "REGEDIT4\r\n\r\n");
 }
 
 TEST_CASE("every cut of a text is refused or reads as its whole lines") {

@@ -7,7 +7,7 @@ namespace zub {
 
 TEST_CASE_TEMPLATE("drives: the listed ones exist, others do not", Pc, CONTRACT_PCS) {
   Pc pc;
-  Drives& drives = pc.platform().drives;
+  Drives& drives = *pc.platform().drives;
   const std::vector<std::string> list = drives.list();
   CHECK(std::ranges::is_sorted(list));
   for (char letter = 'A'; letter <= 'Z'; ++letter) {
@@ -26,8 +26,8 @@ TEST_CASE_TEMPLATE("drives: the listed ones exist, others do not", Pc, CONTRACT_
 
 TEST_CASE_TEMPLATE("folders: the system's own folders are there", Pc, CONTRACT_PCS) {
   Pc pc;
-  SystemFolders& folders = pc.platform().folders;
-  Files& files = pc.platform().files;
+  SystemFolders& folders = *pc.platform().folders;
+  Files& files = *pc.platform().files;
   const std::string temp = folders.temp(512);
   CHECK(temp.ends_with('\\'));
   CHECK(files.folderExists(temp));
@@ -45,15 +45,15 @@ TEST_CASE_TEMPLATE("folders: the system's own folders are there", Pc, CONTRACT_P
 TEST_CASE_TEMPLATE("restart: a profile's key stands once in its section; the family has a number", Pc,
                    CONTRACT_PCS) {
   Pc pc;
-  Restart& restart = pc.platform().restart;
-  const std::string file = pc.platform().folders.windows() + "\\zubtest.ini";
+  Restart& restart = *pc.platform().restart;
+  const std::string file = pc.platform().folders->windows() + "\\zubtest.ini";
   pc.file(file, "[other]\r\nnul=stays\r\n");
   restart.writeProfile("rename", "nul", "C:\\FIRST", "zubtest.ini");
   restart.writeProfile("rename", "nul", "C:\\SECOND", "zubtest.ini");
   restart.writeProfile("RENAME", "nul", "C:\\THIRD", "zubtest.ini");
   restart.writeProfile("rename", "two", "x", "zubtest.ini");
   std::string text = pc.bytes(file);
-  pc.platform().files.remove(file);
+  pc.platform().files->remove(file);
   // Blank lines between sections are the writer's own affair.
   for (std::size_t blank; (blank = text.find("\r\n\r\n")) != std::string::npos;) text.erase(blank, 2);
   CHECK(text == "[other]\r\nnul=stays\r\n[rename]\r\nnul=C:\\THIRD\r\ntwo=x\r\n");
@@ -65,7 +65,7 @@ TEST_CASE_TEMPLATE("restart: a profile's key stands once in its section; the fam
 
 TEST_CASE_TEMPLATE("clock: what it writes it reads", Pc, CONTRACT_PCS) {
   Pc pc;
-  Clock& clock = pc.platform().clock;
+  Clock& clock = *pc.platform().clock;
   const SystemTime times[] = {
       {2001, 9, 3, 5, 14, 20, 30, 0},
       {2000, 2, 2, 29, 0, 0, 0, 0},
@@ -87,7 +87,7 @@ TEST_CASE_TEMPLATE("clock: what it writes it reads", Pc, CONTRACT_PCS) {
 
 TEST_CASE_TEMPLATE("clock: a date may name its month", Pc, CONTRACT_PCS) {
   Pc pc;
-  Clock& clock = pc.platform().clock;
+  Clock& clock = *pc.platform().clock;
   for (const char* text : {"24 December 2030", "december 24, 2030", "Dec 24 2030", "24-DEC-2030"}) {
     CAPTURE(std::string(text));
     SystemTime time{2030, 12, 2, 24, 0, 0, 0, 0};
@@ -99,7 +99,7 @@ TEST_CASE_TEMPLATE("clock: a date may name its month", Pc, CONTRACT_PCS) {
 
 TEST_CASE_TEMPLATE("clock: what is no date and no time is a mismatch", Pc, CONTRACT_PCS) {
   Pc pc;
-  Clock& clock = pc.platform().clock;
+  Clock& clock = *pc.platform().clock;
   for (const char* text : {"", "   ", "tomorrow", "25:00", "10:60", "1/2/3/4", "13/32/2001", "2/29/2001",
                            "29 Feb 2001", "1 Brumaire 2001", "May", "12:", "9/5/2001 at noon", "\xFF\xFE"}) {
     CAPTURE(std::string(text));
@@ -112,7 +112,7 @@ TEST_CASE_TEMPLATE("clock: what is no date and no time is a mismatch", Pc, CONTR
 
 TEST_CASE_TEMPLATE("code page: upper case byte for byte", Pc, CONTRACT_PCS) {
   Pc pc;
-  const CodePage& codePage = pc.platform().codePage;
+  const CodePage& codePage = *pc.platform().codePage;
   const struct {
     const char* text;
     const char* upper;

@@ -25,7 +25,7 @@ void addTrigger(ScheduleTask& task, const SystemTime& time) {
 
 TEST_CASE_TEMPLATE("tasks: what was saved is there after a refresh, what was not is not", Pc, CONTRACT_PCS) {
   Pc pc;
-  ScheduleTasks& tasks = pc.platform().tasks;
+  ScheduleTasks& tasks = *pc.platform().tasks;
   tasks.refresh();
   REQUIRE(positionOf(tasks, pc.task()) == 0);
   const int before = tasks.count();
@@ -53,8 +53,8 @@ TEST_CASE_TEMPLATE("tasks: what was saved is there after a refresh, what was not
 
 TEST_CASE_TEMPLATE("tasks: triggers are told in their order and removed by position", Pc, CONTRACT_PCS) {
   Pc pc;
-  ScheduleTasks& tasks = pc.platform().tasks;
-  Clock& clock = pc.platform().clock;
+  ScheduleTasks& tasks = *pc.platform().tasks;
+  Clock& clock = *pc.platform().clock;
   const std::vector<SystemTime> times = {
       {2031, 9, 5, 5, 14, 20, 0, 0}, {1999, 12, 5, 31, 9, 5, 0, 0}, {2032, 2, 0, 29, 23, 59, 0, 0}};
   tasks.refresh();

@@ -79,7 +79,7 @@ Win32ContractPc::~Win32ContractPc() {
   for (const std::string& link : hostLinks_) onHost("/bin/rm -f " + hostPath(link), link, false);
   SetCurrentDirectoryA(before_.c_str());
   try {
-    platform().files.deleteFolder(folder_);
+    platform().files->deleteFolder(folder_);
   } catch (const RuntimeError& error) {
     MESSAGE("the scratch folder stays: " << error.description());
   }

@@ -1,7 +1,13 @@
 // What only a Windows of its own has: its error numbers, its kinds of reparse points, what it reads into a name.
 #ifdef _WIN32
+#include <array>
+#include <cstdlib>
+#include <map>
+#include <set>
+
 #include "platform/ContractPc.h"
 #include "platform/host/win32/ReparsePoint.h"
+#include "platform/win32/Text.h"
 #include "platform/win32/Win32Error.h"
 
 namespace zub {
@@ -29,7 +35,7 @@ TEST_CASE("a reparse point is a link where it stands for another name, and where
 
 TEST_CASE("a stand-in is never read as a part of the path itself") {
   Win32ContractPc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   files.createFolder(pc.folder() + "\\in");
   pc.file(pc.folder() + "\\kept", "x");
   for (const char* name : {"in<005C>..<005C>kept", "in\\<002E002E>\\kept", "kept<003A>x", "<002A>", "con"}) {
@@ -40,6 +46,84 @@ TEST_CASE("a stand-in is never read as a part of the path itself") {
     CHECK_FALSE(files.find(pc.folder() + '\\' + name));
   }
   CHECK(files.fileExists(pc.folder() + "\\kept"));
+}
+
+// Run in a Wine of code page 932, where the second byte of a character may be that of a backslash.
+TEST_CASE("code page 932: no byte of a character is taken for a separator" * doctest::skip(GetACP() != 932)) {
+  Win32ContractPc pc;
+  Files& files = pc.platform().files;
+  const std::string base = pc.folder() + '\\';
+  pc.wide(u"\u8868", true);
+  pc.wide(u"\u30BD.tmp", false);
+  pc.wide(u"\u3042.tmp", false);
+  for (const char* decoy : {".tmp", "tmp", "kept"}) pc.file(base + decoy, "x");
+  files.open(base + "<8868>\\inner.tmp", OpenMode::Binary);
+
+  std::set<std::string> names;
+  const auto search = files.find(base + "*");
+  REQUIRE(search);
+  for (FoundFile entry; search->next(entry);) names.insert(entry.name);
+  CHECK(names == std::set<std::string>{"<8868>", "<30BD>.tmp", "\x82\xA0.tmp", ".tmp", "tmp", "kept"});
+  // A path from outside, as bytes.
+  CHECK(pc.platform().codePage.toldPath(base + "\x95\x5C\\a") == base + "<8868>\\a");
+  CHECK(files.find(base + "\x95\x5C"));
+
+  files.deleteFolder(base + "<8868>");
+  files.remove(base + "<30BD>.tmp");
+  files.remove(base + "\x82\xA0.tmp");
+  for (const char16_t* gone : {u"\u8868", u"\u30BD.tmp", u"\u3042.tmp"}) CHECK_FALSE(pc.hasWide(gone));
+  for (const char* decoy : {".tmp", "tmp", "kept"}) CHECK(files.fileExists(base + decoy));
+}
+
+TEST_CASE("a folder that the registry names in another alphabet is found, and its name stored as it was") {
+  Win32ContractPc pc;
+  if (!isNt(pc)) return;
+  Registry& registry = pc.platform().registry;
+  const std::u16string name = u"\u0101\u8868";
+  pc.wide(name, true);
+  const std::wstring path = wide(pc.folder()) + L'\\' + std::wstring(name.begin(), name.end());
+  OpenKey key(registry);
+  REQUIRE(key.create(Hive::CurrentUser, pc.key(), access::All) == status::Success);
+  const auto handle = reinterpret_cast<HKEY>(key.get());
+  const auto size = static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t));
+  REQUIRE(RegSetValueExW(handle, L"Cache", 0, REG_SZ, reinterpret_cast<const BYTE*>(path.c_str()), size) ==
+          0);
+
+  std::array<std::uint8_t, 1024> data;
+  std::uint32_t type = 0;
+  std::uint32_t length = data.size();
+  REQUIRE(registry.query(key.get(), "Cache", type, data.data(), length) == status::Success);
+  const std::string told(reinterpret_cast<const char*>(data.data()), length - 1);
+  CHECK(told == pc.folder() + "\\<01018868>");
+  CHECK(data[length - 1] == 0);
+  CHECK(pc.platform().files.folderExists(told));
+  std::uint32_t needed = 0;
+  CHECK(registry.query(key.get(), "Cache", type, nullptr, needed) == status::Success);
+  CHECK(needed == length);
+  --needed;
+  CHECK(registry.query(key.get(), "Cache", type, data.data(), needed) == status::MoreData);
+
+  const auto* bytes = reinterpret_cast<const std::uint8_t*>(told.data());
+  REQUIRE(registry.set(key.get(), "Copy", 1, {bytes, told.size()}) == status::Success);
+  std::array<wchar_t, 512> stored;
+  DWORD room = sizeof stored;
+  REQUIRE(RegQueryValueExW(handle, L"Copy", nullptr, nullptr, reinterpret_cast<BYTE*>(stored.data()),
+                           &room) == 0);
+  CHECK(room == size);
+  CHECK(std::wstring(stored.data()) == path);
+}
+
+TEST_CASE("where nothing names a folder for temporary files there is none") {
+  Win32ContractPc pc;
+  std::map<const char*, std::string> before;
+  for (const char* variable : {"TMP", "TEMP"}) {
+    before[variable] = std::getenv(variable);
+    SetEnvironmentVariableA(variable, nullptr);
+  }
+  const std::string none = pc.platform().folders.temp(512);
+  for (const auto& [variable, text] : before) SetEnvironmentVariableA(variable, text.c_str());
+  CHECK(none.empty());
+  CHECK_FALSE(pc.platform().folders.temp(512).empty());
 }
 
 }  // namespace zub

@@ -30,7 +30,7 @@ std::wstring variable(const wchar_t* name) {
 
 TEST_CASE("the task file holds what is to be started, as whom and when") {
   Win32ContractPc pc;
-  ScheduleTasks& tasks = pc.platform().tasks;
+  ScheduleTasks& tasks = *pc.platform().tasks;
   tasks.refresh();
   ScheduleTask& made = tasks.add(pc.task());
   made.application("C:\\Program Files\\Zubrane\\zub");

@@ -336,7 +336,7 @@ TEST_CASE("the folder picker fills the path box unless it is cancelled; its prom
     CHECK(editor.state.txtPathFF.Text == "C:\\Temp");
   }
 
-  CFolderBrowse picker(editor.pc.platform().shell);
+  CFolderBrowse picker(*editor.pc.platform().shell);
   CHECK(picker.Prompt() == "Select a folder");
   picker.Prompt("  Where? ");
   CHECK(picker.Prompt() == "Where?");

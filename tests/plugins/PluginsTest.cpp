@@ -28,7 +28,7 @@ TEST_CASE("an absent plugin folder is an empty list, until it is there") {
   wash.pc.file(Folder + "\\a.zb1");
   plugins.RefreshPluginList();
   CHECK(rowsOf(wash.options.lstFiles) == "a;");
-  wash.pc.platform().files.deleteFolder(Folder);
+  wash.pc.platform().files->deleteFolder(Folder);
   plugins.RefreshPluginList();
   CHECK(rowsOf(wash.options.lstFiles) == "");
 }

@@ -10,7 +10,7 @@ namespace {
 struct Watch {
   TestPc pc;
   Options options;
-  AutomaticInterval automatic{pc.platform().clock, options};
+  AutomaticInterval automatic{*pc.platform().clock, options};
   int washes = 0;
 
   Watch() {

@@ -184,10 +184,9 @@ TEST_CASE("what the facility refuses ends the operation; only the start is silen
 
 TEST_CASE("Advanced opens the dialog of the task") {
   Tab tab;
-  const Platform& p = tab.pc.platform();
   ShownTask task;
-  const Platform shown{p.codePage, p.registry, p.files,  p.drives,   p.folders, p.restart, p.shell,
-                       p.clock,    p.process,  p.events, p.messages, p.tray,    task};
+  Platform shown = tab.pc.platform();
+  shown.tasks = &task;
   DatedEntries dated(shown, tab.user);
   dated.cmdAdvancedScheduler_Click();
   CHECK(task.dialogs == 1);

@@ -26,7 +26,7 @@ TEST_CASE("the entry moves between the Run keys and their twins") {
     pc.value(run(hive), "Other", "decoy");
     pc.value(parked(hive), "Other", "decoy");
   }
-  WindowsStartup startup(pc.platform().registry);
+  WindowsStartup startup(*pc.platform().registry);
   for (const bool on : {false, true, true, false}) {
     if (on) {
       startup.AddStartupEntry(command, "Zubrane");
@@ -52,7 +52,7 @@ TEST_CASE("a key that is missing or denied stays as it is, and the others still 
       pc.key(run(hives[0]));
       pc.failKey(TestPc::KeyCall::Open, run(hives[0]), status::AccessDenied);
     }
-    WindowsStartup startup(pc.platform().registry);
+    WindowsStartup startup(*pc.platform().registry);
     startup.AddStartupEntry(command, "Zubrane");
     CHECK(pc.data(run(hives[1]), "Zubrane") == stored);
     CHECK_FALSE(pc.hasValue(run(hives[0]), "Zubrane"));
@@ -65,7 +65,7 @@ TEST_CASE("a key that is missing or denied stays as it is, and the others still 
 
 TEST_CASE("the command has one backslash behind the program's folder") {
   TestPc pc;
-  CHECK(startupCommand(pc.platform().folders) == "C:\\Program Files\\Zubrane\\zub.exe /STARTUP");
+  CHECK(startupCommand(*pc.platform().folders) == "C:\\Program Files\\Zubrane\\zub.exe /STARTUP");
   TestPc atRoot({"program = C:\\"});
-  CHECK(startupCommand(atRoot.platform().folders) == "C:\\zub.exe /STARTUP");
+  CHECK(startupCommand(*atRoot.platform().folders) == "C:\\zub.exe /STARTUP");
 }

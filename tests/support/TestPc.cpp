@@ -42,14 +42,14 @@ class TestPc::Impl {
  public:
   Impl(TestPc& owner, const std::vector<std::string>& facts)
       : pc(preparePc(temp, facts)),
-        disk(pc.root(), pc.facts()),
+        disk(pc.driveFolders(), pc.facts()),
         log(owner),
         files(pc.files, fileFaults, log),
         registry(pc.registry, keyFaults, log),
         drives(pc.drives, log),
         desk(owner, log),
-        platform{pc.codePage, registry, files, drives, pc.folders, pc.restart, desk,
-                 desk,        desk,     desk,  desk,   desk,       pc.tasks} {
+        platform{&pc.codePage, &registry, &files, &drives, &pc.folders, &pc.restart, &desk,
+                 &desk,        &desk,     &desk,  &desk,   &desk,       &pc.tasks} {
     for (const auto& [letter, kind] : pc.facts().drives) pc.root().makeDir({letter});
     for (const FolderPath* path :
          {&pc.facts().windows, &pc.facts().temp, &pc.facts().program, &pc.facts().current}) {

@@ -18,7 +18,7 @@ struct AboutBox {
   // Whether the value was read, and its text.
   std::string read(std::string_view name) {
     std::string text = "before";
-    const RegistryKey machine = pc.platform().registry.hive(Hive::LocalMachine);
+    const RegistryKey machine = pc.platform().registry->hive(Hive::LocalMachine);
     const bool done = about.GetKeyValue(machine, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", name, text);
     return (done ? "read " : "not ") + text;
   }

@@ -94,6 +94,24 @@ TEST_CASE("the report tells of the last wash") {
   CHECK(zub.hides(title::Report));
 }
 
+TEST_CASE("a long report is shown whole, or where Windows has no room for it, as much of its end as it has") {
+  const Story story;
+  pc::option("chkTempFolder");
+  constexpr int Files = 1300;
+  const std::string name = " - a file with a name that is long enough.tmp";
+  for (int file = 0; file < Files; ++file) pc::put(pc::temp() / (std::to_string(file) + name), "trace");
+  const Zub zub;
+  wash(zub).child("&View Log").click();
+  const Window text = zub.window(title::Report).child("EDIT", 0);
+  REQUIRE(text.comesToSay(name + "\r\n"));
+  const std::string shown = text.text();
+  const bool isWhole = shown.find("Log file generated at ") != std::string::npos;
+  const bool family9x = (GetVersion() & 0x80000000) != 0;
+  CHECK(isWhole == !family9x);
+  CHECK((shown.size() < 65536) == family9x);
+  CHECK(shown.starts_with("(The beginning is left out") == family9x);
+}
+
 TEST_CASE("a report that was minimised and closed comes up again as it was") {
   const Story story;
   const Zub zub;

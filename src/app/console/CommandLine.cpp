@@ -56,6 +56,9 @@ std::vector<std::string> takeCommonOptions(CommandLine& line, const std::vector<
     } else if (word->text == "--pc") {
       words.needValue(*word, "a folder");
       line.folder = *word->value;
+    } else if (word->text == "--user") {
+      words.needValue(*word, "a name");
+      line.user = *word->value;
     } else if (word->text == "--help" || word->text == "-h") {
       line.help = true;
     } else {
@@ -100,7 +103,7 @@ const Command& takeCommand(std::vector<std::string>& words) {
 const CommandOption& optionOf(const Command& command, const std::string& name) {
   const auto option = std::ranges::find(command.options, name, &CommandOption::name);
   if (option != command.options.end()) return *option;
-  std::vector<std::string> names{"--pc", "--help"};
+  std::vector<std::string> names{"--pc", "--user", "--help"};
   for (const CommandOption& known : command.options) names.emplace_back(known.name);
   throw UsageError(joined({command.words, " takes no ", name, didYouMean(name, names)}));
 }
@@ -138,11 +141,12 @@ CommandLine readCommandLine(const std::vector<std::string>& words) {
     if (others.empty()) throw UsageError("no command is given");
     if (others[0].starts_with("-")) {
       throw UsageError("there is no option " + others[0] +
-                       didYouMean(others[0], {"--pc", "--help", "--version"}));
+                       didYouMean(others[0], {"--pc", "--user", "--help", "--version"}));
     }
     line.command = &takeCommand(others);
     line.help = line.help || others == std::vector<std::string>{"help"};
     if (line.help) return line;
+    if (!line.user.empty() && line.folder.empty()) throw UsageError("--user takes a name, with --pc FOLDER");
     line.given = given(*line.command, Words(others));
     check(*line.command, line.given);
   } catch (const UsageError& error) {

@@ -13,6 +13,7 @@ struct CommandLine {
   bool help = false;
   bool version = false;
   std::string folder;  // of --pc; empty for the PC that this runs on
+  std::string user;    // of --user, a branch of HKEY_USERS; empty for the one that the PC tells
   Given given;
 };
 

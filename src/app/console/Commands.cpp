@@ -12,111 +12,85 @@ namespace {
 constexpr CommandOption previewOptions[] = {
     {"--list", "", "each thing on a line: its kind, a tab, its path, for a value a tab and its name"},
 };
+constexpr CommandOption changesOptions[] = {
+    {"--settings", "", "with the program's own settings and Run entries"},
+};
 
+// clang-format off
 constexpr std::array commandTable{
-    Command{"wash",
-            "",
-            "Removes what is ticked, and tells it. The program is started, \"Start Cleaning\" and "
-            "\"Finish\" are pressed, and the program ends.",
+    Command{"wash", "",
+            "Removes what is ticked, and tells it. The program is started, \"Start Cleaning\" and \"Finish\" are pressed, and "
+            "the program ends. A wash that is interrupted stops behind the file at which it is, and saves and tells what it did.",
             "--pc /mnt/disk wash",
-            {},
-            nullptr,
-            washCommand},
-    Command{"preview", "", "Tells what a wash would remove now, and removes nothing.",
-            "--pc /mnt/disk preview --list", previewOptions, nullptr, previewCommand},
-    Command{"start",
-            "[/STARTUP] [/SCHEDULER]",
+            {}, nullptr, washCommand},
+    Command{"preview", "",
+            "Tells what a wash would remove now, and removes nothing.",
+            "--pc /mnt/disk preview --list",
+            previewOptions, nullptr, previewCommand},
+    Command{"start", "[/STARTUP] [/SCHEDULER]",
             "Starts the program with these switches, to the end of its washes.",
             "--pc /mnt/disk start /STARTUP",
-            {},
-            checkStart,
-            startCommand},
-    Command{"options",
-            "",
+            {}, checkStart, startCommand},
+    Command{"options", "",
             "Lists what the settings store keeps.",
             "--pc /mnt/disk options",
-            {},
-            nullptr,
-            optionsCommand},
-    Command{"set",
-            "NAME=VALUE...",
+            {}, nullptr, optionsCommand},
+    Command{"set", "NAME=VALUE...",
             "Changes settings, by the names that \"options\" lists.",
             "--pc /mnt/disk set chkBleach=1 \"ZUBStandardPlugin WinRAR (all versions)=1\"",
-            {},
-            checkSet,
-            setCommand},
-    Command{"plugins",
-            "",
+            {}, checkSet, setCommand},
+    Command{"plugins", "",
             "Lists the custom and standard plugins with their ticks.",
             "--pc /mnt/disk plugins",
-            {},
-            nullptr,
-            pluginsCommand},
-    Command{"plugin show",
-            "NAME",
+            {}, nullptr, pluginsCommand},
+    Command{"plugin show", "NAME",
             "Tells what a plugin, custom or standard, removes.",
             "--pc /mnt/disk plugin show ACDSee",
-            {},
-            checkPluginShow,
-            pluginShowCommand},
-    Command{
-        "plugin check",
-        "FILE...",
-        "Tells line by line what plugin files would do. The status is 1 where something can never work. A "
-        "file is one of the PC's plugin folder, of the PC by its whole path, or of this machine.",
-        "--pc /mnt/disk plugin check Garden.zb1 Garden.zb2",
-        {},
-        checkPluginCheck,
-        pluginCheckCommand},
-    Command{
-        "cookies",
-        "ie|netscape [keep|drop NUMBER|RANGE|SITE...]",
-        "Lists the cookies, or ticks those to keep. A range is such as 1-3; in a site \"*\" and \"?\" stand "
-        "for any characters.",
-        "--pc /mnt/disk cookies ie keep 1-3 \"*.example.org\"",
-        {},
-        checkCookies,
-        cookiesCommand},
-    Command{"schedule add",
-            "DATE TIME",
+            {}, checkPluginShow, pluginShowCommand},
+    Command{"plugin check", "FILE...",
+            "Tells line by line what plugin files would do. The status is 1 where something can never work. A file is one of "
+            "the PC's plugin folder, of the PC by its whole path, or of this machine.",
+            "--pc /mnt/disk plugin check Garden.zb1 Garden.zb2",
+            {}, checkPluginCheck, pluginCheckCommand},
+    Command{"cookies", "ie|netscape [keep|drop NUMBER|RANGE|SITE...]",
+            "Lists the cookies, or ticks those to keep. A range is such as 1-3; in a site \"*\" and \"?\" stand for any "
+            "characters.",
+            "--pc /mnt/disk cookies ie keep 1-3 \"*.example.org\"",
+            {}, checkCookies, cookiesCommand},
+    Command{"changes", "[KEY]",
+            "Writes changes.reg, what became of the registry's export. With a key only what lies at or below it.",
+            "--pc /mnt/disk changes HKEY_LOCAL_MACHINE\\SOFTWARE",
+            changesOptions, checkChanges, changesCommand},
+    Command{"users", "",
+            "Lists whose registries the PC holds, with their profile folders.",
+            "--pc /mnt/disk users",
+            {}, nullptr, usersCommand},
+    Command{"schedule add", "DATE TIME",
             "Adds a dated wash.",
             "--pc /mnt/disk schedule add 12/24/2031 18:00",
-            {},
-            checkScheduleAdd,
-            scheduleAddCommand},
-    Command{"schedule remove",
-            "NUMBER",
+            {}, checkScheduleAdd, scheduleAddCommand},
+    Command{"schedule remove", "NUMBER",
             "Removes the dated wash with that number.",
             "--pc /mnt/disk schedule remove 1",
-            {},
-            checkScheduleRemove,
-            scheduleRemoveCommand},
-    Command{"schedule",
-            "",
+            {}, checkScheduleRemove, scheduleRemoveCommand},
+    Command{"schedule", "",
             "Lists the dated washes.",
             "--pc /mnt/disk schedule",
-            {},
-            checkSchedule,
-            scheduleCommand},
-    Command{"scheduler",
-            "",
-            "Waits in the foreground and starts the program at each dated wash and interval, until it is "
-            "interrupted.",
+            {}, checkSchedule, scheduleCommand},
+    Command{"scheduler", "",
+            "Waits in the foreground and starts the program at each dated wash and interval, until it is interrupted.",
             "--pc /mnt/disk scheduler",
-            {},
-            nullptr,
-            schedulerCommand},
-    Command{
-        "new", "FOLDER", "Makes an empty PC in a folder.", "new /tmp/pc", {}, checkNew, nullptr, newCommand},
-    Command{"help",
-            "[COMMAND]",
+            {}, nullptr, schedulerCommand},
+    Command{"new", "FOLDER",
+            "Makes a PC that nobody has worked on.",
+            "new /tmp/pc",
+            {}, checkNew, nullptr, newCommand},
+    Command{"help", "[COMMAND]",
             "Tells all commands, or all of one.",
             "help wash",
-            {},
-            checkHelp,
-            nullptr,
-            helpCommand},
+            {}, checkHelp, nullptr, helpCommand},
 };
+// clang-format on
 
 }  // namespace
 
@@ -147,6 +121,7 @@ int runCommand(CommandContext& context, int (*command)(CommandContext& context))
     return !context.pc.failures().empty();
   };
   int status = exitStatus::Done;
+  for (const std::string& oddity : context.pc.oddities()) context.tell(oddity);
   try {
     status = command(context);
   } catch (...) {
@@ -157,7 +132,7 @@ int runCommand(CommandContext& context, int (*command)(CommandContext& context))
 }
 
 void CommandContext::needAlone() const {
-  if (pc.platform().process.otherInstanceRuns()) throw BusyError();
+  if (pc.platform().process->otherInstanceRuns()) throw BusyError();
 }
 
 void CommandContext::print(std::string_view text) const {

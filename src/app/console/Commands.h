@@ -100,6 +100,7 @@ void checkScheduleAdd(const Given& given);
 void checkScheduleRemove(const Given& given);
 void checkNew(const Given& given);
 void checkHelp(const Given& given);
+void checkChanges(const Given& given);
 
 int washCommand(CommandContext& context);
 int previewCommand(CommandContext& context);
@@ -110,6 +111,8 @@ int pluginsCommand(CommandContext& context);
 int pluginShowCommand(CommandContext& context);
 int pluginCheckCommand(CommandContext& context);
 int cookiesCommand(CommandContext& context);
+int changesCommand(CommandContext& context);
+int usersCommand(CommandContext& context);
 int scheduleCommand(CommandContext& context);
 int scheduleAddCommand(CommandContext& context);
 int scheduleRemoveCommand(CommandContext& context);

@@ -24,7 +24,7 @@ ConsoleLoop::ConsoleLoop(std::string programName, std::function<std::string(std:
 
 void ConsoleLoop::attach(Program& program) {
   program_ = &program;
-  serveTimers_ = [timers = std::make_shared<Timers>(program), &clock = program.engine.pc.clock] {
+  serveTimers_ = [timers = std::make_shared<Timers>(program), &clock = *program.engine.pc.clock] {
     timers->serve(clock.ticks());
   };
   frmClean::Cleaners& cleaners = program.engine.clean.cleaners;
@@ -59,7 +59,7 @@ void ConsoleLoop::endWhereInterrupted() {
 void ConsoleLoop::DoEvents() {
   if (program_ == nullptr) return;
   if (!program_->engine.deleter->insideFile()) endWhereInterrupted();
-  const std::uint64_t now = program_->engine.pc.clock.ticks();
+  const std::uint64_t now = program_->engine.pc.clock->ticks();
   if (now < nextTurn_) return;
   nextTurn_ = now + TurnLength;
   serveTimers_();

@@ -64,7 +64,7 @@ void change(const CommandContext& context, const Wanted& wanted, std::vector<Lis
   }
   std::vector<std::size_t> chosen;
   for (const CookieChoice& choice : wanted.choices) {
-    for (const std::size_t place : choice.of(rows, context.pc.platform().codePage)) chosen.push_back(place);
+    for (const std::size_t place : choice.of(rows, *context.pc.platform().codePage)) chosen.push_back(place);
   }
   for (const std::size_t place : chosen) {
     rows[place]->kept = wanted.keep;
@@ -88,7 +88,7 @@ std::vector<List> internetExplorerLists(Engine& engine) {
 
 // The browser's registry file may name a profile more than once. A profile whose cookies cannot be read fails.
 std::vector<List> netscapeLists(Engine& engine) {
-  Files& files = engine.pc.files;
+  Files& files = *engine.pc.files;
   std::vector<NetscapeProfile> profiles;
   try {
     findNetscapeProfiles(files, netscapeRegistryFile(engine),
@@ -99,7 +99,7 @@ std::vector<List> netscapeLists(Engine& engine) {
   std::vector<List> lists;
   std::set<std::string> seen;
   for (const NetscapeProfile& profile : profiles) {
-    if (!seen.insert(engine.pc.codePage.upper(profile.folder)).second) continue;
+    if (!seen.insert(engine.pc.codePage->upper(profile.folder)).second) continue;
     List list;
     list.heading = "Profile " + profile.name + ", " + profile.folder;
     readNetscapeCookies(files, profile.folder, list.rows);

@@ -1,19 +1,40 @@
+#include "app/console/Changes.h"
 #include "app/console/Commands.h"
 #include "app/console/ConsolePc.h"
+#include "app/console/RegistryLook.h"
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/FolderPc.h"
+#include "platform/folder/PcError.h"
 
 namespace zub {
 namespace {
 
+constexpr const char* NoDrive =
+    "has no drive to wash: a drive is a folder in it with one capital letter, or one that \"drive C = fixed "
+    "at "
+    "FOLDER\" in pc.txt names";
+// Without the folders of the shell, cookies would be looked for at the root of the drive.
+constexpr const char* NoUser =
+    "is not washed: its HKEY_CURRENT_USER has no Shell Folders that name the folder of the cookies, so the "
+    "traces of "
+    "its user would not be found, and other files would be taken for them; choose a user with --user NAME, "
+    "or with "
+    "\"user = NAME\" in pc.txt (the command \"users\" lists them)";
+
 class FolderConsolePc : public ConsolePc {
  public:
   FolderConsolePc(const std::string& folder, EventLoop& events, Messages& messages,
-                  const std::string& commandLine, DamagedTasks damaged)
-      : folder_(folder), pc_(folder, commandLine, damaged), platform_(pc_.platform(events, messages)) {}
+                  const std::string& commandLine, DamagedTasks damaged, const std::string& user)
+      : folder_(folder),
+        user_(user),
+        pc_(folder, commandLine, damaged, user),
+        platform_(pc_.platform(events, messages)) {}
 
   Platform& platform() override { return platform_; }
   void save() override { pc_.save(); }
+  bool saveChanges(bool withSettings, std::string_view below) override {
+    return zub::saveChanges(pc_, withSettings, below);
+  }
   std::vector<std::string> failures() const override {
     const HostFailures& failures = pc_.failures();
     std::vector<std::string> texts;
@@ -21,30 +42,33 @@ class FolderConsolePc : public ConsolePc {
     if (failures.more() > 0) texts.push_back(std::to_string(failures.more()) + " more failures");
     return texts;
   }
+  std::vector<std::string> oddities() override {
+    std::vector<std::string> lines = pc_.driveFolders().oddities();
+    for (std::string& line : lines) line = printable(line);
+    return lines;
+  }
+  void needWashable() override {
+    if (pc_.driveFolders().withDisk().empty()) throw PcError(folder_, 0, NoDrive);
+    if (shellFolderOf(pc_.registry, "Cookies").empty()) throw PcError(folder_, 0, NoUser);
+  }
   std::string folder() const override { return folder_; }
+  std::string user() const override { return user_; }
   std::string utf8(std::string_view text) const override { return utf8FromAnsi(text); }
   std::string fromTerminal(std::string_view text) const override { return ansiFromUtf8(text); }
 
  private:
   std::string folder_;
+  std::string user_;
   FolderPc pc_;
   Platform platform_;
 };
 
 }  // namespace
 
-void checkNew(const Given& given) {
-  if (given.arguments.size() != 1) throw UsageError("new takes a folder");
-}
-
-int newCommand(const Given& given, const std::string&) {
-  createPc(given.arguments[0]);
-  return exitStatus::Done;
-}
-
 std::unique_ptr<ConsolePc> openFolderPc(const std::string& folder, EventLoop& events, Messages& messages,
-                                        const std::string& commandLine, DamagedTasks damaged) {
-  return std::make_unique<FolderConsolePc>(folder, events, messages, commandLine, damaged);
+                                        const std::string& commandLine, DamagedTasks damaged,
+                                        const std::string& user) {
+  return std::make_unique<FolderConsolePc>(folder, events, messages, commandLine, damaged, user);
 }
 
 }  // namespace zub

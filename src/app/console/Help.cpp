@@ -62,6 +62,8 @@ std::string programHelp(const std::string& program, std::size_t width) {
   std::string text = "Zubrane, a privacy cleaner.\n\n";
   constexpr std::size_t usageIndent = 30;
   text += row(program + " --pc FOLDER COMMAND", "works on a PC kept in a folder", usageIndent, width);
+  text += row(program + " --pc FOLDER --user NAME COMMAND",
+              "the same, as the user of this branch of HKEY_USERS", usageIndent, width);
   text += row(program + " COMMAND", "works on the PC that it runs on (Windows only)", usageIndent, width);
   text += row(program + " COMMAND --help", "tells all of a command", usageIndent, width);
   text += "  " + program + " --version\n";

@@ -77,7 +77,7 @@ std::vector<CheckedLine> checkFile(const CommandContext& context, Store& store, 
   try {
     return check.readFile(path, file);
   } catch (const RuntimeError& failure) {
-    if (context.pc.folder().empty() && store.engine.pc.files.attributes(name) != attribute::Invalid) {
+    if (context.pc.folder().empty() && store.engine.pc.files->attributes(name) != attribute::Invalid) {
       return check.readFile(name, file);
     }
     const auto text = context.pc.folder().empty() ? std::nullopt : hostText(context.pc.toTerminal(name));

@@ -40,6 +40,7 @@ void printList(const CommandContext& context, Preview& preview) {
 
 int previewCommand(CommandContext& context) {
   const bool list = context.given.has("--list");
+  context.pc.needWashable();
   Preview preview(context.pc.platform(), context.loop, context.loop);
   Program& program = preview.program;
   {

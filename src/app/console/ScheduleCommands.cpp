@@ -94,8 +94,8 @@ int scheduleCommand(CommandContext& context) {
 int scheduleAddCommand(CommandContext& context) {
   const std::vector<std::string> words = wordsOf(context.given.arguments);
   const Platform& pc = context.pc.platform();
-  const SystemTime moment = momentOf(pc.clock, words);
-  if (secondsOf(moment) <= secondsOf(pc.clock.local())) {
+  const SystemTime moment = momentOf(*pc.clock, words);
+  if (secondsOf(moment) <= secondsOf(pc.clock->local())) {
     throw Refusal(joinedWords(words) + " is past: no wash would come of it");
   }
   needTasks(context);

@@ -30,7 +30,7 @@ void guarded(const CommandContext& context, std::string& told, Work work) {
 
 Scheduler::Scheduler(CommandContext& context, std::int64_t passing)
     : context_(context),
-      clock_(context.pc.platform().clock),
+      clock_(*context.pc.platform().clock),
       root_(openHostDir(context.pc.folder())),
       due_(clock_.local(), passing),
       automatic_(clock_, options_) {
@@ -55,7 +55,8 @@ void Scheduler::step(std::int64_t passing) {
 
 // The PC as it is now. It can be washed while the tasks are damaged.
 std::unique_ptr<ConsolePc> Scheduler::openPc(const std::string& commandLine) {
-  return openFolderPc(context_.pc.folder(), context_.loop, context_.loop, commandLine, DamagedTasks::Fail);
+  return openFolderPc(context_.pc.folder(), context_.loop, context_.loop, commandLine, DamagedTasks::Fail,
+                      context_.pc.user());
 }
 
 // The program's own task; others belong to other programs.

@@ -15,6 +15,7 @@ constexpr unsigned StepLength = 500000;  // microseconds
 
 int schedulerCommand(CommandContext& context) {
   if (context.pc.folder().empty()) throw Refusal("Windows has a task scheduler of its own");
+  context.pc.needWashable();
   interrupt::watch();
   Scheduler scheduler(context, std::time(nullptr));
   while (interrupt::signal() == 0) {

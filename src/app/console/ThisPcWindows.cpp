@@ -22,23 +22,23 @@ class FoldersOfZub : public Win32SystemFolders {
 class ThisPc : public ConsolePc {
  public:
   ThisPc(EventLoop& events, Messages& messages)
-      : windows_(events, tray_, [] { return nullptr; }),
-        platform_(withOwn(windows_.platform(), folders_, messages)) {}
+      : windows_(events, tray_, [] { return nullptr; }), platform_(windows_.platform()) {
+    platform_.folders = &folders_;
+    platform_.messages = &messages;  // lines of the terminal here, not boxes
+  }
 
   Platform& platform() override { return platform_; }
   void save() override {}  // the system keeps what was changed
+  bool saveChanges(bool, std::string_view) override { return false; }
   std::vector<std::string> failures() const override { return {}; }
+  std::vector<std::string> oddities() override { return {}; }
+  void needWashable() override {}  // what runs is as it is
   std::string folder() const override { return {}; }
+  std::string user() const override { return {}; }
   std::string utf8(std::string_view text) const override { return utf8FromWide(untoldWide(text)); }
   std::string fromTerminal(std::string_view text) const override { return told(wideFromUtf8(text)); }
 
  private:
-  // Messages are lines of the terminal here, not boxes.
-  static Platform withOwn(const Platform& pc, SystemFolders& folders, Messages& messages) {
-    return {pc.codePage, pc.registry, pc.files,  pc.drives, folders, pc.restart, pc.shell,
-            pc.clock,    pc.process,  pc.events, messages,  pc.tray, pc.tasks};
-  }
-
   NoTray tray_;
   FoldersOfZub folders_;
   Win32Platform windows_;

@@ -16,6 +16,7 @@ namespace {
 std::optional<PcError> saved(ConsolePc& pc) {
   try {
     pc.save();
+    pc.saveChanges(false, {});
   } catch (const PcError& failure) {
     return failure;
   }
@@ -24,8 +25,9 @@ std::optional<PcError> saved(ConsolePc& pc) {
 
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, const std::function<void(Program&)>& afterStart) {
+  context.pc.needWashable();
   context.needAlone();
-  for (const std::string& folder : oddFolders(context.pc.platform().registry)) {
+  for (const std::string& folder : oddFolders(*context.pc.platform().registry)) {
     context.tell(context.pc.toTerminal(folder));
   }
   interrupt::watch();

@@ -29,7 +29,8 @@ int runOnPc(CommandLine line, const std::string& program) {
   ConsoleLoop loop(program, [&opened](std::string_view text) { return opened->toTerminal(text); });
   const auto pc = line.folder.empty()
                       ? openThisPc(loop, loop)
-                      : openFolderPc(line.folder, loop, loop, joinedWords(line.given.arguments));
+                      : openFolderPc(line.folder, loop, loop, joinedWords(line.given.arguments),
+                                     DamagedTasks::Refused, line.user);
   if (!pc) {
     throw CommandUsageError("there is no Windows here to work on: give a PC in a folder with --pc FOLDER",
                             line.command);

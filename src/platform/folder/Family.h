@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
 #include <string_view>
 
 namespace zub {
@@ -14,13 +13,15 @@ struct Family {
   bool deletesTrees;         // a registry key goes with its subkeys
   bool cutsTexts;            // a text value ends at its first NUL, whatever its length was said to be
   bool raisesShortNames;     // the 8.3 name of a name that is short already is in capitals
-  std::span<const std::string_view> recycleBins;  // at the root of a drive
+  bool binsOfUsers;          // beside the recycle bin for everybody
 };
 
-// The bin of a disk formatted with FAT, for everybody; the others hold a folder for each user.
-inline constexpr std::array<std::string_view, 3> recycleBins{"Recycled", "Recycler", "$Recycle.Bin"};
+// The recycle bins at the root of a drive: that of a disk formatted with FAT, for everybody, and the folders that hold
+// one for each user, by the name of the user's branch of HKEY_USERS.
+inline constexpr std::string_view CommonBin = "Recycled";
+inline constexpr std::array<std::string_view, 2> UserBins{"Recycler", "$Recycle.Bin"};
 
-inline constexpr Family family9x{"9x", 1, true, true, true, std::span(recycleBins).first<1>()};
-inline constexpr Family familyNt{"nt", 2, false, false, false, recycleBins};
+inline constexpr Family family9x{"9x", 1, true, true, true, false};
+inline constexpr Family familyNt{"nt", 2, false, false, false, true};
 
 }  // namespace zub

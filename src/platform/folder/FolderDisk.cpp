@@ -23,7 +23,7 @@ bool isLink(HostDir& folder, const std::string& name) {
 
 std::unique_ptr<HostDir> FolderDisk::openDrive(char letter) {
   std::unique_ptr<HostDir> drive;
-  const HostError error = root_.openDir(std::string(1, letter), drive);
+  const HostError error = folders_.open(letter, drive);
   if (error == HostError::NotFound || error == HostError::NotAFolder) {
     throw RuntimeError(facts_.drives.contains(letter) ? ErrorNumber::DiskNotReady
                                                       : ErrorNumber::PathNotFound);
@@ -171,17 +171,6 @@ FolderPath FolderDisk::pathOf(const Place& place) const {
   for (std::size_t i = 1; i < open_.size(); ++i) path.parts.push_back(toldNameFromUtf8(open_[i].hostName));
   if (place.parent != nullptr) path.parts.push_back(toldNameFromUtf8(place.name));
   return path;
-}
-
-std::vector<char> FolderDisk::drives() {
-  std::vector<char> letters;
-  for (char letter = 'A'; letter <= 'Z'; ++letter) {
-    HostStat stat;
-    const bool isFolder =
-        root_.stat(std::string(1, letter), stat) == HostError::None && stat.kind == HostKind::Folder;
-    if (isFolder || facts_.drives.contains(letter)) letters.push_back(letter);
-  }
-  return letters;
 }
 
 }  // namespace zub

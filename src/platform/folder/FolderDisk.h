@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/folder/DriveFolders.h"
 #include "platform/folder/FolderNames.h"
 #include "platform/folder/FolderPath.h"
 #include "platform/folder/PcFacts.h"
@@ -18,7 +19,7 @@ namespace zub {
 class FolderDisk {
  public:
   // Both outlive the disk.
-  FolderDisk(HostDir& root, const PcFacts& facts) : root_(root), facts_(facts) {}
+  FolderDisk(DriveFolders& folders, const PcFacts& facts) : folders_(folders), facts_(facts) {}
 
   // Where a path leads. The pointer is good until the next call on the disk.
   struct Place {
@@ -44,9 +45,7 @@ class FolderDisk {
   // Forgets the names. For those who have made an entry.
   void forgetNames() { names_.clear(); }
 
-  // In the order of their letters: the directories named by one upper-case letter and the drives told by the
-  // facts.
-  std::vector<char> drives();
+  std::vector<char> drives() { return folders_.letters(); }
 
  private:
   struct Open {
@@ -67,7 +66,7 @@ class FolderDisk {
   std::unique_ptr<HostDir> openDrive(char letter);
   std::size_t sharedParts(const FolderPath& path, std::size_t parts) const;
 
-  HostDir& root_;
+  DriveFolders& folders_;
   const PcFacts& facts_;
   std::vector<Open> open_;                    // the drive, then folder by folder
   std::map<std::string, FolderNames> names_;  // by FolderPath::key of the folder

@@ -4,20 +4,12 @@
 
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
+#include "platform/folder/RegistryParts.h"
 #include "platform/folder/RegistryText.h"
 #include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {
-
-constexpr std::string_view NewFacts =
-    "# The facts of this PC; docs/pc-folder.md tells what can stand here.\n"
-    "family = 9x\n"
-    "windows = C:\\WINDOWS\n"
-    "temp = C:\\WINDOWS\\TEMP\n"
-    "program = C:\\Program Files\\Zubrane\n"
-    "current = C:\\\n"
-    "drive C = fixed\n";
 
 std::unique_ptr<HostDir> openRoot(const std::string& folder) {
   auto root = openHostDir(folder);
@@ -35,24 +27,13 @@ RegistryTree readRegistry(const std::optional<std::string>& text) {
   return tree;
 }
 
-void make(HostDir& folder, const std::string& name, std::unique_ptr<HostDir>& made) {
-  HostError error = folder.makeDir(name);
-  if (error == HostError::None) error = folder.openDir(name, made);
-  if (error != HostError::None) {
-    throw PcError(name, 0, "cannot be made: " + reasonOf(error));
-  }
-}
-
-// The folder, made where it is missing.
-std::unique_ptr<HostDir> openNew(std::string folder) {
-  while (folder.size() > 1 && (folder.ends_with('/') || folder.ends_with('\\'))) folder.pop_back();
-  if (auto present = openHostDir(folder)) return present;
-  const auto separator = folder.find_last_of("/\\");
-  const bool hasParent = separator != std::string::npos;
-  const auto parent = openRoot(hasParent ? folder.substr(0, separator + 1) : ".");
-  std::unique_ptr<HostDir> made;
-  make(*parent, hasParent ? folder.substr(separator + 1) : folder, made);
-  return made;
+// Those of the registry, once each hive shows what it does.
+FolderRegistry::Rules rulesFor(RegistryTree& tree, PcFacts& facts, const std::string& user) {
+  if (!user.empty()) facts.user = ansiFromUtf8(user);
+  showParts(tree, facts.user);
+  FolderRegistry::Rules rules{facts.family, {}};
+  for (const std::string& path : facts.noRights) rules.noRights.push_back(shownPath(tree, path));
+  return rules;
 }
 
 }  // namespace
@@ -66,23 +47,27 @@ std::size_t FolderPc::Texts::mark() const {
   return hash(registry.value_or("")) * 31 + hash(facts.value_or(""));
 }
 
-FolderPc::FolderPc(const std::string& folder, std::string commandLine, DamagedTasks damaged)
-    : FolderPc(open(folder), std::move(commandLine), damaged) {}
+FolderPc::FolderPc(const std::string& folder, std::string commandLine, DamagedTasks damaged,
+                   const std::string& user)
+    : FolderPc(open(folder), folder, std::move(commandLine), damaged, user) {}
 
-FolderPc::FolderPc(Opened opened, std::string commandLine, DamagedTasks damaged)
+FolderPc::FolderPc(Opened opened, const std::string& folder, std::string commandLine, DamagedTasks damaged,
+                   const std::string& user)
     : root_(std::move(opened.root)),
       textsRead_(opened.texts.mark()),
+      isExport_(opened.texts.registry && !isOwnRegistryText(*opened.texts.registry)),
       tree_(readRegistry(opened.texts.registry)),
       facts_(opened.texts.facts.value_or("")),
-      rules_{facts_.family, facts_.noRights},
+      rules_(rulesFor(tree_, facts_, user)),
       watched_(watched(*root_, failures_)),
-      disk_(*watched_, facts_),
+      driveFolders_(*watched_, folder, facts_, failures_),
+      disk_(driveFolders_, facts_),
       registry(tree_, rules_),
       files(disk_, facts_),
       drives(disk_, facts_),
       folders(facts_),
       restart(files, facts_),
-      shell(files, drives, *facts_.family),
+      shell(files, drives, facts_),
       process(*root_, std::move(commandLine), [this] { return isOutdated(); }),
       tasks(*root_, damaged) {}
 
@@ -104,8 +89,16 @@ bool FolderPc::isOutdated() {
 }
 
 Platform FolderPc::platform(EventLoop& events, Messages& messages) {
-  return {codePage, registry, files,  drives,   folders, restart, shell,
-          clock,    process,  events, messages, tray,    tasks};
+  return {&codePage, &registry, &files,  &drives,   &folders, &restart, &shell,
+          &clock,    &process,  &events, &messages, &tray,    &tasks};
+}
+
+// An export of others is kept: what changed can be told against it, and taken back.
+void FolderPc::saveRegistry() {
+  if (isExport_) replaceHostText(*root_, OriginalName, readHostText(*root_, RegistryName).value_or(""));
+  isExport_ = false;
+  replaceHostText(*root_, RegistryName, writeRegistryText(tree_));
+  registry.changed(false);
 }
 
 void FolderPc::save() {
@@ -118,10 +111,7 @@ void FolderPc::save() {
     }
   };
   if (registry.changed()) {
-    tried([&] {
-      replaceHostText(*root_, RegistryName, writeRegistryText(tree_));
-      registry.changed(false);
-    });
+    tried([&] { saveRegistry(); });
   }
   if (facts_.changed()) {
     tried([&] {
@@ -131,28 +121,6 @@ void FolderPc::save() {
   }
   tried([&] { tasks.throwUnsaved(); });
   if (!failures.empty()) throw PcError(failures);
-}
-
-void createPc(const std::string& folder) {
-  const auto root = openNew(folder);
-  if (root->take() == HostError::InUse) throw PcError(folder, 0, "is in use by another program: try again");
-  std::unique_ptr<HostList> listing;
-  HostEntry entry;
-  HostError error = root->list(listing);
-  if (error == HostError::None && listing->next(entry)) throw PcError(folder, 0, "is not empty");
-  if (error == HostError::None) error = listing->failure();
-  if (error != HostError::None) throw PcError(folder, 0, "cannot be read: " + reasonOf(error));
-  std::unique_ptr<HostDir> drive;
-  std::unique_ptr<HostDir> parent;
-  std::unique_ptr<HostDir> child;
-  make(*root, "C", drive);
-  make(*drive, "WINDOWS", parent);
-  make(*parent, "TEMP", child);
-  make(*drive, "Program Files", parent);
-  make(*parent, "Zubrane", child);
-  RegistryTree empty;
-  replaceHostText(*root, FolderPc::RegistryName, writeRegistryText(empty));
-  replaceHostText(*root, PcFacts::FileName, NewFacts);
 }
 
 }  // namespace zub

@@ -7,6 +7,7 @@
 
 #include "platform/Platform.h"
 #include "platform/folder/CodePage1252.h"
+#include "platform/folder/DriveFolders.h"
 #include "platform/folder/FolderClock.h"
 #include "platform/folder/FolderDisk.h"
 #include "platform/folder/FolderFiles.h"
@@ -26,11 +27,14 @@ class FolderPc {
   FolderPc& operator=(const FolderPc&) = delete;
 
   static constexpr const char* RegistryName = "registry.reg";
+  // What others wrote there, as it was before the program first saved the registry.
+  static constexpr const char* OriginalName = "registry.reg.before";
 
   // The folder at a path of the host, in UTF-8. PcError, with nothing touched, where it is no PC or one of its
   // texts is damaged. `commandLine` is what the program was started with on that PC.
+  // `user` goes before the one that the facts tell.
   explicit FolderPc(const std::string& folder, std::string commandLine = {},
-                    DamagedTasks damaged = DamagedTasks::Refused);
+                    DamagedTasks damaged = DamagedTasks::Refused, const std::string& user = {});
 
   // All services; the event loop and the message box are the caller's, and outlive the platform.
   Platform platform(EventLoop& events, Messages& messages);
@@ -47,6 +51,7 @@ class FolderPc {
   RegistryTree& registryTree() { return tree_; }
   PcFacts& facts() { return facts_; }
   HostDir& root() { return *root_; }
+  DriveFolders& driveFolders() { return driveFolders_; }
 
  private:
   // As they stood when they were read, once and together.
@@ -59,19 +64,23 @@ class FolderPc {
     std::unique_ptr<HostDir> root;
     Texts texts;
   };
-  FolderPc(Opened opened, std::string commandLine, DamagedTasks damaged);
+  FolderPc(Opened opened, const std::string& folder, std::string commandLine, DamagedTasks damaged,
+           const std::string& user);
   static Opened open(const std::string& folder);
   static Texts readTexts(HostDir& root);
   bool isOutdated();
+  void saveRegistry();
 
   // Below the services that use them, so made before them.
   std::unique_ptr<HostDir> root_;
   std::size_t textsRead_;  // the mark of the texts as they were read
+  bool isExport_;          // the registry was written by others
   RegistryTree tree_;
   PcFacts facts_;
   FolderRegistry::Rules rules_;
   HostFailures failures_;
   std::unique_ptr<HostDir> watched_;
+  DriveFolders driveFolders_;
   FolderDisk disk_;
 
  public:
@@ -87,10 +96,5 @@ class FolderPc {
   FolderTray tray;
   FolderTasks tasks;
 };
-
-// Makes an empty, valid PC of the 9x family: an empty registry and drive C: with the folders that the facts
-// name. The folder is made where it is missing (not the folders above it). PcError where it cannot be made or
-// holds anything.
-void createPc(const std::string& folder);
 
 }  // namespace zub

@@ -81,7 +81,7 @@ FolderRegistry::Slot* FolderRegistry::slotOf(RegistryKey key) {
 
 FolderRegistry::Opened FolderRegistry::resolve(RegistryKey key) {
   for (std::size_t i = 0; i < HiveNames.size(); ++i) {
-    if (key == hive(HiveNames[i].hive)) return {status::Success, &tree_.hive(i), access::All};
+    if (key == hive(HiveNames[i].hive)) return {status::Success, &tree_.shown(i), access::All};
   }
   const Slot* slot = slotOf(key);
   if (slot == nullptr) return {status::InvalidHandle, nullptr, 0};
@@ -106,6 +106,14 @@ RegistryStatus FolderRegistry::openSlot(RegistryNode& node, std::uint32_t rights
   place->used = true;
   opened = RegistryKey{place->generation} << 16 | static_cast<RegistryKey>(place - slots_.begin() + 1);
   return status::Success;
+}
+
+// Such a key is always there, as it is on a running PC.
+bool FolderRegistry::holdsHive(const RegistryNode& node) const {
+  for (std::size_t i = 0; i < HiveNames.size(); ++i) {
+    if (isWithin(&tree_.shown(i), &node)) return true;
+  }
+  return false;
 }
 
 bool FolderRegistry::writable(const RegistryNode& node) const {
@@ -211,8 +219,8 @@ RegistryStatus FolderRegistry::deleteKey(RegistryKey key, std::string_view path)
   if (parts.status != status::Success) return parts.status;
   RegistryNode* node = findBelow(from.node, parts);
   if (node == nullptr) return status::FileNotFound;
-  const bool isHive = node->parent == nullptr;
-  if (isHive || (!rules_.family->deletesTrees && !node->keys.empty()) || !treeWritable(*node)) {
+  if (node->parent == nullptr || holdsHive(*node) || (!rules_.family->deletesTrees && !node->keys.empty()) ||
+      !treeWritable(*node)) {
     return status::AccessDenied;
   }
   for (Slot& slot : slots_) {

@@ -63,6 +63,7 @@ class FolderRegistry : public Registry {
   Opened resolve(RegistryKey key);
   Slot* slotOf(RegistryKey key);
   RegistryStatus openSlot(RegistryNode& node, std::uint32_t rights, RegistryKey& opened);
+  bool holdsHive(const RegistryNode& node) const;
   bool writable(const RegistryNode& node) const;
   bool treeWritable(const RegistryNode& node) const;
 

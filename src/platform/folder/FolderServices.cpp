@@ -25,6 +25,12 @@ char letterOf(std::string_view drive) {
   return isDrive ? static_cast<char>(UpperCase1252[static_cast<unsigned char>(drive[0])]) : '\0';
 }
 
+// "S-1-5-21-...", which is what the system names a user's bin by.
+bool isIdentifier(std::string_view user) {
+  return equalFolded(user.substr(0, 4), "S-1-") &&
+         user.find_first_not_of("0123456789-", 2) == std::string_view::npos;
+}
+
 }  // namespace
 
 std::vector<std::string> FolderDrives::list() {
@@ -70,7 +76,10 @@ std::vector<std::string> FolderShell::recycleBins() {
   std::vector<std::string> folders;
   for (const std::string& drive : drives_.list()) {
     if (drives_.type(drive) != DriveType::Fixed) continue;
-    for (const std::string_view bin : family_.recycleBins) folders.push_back(JoinPath(drive, bin));
+    folders.push_back(JoinPath(drive, CommonBin));
+    if (!facts_.family->binsOfUsers || !isIdentifier(facts_.user)) continue;
+    for (const std::string_view bins : UserBins)
+      folders.push_back(JoinPath(JoinPath(drive, bins), facts_.user));
   }
   return folders;
 }

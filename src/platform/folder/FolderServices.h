@@ -54,10 +54,11 @@ class FolderRestart : public Restart {
 // The shell of a PC that nobody sits at: there is nothing to open and nobody to ask.
 class FolderShell : public Shell {
  public:
-  FolderShell(Files& files, Drives& drives, const Family& family)
-      : files_(files), drives_(drives), family_(family) {}
+  FolderShell(Files& files, Drives& drives, const PcFacts& facts)
+      : files_(files), drives_(drives), facts_(facts) {}
 
-  // Empties the bin folders of the fixed drives and leaves the folders themselves.
+  // Empties the bin folders of the fixed drives and leaves the folders themselves. Of those that hold a bin for
+  // each user only that of the PC's user is meant.
   std::int32_t emptyRecycleBin(std::uint32_t flags) override;
   std::vector<std::string> recycleBins() override;
   void updateRecycleBinIcon() override {}
@@ -68,7 +69,7 @@ class FolderShell : public Shell {
  private:
   Files& files_;
   Drives& drives_;
-  const Family& family_;
+  const PcFacts& facts_;
 };
 
 class FolderProcess : public Process {

@@ -73,18 +73,26 @@ std::string registryPath(std::string_view value) {
   return std::string(value);
 }
 
+std::string userOf(std::string_view value) {
+  if (value.empty() || value.find('\\') != std::string_view::npos) {
+    throw Refused{"\"" + utf8FromAnsi(value) + "\" is no name of a key of HKEY_USERS, such as .DEFAULT"};
+  }
+  return std::string(value);
+}
+
 struct Fact {
   std::string_view name;
   bool many;
   void (*take)(PcFacts&, std::string_view);
 };
 
-constexpr std::array<Fact, 11> Facts{{
+constexpr std::array<Fact, 12> Facts{{
     {"family", false, [](PcFacts& pc, std::string_view value) { pc.family = familyOf(value); }},
     {"windows", false, [](PcFacts& pc, std::string_view value) { pc.windows = pathOf(value); }},
     {"temp", false, [](PcFacts& pc, std::string_view value) { pc.temp = pathOf(value); }},
     {"program", false, [](PcFacts& pc, std::string_view value) { pc.program = pathOf(value); }},
     {"current", false, [](PcFacts& pc, std::string_view value) { pc.current = pathOf(value); }},
+    {"user", false, [](PcFacts& pc, std::string_view value) { pc.user = userOf(value); }},
     {"read only", true,
      [](PcFacts& pc, std::string_view value) { pc.readOnlyDrives.insert(driveOf(value)); }},
     {"locked", true, [](PcFacts& pc, std::string_view value) { pc.locked.insert(pathOf(value).key()); }},
@@ -97,6 +105,7 @@ constexpr std::array<Fact, 11> Facts{{
 }};
 
 constexpr std::string_view DrivePrefix = "drive ";
+constexpr std::string_view Elsewhere = " at ";
 
 }  // namespace
 
@@ -130,9 +139,13 @@ void PcFacts::take(std::string_view line, int number) {
 
   if (name.size() > DrivePrefix.size() && equalFolded(name.substr(0, DrivePrefix.size()), DrivePrefix)) {
     const char letter = driveOf(trimmed(name.substr(DrivePrefix.size())));
-    if (!drives.emplace(letter, kindOf(value)).second) {
+    const auto at = value.find(Elsewhere);
+    if (!drives.emplace(letter, kindOf(trimmed(value.substr(0, at)))).second) {
       throw Refused{"the drive was told before"};
     }
+    // The host's own bytes: no stand-ins.
+    if (at != std::string_view::npos)
+      driveFolders[letter] = trimmed(line.substr(line.find(Elsewhere) + Elsewhere.size()));
     return;
   }
   const auto fact = std::ranges::find_if(Facts, [&](const Fact& row) { return equalFolded(row.name, name); });

@@ -29,9 +29,11 @@ class PcFacts {
   FolderPath temp;
   FolderPath program;
   FolderPath current;
-  std::map<char, DriveType> drives;  // those that are told
-  std::set<char> readOnlyDrives;     // by their letters
-  std::set<std::string> locked;      // FolderPath::key of each
+  std::string user;                          // a branch of HKEY_USERS; empty for the text's HKEY_CURRENT_USER
+  std::map<char, DriveType> drives;          // those that are told
+  std::map<char, std::string> driveFolders;  // of those that lie elsewhere: on the host, in UTF-8
+  std::set<char> readOnlyDrives;             // by their letters
+  std::set<std::string> locked;              // FolderPath::key of each
   std::set<std::string> hidden;
   std::set<std::string> system;
   std::vector<std::string> noRights;  // registry paths as written

@@ -11,6 +11,25 @@ constexpr std::string_view NewForm = "Windows Registry Editor Version 5.00";
 constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view Utf16Mark = "\xFF\xFE";
 
+// What is no export, and what makes one of it.
+struct OtherForm {
+  std::string_view start;
+  const char* reason;
+};
+constexpr std::array<OtherForm, 4> OtherForms{{
+    {"\xFE\xFF",
+     "is UTF-16 with the other byte order: \"iconv -f UTF-16 -t UTF-8\" makes an export that can be read"},
+    {"regf",
+     "is a raw hive: \"hivexregedit --export --prefix HKEY_CURRENT_USER HIVE '\\'\" (the prefix of what it "
+     "is) makes an "
+     "export of it"},
+    {"CREG",
+     "is the raw registry of Windows 95 to ME: \"regedit /L:SYSTEM.DAT /R:USER.DAT /E EXPORT.REG\" under DOS "
+     "makes an "
+     "export of it"},
+    {"WINE REGISTRY", "is a registry file of Wine: \"wine regedit /E EXPORT.REG\" makes an export of it"},
+}};
+
 // Any 16-bit text, also one with halves of pairs astray. A last odd byte does not count.
 std::string utf8FromUtf16(std::string_view bytes) {
   const auto unit = [&](std::size_t i) -> std::uint32_t {
@@ -33,6 +52,23 @@ std::string utf8FromUtf16(std::string_view bytes) {
   return text;
 }
 
+// Bytes of a code page hardly ever look like that.
+bool isUtf8BeyondAscii(std::string_view text) {
+  bool beyond = false;
+  for (std::size_t i = 0; i < text.size();) {
+    const auto lead = static_cast<unsigned char>(text[i++]);
+    if (lead < 0x80) continue;
+    std::size_t more = 0;
+    if (lead >= 0xC2) more = lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : lead < 0xF5 ? 3 : 0;
+    if (more == 0 || text.size() - i < more) return false;
+    for (; more > 0; --more, ++i) {
+      if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80) return false;
+    }
+    beyond = true;
+  }
+  return beyond;
+}
+
 int hexDigit(char c) {
   if (c >= '0' && c <= '9') return c - '0';
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
@@ -42,20 +78,21 @@ int hexDigit(char c) {
 
 class Reader {
  public:
-  Reader(std::string_view text, bool isUtf8, const std::string& file)
-      : text_(text), isUtf8_(isUtf8), file_(file) {}
+  Reader(RegistryTree& tree, std::string_view text, bool isUtf8, const std::string& file,
+         std::string_view below)
+      : tree_(tree), text_(text), isUtf8_(isUtf8), file_(file), below_(below) {}
 
-  RegistryTree read() {
-    readHeading();
+  void read() {
+    if (!takeHeading()) refuse("is no registry text: it does not begin with REGEDIT4");
+    endLine();
     while (skipBlankLines()) {
       if (peek() == '[') {
         readKey();
-      } else {
+      } else if (peek() == '"' || peek() == '@' || !takeHeading()) {
         readValue();
       }
       endLine();
     }
-    return std::move(tree_);
   }
 
  private:
@@ -104,19 +141,39 @@ class Reader {
 
   std::string ansi(std::string_view text) const { return isUtf8_ ? ansiFromUtf8(text) : std::string(text); }
 
-  void readHeading() {
+  // One stands also where a text that was joined to another one begins.
+  bool takeHeading() {
+    const std::size_t place = place_;
+    if (isUtf8_ && text_.substr(place_).starts_with(Utf8Mark)) place_ += Utf8Mark.size();
     const std::string_view heading = restOfLine();
+    if (heading != NewForm && heading != OldForm) {
+      place_ = place;
+      return false;
+    }
     isNewForm_ = heading == NewForm;
-    if (!isNewForm_ && heading != OldForm) refuse("is no registry text: it does not begin with REGEDIT4");
-    endLine();
+    key_ = nullptr;
+    return true;
   }
+
+  bool namesHive(std::string_view path) { return tree_.hive(path.substr(0, path.find('\\'))) != nullptr; }
 
   void readKey() {
     const std::string_view line = restOfLine();
     if (line.size() < 2 || !line.ends_with(']')) refuse("the name of a key is cut off");
     const bool deleted = line[1] == '-';
-    const std::string path = ansi(line.substr(deleted ? 2 : 1, line.size() - (deleted ? 3 : 2)));
-    if (tree_.hive(path.substr(0, path.find('\\'))) == nullptr) refuse("the key is in no known hive");
+    std::string path = ansi(line.substr(deleted ? 2 : 1, line.size() - (deleted ? 3 : 2)));
+    if (path.ends_with('\\')) path.pop_back();  // as some tools end the root of a hive
+    if (!below_.empty()) {
+      if (namesHive(path)) refuse("the key names its hive already: leave \"--as\" out");
+      if (!path.empty() && !path.starts_with('\\')) path.insert(0, 1, '\\');
+      path.insert(0, below_);
+    }
+    if (!namesHive(path)) {
+      refuse(path.empty() || path.starts_with('\\')
+                 ? "the key names no hive: \"zub import --as HKEY_CURRENT_USER\", or another hive, takes "
+                   "such a text"
+                 : "the key is in no known hive");
+    }
     if (deleted) {
       deleteKey(path);
     } else {
@@ -204,12 +261,14 @@ class Reader {
 
   std::string readNumber() {
     std::uint32_t number = 0;
-    for (int i = 0; i < 8; ++i) {
-      const int digit = hexDigit(peek());
-      if (digit < 0) refuse("a number has not its eight digits");
+    int digits = 0;
+    for (int digit = hexDigit(peek()); digit >= 0 && digits < 8; digit = hexDigit(peek())) {
       number = number << 4 | static_cast<std::uint32_t>(digit);
       ++place_;
+      ++digits;
     }
+    // Fewer than eight stand for a small number; at the end of the text they may be cut off.
+    if (digits == 0 || (digits < 8 && atEnd())) refuse("a number is cut off or broken");
     std::string bytes;
     for (int shift = 0; shift < 32; shift += 8) bytes += static_cast<char>(number >> shift & 0xFF);
     return bytes;
@@ -241,26 +300,54 @@ class Reader {
     }
   }
 
+  RegistryTree& tree_;
   std::string_view text_;
   bool isUtf8_;
   const std::string& file_;
+  std::string_view below_;
   std::size_t place_ = 0;
   int line_ = 1;
   bool isNewForm_ = false;
-  RegistryTree tree_;
   RegistryNode* key_ = nullptr;
 };
 
 }  // namespace
 
-RegistryTree readRegistryText(std::string_view bytes, const std::string& file) {
+RegistryForm formOf(std::string_view bytes) {
+  using Letters = RegistryForm::Letters;
+  RegistryForm form;
+  form.marked = bytes.starts_with(Utf8Mark) || bytes.starts_with(Utf16Mark);
   if (bytes.starts_with(Utf16Mark)) {
+    form.letters = Letters::Utf16;
+    // "Wi", against "RE".
+    form.isNew = bytes.substr(Utf16Mark.size()).starts_with("W");
+    return form;
+  }
+  if (form.marked || (!isOwnRegistryText(bytes) && isUtf8BeyondAscii(bytes))) form.letters = Letters::Utf8;
+  form.isNew = bytes.substr(form.marked ? Utf8Mark.size() : 0).starts_with(NewForm);
+  return form;
+}
+
+void readRegistryInto(RegistryTree& tree, std::string_view bytes, const std::string& file,
+                      std::string_view below) {
+  for (const OtherForm& other : OtherForms) {
+    if (bytes.starts_with(other.start)) throw PcError(file, 0, other.reason);
+  }
+  const RegistryForm form = formOf(bytes);
+  if (form.letters == RegistryForm::Letters::Utf16) {
     if (bytes.size() % 2 != 0) throw PcError(file, 0, "is cut off in the midst of a character");
     const std::string text = utf8FromUtf16(bytes.substr(Utf16Mark.size()));
-    return Reader(text, true, file).read();
+    return Reader(tree, text, true, file, below).read();
   }
-  const bool isUtf8 = bytes.starts_with(Utf8Mark);
-  return Reader(bytes.substr(isUtf8 ? Utf8Mark.size() : 0), isUtf8, file).read();
+  Reader(tree, bytes.substr(form.marked ? Utf8Mark.size() : 0), form.letters == RegistryForm::Letters::Utf8,
+         file, below)
+      .read();
+}
+
+RegistryTree readRegistryText(std::string_view bytes, const std::string& file) {
+  RegistryTree tree;
+  readRegistryInto(tree, bytes, file, {});
+  return tree;
 }
 
 }  // namespace zub

@@ -112,6 +112,12 @@ class RegistryTree {
 
   // In the order of HiveNames.
   RegistryNode& hive(std::size_t position) { return *hives_[position]; }
+  // What the program finds there: the hive itself, or another key that stands for it.
+  RegistryNode& shown(std::size_t position) {
+    return shown_[position] == nullptr ? hive(position) : *shown_[position];
+  }
+  // From now on the key, which must not go, stands for the hive.
+  void show(std::size_t position, RegistryNode& key) { shown_[position] = &key; }
   // Null for a text that names no hive.
   RegistryNode* hive(std::string_view name);
   // A path that begins with a hive's name; null where the key is missing.
@@ -121,6 +127,7 @@ class RegistryTree {
 
  private:
   std::array<std::unique_ptr<RegistryNode>, HiveNames.size()> hives_;
+  std::array<RegistryNode*, HiveNames.size()> shown_{};  // null where the hive shows itself
 };
 
 }  // namespace zub

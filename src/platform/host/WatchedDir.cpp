@@ -156,4 +156,8 @@ std::unique_ptr<HostDir> watched(HostDir& folder, HostFailures& failures) {
   return std::make_unique<WatchedDir>(folder, Watch{failures, {}});
 }
 
+std::unique_ptr<HostDir> watched(std::unique_ptr<HostDir> folder, std::string path, HostFailures& failures) {
+  return std::make_unique<WatchedDir>(std::move(folder), Watch{failures, std::move(path)});
+}
+
 }  // namespace zub

@@ -30,5 +30,7 @@ class HostFailures {
 
 // The same folder with everything below it. Both outlive it and what it opens.
 std::unique_ptr<HostDir> watched(HostDir& folder, HostFailures& failures);
+// The same for a folder that lies elsewhere and whose failures are told with this path.
+std::unique_ptr<HostDir> watched(std::unique_ptr<HostDir> folder, std::string path, HostFailures& failures);
 
 }  // namespace zub

@@ -10,16 +10,24 @@ constexpr std::uint32_t NtFamily = 2;
 
 PretendPc::PretendPc(Platform& beneath)
     : beneath_(beneath),
-      registry(beneath.registry, beneath.codePage, beneath.restart.platformId(VersionRecord) != NtFamily),
-      files(beneath.files, beneath.folders, beneath.codePage),
-      restart(beneath.restart, beneath.folders, beneath.codePage, files),
-      shell(beneath.shell, files),
-      tasks(beneath.tasks, beneath.clock) {}
+      registry(*beneath.registry, *beneath.codePage, beneath.restart->platformId(VersionRecord) != NtFamily),
+      files(*beneath.files, *beneath.folders, *beneath.codePage),
+      restart(*beneath.restart, *beneath.folders, *beneath.codePage, files),
+      shell(*beneath.shell, files),
+      tasks(*beneath.tasks, *beneath.clock) {}
 
 Platform PretendPc::platform(EventLoop& events, Messages& messages) {
-  return {beneath_.codePage, registry, files,          beneath_.drives, beneath_.folders,
-          restart,           shell,    beneath_.clock, process,         events,
-          messages,          tray,     tasks};
+  Platform pc = beneath_;
+  pc.registry = &registry;
+  pc.files = &files;
+  pc.restart = &restart;
+  pc.shell = &shell;
+  pc.process = &process;
+  pc.events = &events;
+  pc.messages = &messages;
+  pc.tray = &tray;
+  pc.tasks = &tasks;
+  return pc;
 }
 
 std::uint64_t PretendPc::removals() const {

@@ -50,6 +50,14 @@ std::wstring wholePath(const std::wstring& given) {
   return std::wstring(onShare ? WholeShare : WholePath) + path;
 }
 
+// For the ANSI calls: a stand-in is read where the code page holds what it stands for, as in a double-byte one.
+std::wstring withoutStandIns(std::wstring path) {
+  if (path.find(L'<') == std::wstring::npos) return path;
+  path = withoutDots(resolved(path, checkUnit));
+  if (path.find(L'<') != std::wstring::npos || wide(narrow(path)) != path) refuse();
+  return path;
+}
+
 void widen(const WIN32_FIND_DATAA& found, WIN32_FIND_DATAW& result) {
   result.dwFileAttributes = found.dwFileAttributes;
   result.nFileSizeHigh = found.nFileSizeHigh;
@@ -73,9 +81,7 @@ SystemPath::SystemPath(std::string_view path) {
   if (path.empty() || path.find('\0') != std::string_view::npos) refuse();
   wide_ = wide(path);
   namesFolder_ = wide_.ends_with(L'\\') || wide_.ends_with(L'/');
-  // The 9x family has no names with a stand-in.
-  if (!isNtFamily() && wide_.find(L'<') != std::wstring::npos) refuse();
-  if (isNtFamily()) wide_ = wholePath(wide_);
+  wide_ = isNtFamily() ? wholePath(wide_) : withoutStandIns(wide_);
   while (wide_.ends_with(L'\\') && !isRoot()) wide_.pop_back();
   if (!isNtFamily()) ansi_ = narrow(wide_);
 }

@@ -16,9 +16,10 @@ namespace zub {
 
 struct Win32Platform::Services {
   Services(EventLoop& events, Tray& tray, const OwnerWindow& owner)
-      : shell(owner), messages(owner), tasks(owner), platform{codePage, registry, files, drives,  folders,
-                                                              restart,  shell,    clock, process, events,
-                                                              messages, tray,     tasks} {}
+      : shell(owner), messages(owner), tasks(owner), platform{&codePage, &registry, &files,    &drives,
+                                                              &folders,  &restart,  &shell,    &clock,
+                                                              &process,  &events,   &messages, &tray,
+                                                              &tasks} {}
 
   Win32CodePage codePage;
   Win32Registry registry;

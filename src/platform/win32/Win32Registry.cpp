@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstring>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/win32/Text.h"
 
@@ -23,6 +25,22 @@ RegistryStatus hand(const std::string& told, char* name, std::uint32_t& length) 
   std::memcpy(name, told.c_str(), told.size() + 1);
   length = static_cast<std::uint32_t>(told.size());
   return ERROR_SUCCESS;
+}
+
+// The text of a value that the code page does not hold exactly, as the program is told it: the ANSI call would take
+// look-alikes, and a folder's path lead elsewhere. Nothing for any other value.
+std::optional<std::string> beyondCodePage(HKEY key, const std::wstring& name) {
+  DWORD size = 0;
+  if (RegQueryValueExW(key, name.c_str(), nullptr, nullptr, nullptr, &size) != ERROR_SUCCESS)
+    return std::nullopt;
+  std::wstring text(size / sizeof(wchar_t), L'\0');
+  size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+  const auto room = reinterpret_cast<BYTE*>(text.data());
+  if (RegQueryValueExW(key, name.c_str(), nullptr, nullptr, room, &size) != ERROR_SUCCESS)
+    return std::nullopt;
+  text.resize(size / sizeof(wchar_t));
+  if (wide(narrow(text)) == text) return std::nullopt;
+  return told(text);
 }
 
 }  // namespace
@@ -67,7 +85,8 @@ RegistryStatus Win32Registry::enumKey(RegistryKey key, std::uint32_t index, char
   return result;
 }
 
-// The wide call tells the name and the ANSI one the data, which is told as the code page's text.
+// The wide call tells the name and the ANSI one the data, which is told as the code page's text: only names are asked for
+// so, and data is queried.
 RegistryStatus Win32Registry::enumValue(RegistryKey key, std::uint32_t index, char* name,
                                         std::uint32_t& length, std::uint32_t& type, std::uint8_t* data,
                                         std::uint32_t& dataLength) {
@@ -108,16 +127,29 @@ RegistryStatus Win32Registry::query(RegistryKey key, std::string_view name, std:
   DWORD kind = 0;
   DWORD size = dataLength;
   const LONG result = RegQueryValueExA(handleOf(key), std::string(name).c_str(), nullptr, &kind, data, &size);
-  if (result == ERROR_SUCCESS || result == ERROR_MORE_DATA) {
-    type = kind;
-    dataLength = size;
-  }
-  return result;
+  if (result != ERROR_SUCCESS && result != ERROR_MORE_DATA) return result;
+  type = kind;
+  const std::uint32_t room = std::exchange(dataLength, size);
+  if (!isNtFamily() || !isText(kind)) return result;
+  const std::optional<std::string> text = beyondCodePage(handleOf(key), wide(name));
+  if (!text) return result;
+  dataLength = static_cast<std::uint32_t>(text->size());
+  if (data == nullptr) return ERROR_SUCCESS;
+  if (text->size() > room) return ERROR_MORE_DATA;
+  std::memcpy(data, text->data(), text->size());
+  return ERROR_SUCCESS;
 }
 
 RegistryStatus Win32Registry::set(RegistryKey key, std::string_view name, std::uint32_t type,
                                   std::span<const std::uint8_t> data) {
   const std::string bytes(data.begin(), data.end());
+  if (isNtFamily() && isText(type)) {
+    const std::wstring text = untoldWide(bytes);
+    if (text != wide(bytes) && told(text) == bytes)
+      return RegSetValueExW(handleOf(key), wide(name).c_str(), 0, type,
+                            reinterpret_cast<const BYTE*>(text.c_str()),
+                            static_cast<DWORD>(text.size() * sizeof(wchar_t)));
+  }
   return RegSetValueExA(handleOf(key), std::string(name).c_str(), 0, type,
                         reinterpret_cast<const BYTE*>(bytes.c_str()), static_cast<DWORD>(data.size()));
 }

@@ -29,7 +29,11 @@ std::string programPath() {
 
 }  // namespace
 
+// Where neither variable names a folder the system tells the user's own, Windows' or the current one, which are not for
+// anybody's temporary files: then there is none.
 std::string Win32SystemFolders::temp(std::uint32_t room) {
+  const auto isSet = [](const char* variable) { return GetEnvironmentVariableA(variable, nullptr, 0) > 1; };
+  if (!isSet("TMP") && !isSet("TEMP")) return {};
   const std::string path = pathFrom([](wchar_t* buffer, DWORD size) { return GetTempPathW(size, buffer); },
                                     [](char* buffer, DWORD size) { return GetTempPathA(size, buffer); });
   return path.size() < room ? path : std::string();

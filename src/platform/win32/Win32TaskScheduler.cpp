@@ -130,7 +130,7 @@ ComPointer<ITask>& Win32Task::task() {
 }
 
 void Win32Task::application(std::string_view path) {
-  mustSucceed(task()->SetApplicationName(wide(path).c_str()));
+  mustSucceed(task()->SetApplicationName(untoldWide(path).c_str()));
 }
 
 void Win32Task::parameters(std::string_view text) {

@@ -1,7 +1,10 @@
 // Labels and text boxes.
 #include <algorithm>
+#include <limits>
 #include <utility>
 
+#include "platform/win32/Text.h"
+#include "ui/GrowingText.h"
 #include "ui/win32/NativeViews.h"
 
 namespace zub {
@@ -91,10 +94,16 @@ class EditView : public NativeView {
   bool showing_ = false;
 };
 
-// A text that grows: what is new is added, so that a long report costs no more than its last lines.
+// The 9x family keeps 64 KiB of text in a box, and drops silently what comes beyond.
+std::size_t roomOfBox() {
+  constexpr std::size_t In9x = 60000;
+  return isNtFamily() ? std::numeric_limits<std::size_t>::max() : In9x;
+}
+
 class ReportView : public NativeView {
  public:
-  explicit ReportView(const ViewSite& site) : NativeView(site), report_(site.bound<const std::string*>()) {
+  explicit ReportView(const ViewSite& site)
+      : NativeView(site), report_(site.bound<const std::string*>()), shown_(roomOfBox()) {
     foreColor_ = site.spec.color;
     backColor_ = colors::Black;
     create("EDIT", WS_TABSTOP | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL);
@@ -102,16 +111,12 @@ class ReportView : public NativeView {
   }
 
   void show() override {
-    if (shown_ == *report_) return;
-    if (!report_->starts_with(shown_)) {
-      shown_.clear();
-      text(shown_);
-    }
-    const std::string added = report_->substr(shown_.size());
+    const auto change = shown_.follow(*report_);
+    if (!change) return;
+    if (change->anew) text({});
     const int length = GetWindowTextLengthA(hwnd());
     send(EM_SETSEL, static_cast<WPARAM>(length), length);
-    sendText(EM_REPLACESEL, FALSE, added);
-    shown_ = *report_;
+    sendText(EM_REPLACESEL, FALSE, change->text);
   }
 
  protected:
@@ -122,7 +127,7 @@ class ReportView : public NativeView {
 
  private:
   const std::string* report_;
-  std::string shown_;
+  GrowingText shown_;
 };
 
 }  // namespace

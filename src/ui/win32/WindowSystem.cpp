@@ -8,6 +8,9 @@ namespace {
 constexpr std::uint64_t ShowPause =
     16;  // milliseconds between two comparisons of the windows with their forms
 constexpr std::uint64_t IdlePause = 100;  // the longest sleep: the shortest interval of a form's timer
+// The kinds that Windows 98 knows. With one that came later it refuses the call, and the program would never sleep.
+constexpr DWORD AnyInput =
+    QS_KEY | QS_MOUSE | QS_POSTMESSAGE | QS_TIMER | QS_PAINT | QS_SENDMESSAGE | QS_HOTKEY;
 
 }  // namespace
 
@@ -141,7 +144,7 @@ void WindowSystem::showAll() {
 void WindowSystem::wait() {
   const std::uint64_t sinceShow = now() - lastShow_;
   const std::uint64_t pause = !owesShow_ ? IdlePause : sinceShow < ShowPause ? ShowPause - sinceShow : 0;
-  MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(pause), QS_ALLINPUT);
+  MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(pause), AnyInput);
 }
 
 HWND WindowSystem::dialogOwner() {
