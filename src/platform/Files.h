@@ -132,7 +132,8 @@ class Files {
   // cannot be removed stays, with the folders that it is in, and nothing else; the first failure is thrown.
   virtual void deleteFolder(std::string_view path) = 0;
 
-  // The 8.3 form of an existing path; the empty text for a missing one.
+  // The 8.3 form of an existing path: what the disk keeps no 8.3 name for stands in it as it is. The empty text
+  // for a missing one.
   virtual std::string shortPath(std::string_view path) = 0;
 };
 

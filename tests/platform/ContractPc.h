@@ -17,6 +17,7 @@
 //   bool hasWide(name);                     whether it is there, under exactly this name
 //   void wideKey(name);                     the same for a key below key()
 //   bool followsLinks();                    a path may go through a link
+//   bool keepsShortNames();                 its disk has an 8.3 name for a long one
 //   bool deviates(name);                    this PC breaks the contract in a way that is listed by this name
 #pragma once
 
@@ -49,6 +50,7 @@ class FolderContractPc : public TestPc {
   bool hasWide(std::u16string_view name) const;
   void wideKey(std::u16string_view name);
   bool followsLinks() const { return false; }
+  bool keepsShortNames() const;
   bool deviates(std::string_view) const { return false; }
 };
 

@@ -27,6 +27,14 @@ bool FolderContractPc::link([[maybe_unused]] const std::string& path,
 #endif
 }
 
+bool FolderContractPc::keepsShortNames() const {
+#ifdef _WIN32
+  return true;
+#else
+  return false;
+#endif
+}
+
 // The host's name of a told one.
 static std::string hostName(std::u16string_view name) {
   std::string told;

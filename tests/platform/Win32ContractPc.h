@@ -34,6 +34,7 @@ class Win32ContractPc {
   void wide(std::u16string_view name, bool folder);
   bool hasWide(std::u16string_view name) const;
   void wideKey(std::u16string_view name);
+  bool keepsShortNames() const { return true; }
   bool followsLinks() const { return true; }
   // Only Wine deviates, and only as its table says; a name that is not in the table is a fault of the test.
   bool deviates(std::string_view name) const;

@@ -51,7 +51,7 @@ TEST_CASE("a stand-in is never read as a part of the path itself") {
 // Run in a Wine of code page 932, where the second byte of a character may be that of a backslash.
 TEST_CASE("code page 932: no byte of a character is taken for a separator" * doctest::skip(GetACP() != 932)) {
   Win32ContractPc pc;
-  Files& files = pc.platform().files;
+  Files& files = *pc.platform().files;
   const std::string base = pc.folder() + '\\';
   pc.wide(u"\u8868", true);
   pc.wide(u"\u30BD.tmp", false);
@@ -65,7 +65,7 @@ TEST_CASE("code page 932: no byte of a character is taken for a separator" * doc
   for (FoundFile entry; search->next(entry);) names.insert(entry.name);
   CHECK(names == std::set<std::string>{"<8868>", "<30BD>.tmp", "\x82\xA0.tmp", ".tmp", "tmp", "kept"});
   // A path from outside, as bytes.
-  CHECK(pc.platform().codePage.toldPath(base + "\x95\x5C\\a") == base + "<8868>\\a");
+  CHECK(pc.platform().codePage->toldPath(base + "\x95\x5C\\a") == base + "<8868>\\a");
   CHECK(files.find(base + "\x95\x5C"));
 
   files.deleteFolder(base + "<8868>");
@@ -78,7 +78,7 @@ TEST_CASE("code page 932: no byte of a character is taken for a separator" * doc
 TEST_CASE("a folder that the registry names in another alphabet is found, and its name stored as it was") {
   Win32ContractPc pc;
   if (!isNt(pc)) return;
-  Registry& registry = pc.platform().registry;
+  Registry& registry = *pc.platform().registry;
   const std::u16string name = u"\u0101\u8868";
   pc.wide(name, true);
   const std::wstring path = wide(pc.folder()) + L'\\' + std::wstring(name.begin(), name.end());
@@ -96,7 +96,7 @@ TEST_CASE("a folder that the registry names in another alphabet is found, and it
   const std::string told(reinterpret_cast<const char*>(data.data()), length - 1);
   CHECK(told == pc.folder() + "\\<01018868>");
   CHECK(data[length - 1] == 0);
-  CHECK(pc.platform().files.folderExists(told));
+  CHECK(pc.platform().files->folderExists(told));
   std::uint32_t needed = 0;
   CHECK(registry.query(key.get(), "Cache", type, nullptr, needed) == status::Success);
   CHECK(needed == length);
@@ -120,10 +120,10 @@ TEST_CASE("where nothing names a folder for temporary files there is none") {
     before[variable] = std::getenv(variable);
     SetEnvironmentVariableA(variable, nullptr);
   }
-  const std::string none = pc.platform().folders.temp(512);
+  const std::string none = pc.platform().folders->temp(512);
   for (const auto& [variable, text] : before) SetEnvironmentVariableA(variable, text.c_str());
   CHECK(none.empty());
-  CHECK_FALSE(pc.platform().folders.temp(512).empty());
+  CHECK_FALSE(pc.platform().folders->temp(512).empty());
 }
 
 }  // namespace zub

@@ -42,7 +42,7 @@ class TestPc::Impl {
  public:
   Impl(TestPc& owner, const std::vector<std::string>& facts)
       : pc(preparePc(temp, facts)),
-        disk(pc.driveFolders(), pc.facts()),
+        disk(pc.driveFolders(), pc.facts(), failures),
         log(owner),
         files(pc.files, fileFaults, log),
         registry(pc.registry, keyFaults, log),
@@ -94,6 +94,7 @@ class TestPc::Impl {
 
   TempFolder temp;
   FolderPc pc;
+  HostFailures failures;
   FolderDisk disk;
   FileFaults fileFaults;
   KeyFaults keyFaults;

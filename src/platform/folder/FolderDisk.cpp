@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/folder/CodePage1252.h"
+#include "platform/folder/ShortName.h"
 #include "platform/host/HostFailure.h"
 
 namespace zub {
@@ -61,17 +62,30 @@ HostError FolderDisk::byAnyName(HostDir& folder, const FolderPath& path, std::si
                                 std::string& hostName, Try attempt) {
   const std::string& name = path.parts[at];
   hostName = utf8FromAnsi(name);
-  HostError error = attempt();
+  // Some hosts find an entry by its 8.3 name, too, and then do not tell its own.
+  const bool mayBeShort = isMadeShortName(name);
+  HostError error = HostError::NotFound;
+  if (!mayBeShort || namesOf(folder, path, at).has(hostName)) error = attempt();
   if (error != HostError::NotFound) return error;
   FolderNames& names = namesOf(folder, path, at);
-  while (const auto found = names.find(name)) {
+  while (const auto found = names.find(folder, name)) {
     hostName = *found;
     error = attempt();
     if (error != HostError::NotFound) return error;
     names.drop(*found);
   }
   hostName = utf8FromAnsi(name);
+  if (!mayBeShort) return error;
+  error = attempt();
+  if (error == HostError::NotFound) tellNoShortName(name);
   return error;
+}
+
+// Of a folder that is open. Where the disk keeps no 8.3 names, what was meant by this one may well be there.
+void FolderDisk::tellNoShortName(std::string_view name) {
+  std::string path;
+  for (const Open& folder : open_) path += folder.hostName + '/';
+  failures_.add(path + utf8FromAnsi(name), "an 8.3 name that leads nowhere");
 }
 
 void FolderDisk::letGoBefore(std::size_t at) {
@@ -157,13 +171,11 @@ std::string FolderDisk::shortName(const FolderPath& path) {
   // Some hosts find a name without regard to case, and then do not tell their own.
   const auto told = [&] {
     FolderNames& names = namesOf(*found.parent, path, last);
-    if (const auto name = names.shortName(found.name)) return name;
-    const auto own = names.find(path.parts[last]);
-    return own ? names.shortName(*own) : std::nullopt;
+    if (names.has(found.name)) return names.shortName(*found.parent, found.name);
+    const auto own = names.find(*found.parent, path.parts[last]);
+    return own ? names.shortName(*found.parent, *own) : std::nullopt;
   };
-  if (const auto name = told()) return *name;
-  names_.clear();  // it came later
-  return told().value_or(path.parts[last]);
+  return told().value_or(toldNameFromUtf8(found.name));
 }
 
 FolderPath FolderDisk::pathOf(const Place& place) const {

@@ -13,13 +13,15 @@
 #include "platform/folder/FolderPath.h"
 #include "platform/folder/PcFacts.h"
 #include "platform/host/HostDir.h"
+#include "platform/host/WatchedDir.h"
 
 namespace zub {
 
 class FolderDisk {
  public:
-  // Both outlive the disk.
-  FolderDisk(DriveFolders& folders, const PcFacts& facts) : folders_(folders), facts_(facts) {}
+  // All outlive the disk.
+  FolderDisk(DriveFolders& folders, const PcFacts& facts, HostFailures& failures)
+      : folders_(folders), facts_(facts), failures_(failures) {}
 
   // Where a path leads. The pointer is good until the next call on the disk.
   struct Place {
@@ -35,7 +37,8 @@ class FolderDisk {
   FolderPath pathOf(const Place& place) const;
   // The folder that a path names; fails in the same way, for the last part too. Good until the next call.
   HostDir& folder(const FolderPath& path) { return walk(path, path.parts.size()); }
-  // The 8.3 name of what a path leads to, without its folder. RuntimeError 53 where it is missing.
+  // The 8.3 name of what a path leads to, without its folder: the name itself where the disk keeps no other.
+  // RuntimeError 53 where it is missing.
   std::string shortName(const FolderPath& path);
   // Forgets the handles and names. For those who change the disk in another way.
   void forget() {
@@ -64,10 +67,12 @@ class FolderDisk {
   // Those of the folder that the first parts of the path lead to.
   FolderNames& namesOf(HostDir& folder, const FolderPath& path, std::size_t parts);
   std::unique_ptr<HostDir> openDrive(char letter);
+  void tellNoShortName(std::string_view name);
   std::size_t sharedParts(const FolderPath& path, std::size_t parts) const;
 
   DriveFolders& folders_;
   const PcFacts& facts_;
+  HostFailures& failures_;
   std::vector<Open> open_;                    // the drive, then folder by folder
   std::map<std::string, FolderNames> names_;  // by FolderPath::key of the folder
 };

@@ -8,6 +8,7 @@
 #include "platform/folder/FolderChannel.h"
 #include "platform/folder/FolderSearch.h"
 #include "platform/folder/HostText.h"
+#include "platform/folder/ShortName.h"
 #include "platform/host/HostFailure.h"
 
 namespace zub {
@@ -121,9 +122,8 @@ std::unique_ptr<FileSearch> FolderFiles::find(std::string_view path) {
   const std::string_view folder = path.substr(0, behindFolder);
   const std::string_view pattern = path.substr(behindFolder);
   try {
-    // What may be an 8.3 name is found as in any path.
-    if (pattern.find('~') != std::string_view::npos && pattern.find_first_of("*?") == std::string_view::npos)
-      return findEntry(path);
+    // An 8.3 name is found as in any path.
+    if (isMadeShortName(pattern)) return findEntry(path);
     const FolderPath parts = folder.empty() ? facts_.current : parse(folder);
     std::unique_ptr<HostList> listing;
     check(disk_.folder(parts).list(listing));
@@ -318,9 +318,11 @@ std::string FolderFiles::shortPath(std::string_view path) {
     FolderPath walked{parts.drive, {}};
     for (const std::string& part : parts.parts) {
       walked.parts.push_back(part);
-      result.parts.push_back(disk_.shortName(walked));
+      const std::string name = disk_.shortName(walked);
+      const bool raised = facts_.family->raisesShortNames && isShortName(name);
+      result.parts.push_back(raised ? folded(name) : name);
     }
-    return facts_.family->raisesShortNames ? folded(result.text()) : result.text();
+    return result.text();
   } catch (const RuntimeError&) {
     return {};
   }

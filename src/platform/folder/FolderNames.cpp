@@ -1,5 +1,6 @@
 #include "platform/folder/FolderNames.h"
 
+#include <utility>
 #include <vector>
 
 #include "platform/folder/CodePage1252.h"
@@ -29,18 +30,22 @@ void FolderNames::holdFrom(Clock::time_point begin) {
   end_ = std::max(end_, now + std::max<Clock::duration>(Moment, (now - begin) * Listings));
 }
 
-std::optional<std::string> FolderNames::find(std::string_view name) {
+bool FolderNames::has(const std::string& hostName) const {
+  return names_.contains({folded(toldNameFromUtf8(hostName)), hostName});
+}
+
+std::optional<std::string> FolderNames::find(HostDir& folder, std::string_view name) {
   const std::string wanted = folded(name);
   const auto place = names_.lower_bound({wanted, std::string()});
   if (place != names_.end() && place->first == wanted) return place->second;
-  if (name.find('~') == std::string_view::npos) return std::nullopt;
-  findShortNames();
+  if (!isMadeShortName(name)) return std::nullopt;
+  askShortNames(folder);
   const auto found = byShort_.find(wanted);
   return found == byShort_.end() ? std::nullopt : std::optional(found->second);
 }
 
-std::optional<std::string> FolderNames::shortName(const std::string& hostName) {
-  findShortNames();
+std::optional<std::string> FolderNames::shortName(HostDir& folder, const std::string& hostName) {
+  askShortNames(folder);
   const auto found = shorts_.find(hostName);
   return found == shorts_.end() ? std::nullopt : std::optional(found->second);
 }
@@ -53,17 +58,15 @@ void FolderNames::drop(const std::string& hostName) {
   shorts_.erase(found);
 }
 
-void FolderNames::findShortNames() {
-  if (!shorts_.empty()) return;
+void FolderNames::askShortNames(HostDir& folder) {
+  if (std::exchange(shortsAsked_, true)) return;
   const Clock::time_point begin = Clock::now();
-  std::vector<std::string> names;
-  for (const auto& [key, hostName] : names_) names.push_back(toldNameFromUtf8(hostName));
-  const std::vector<std::string> shorts = shortNames(names);
-  std::size_t at = 0;
-  for (const auto& [key, hostName] : names_) {
-    byShort_.emplace(folded(shorts[at]), hostName);
-    shorts_.emplace(hostName, shorts[at]);
-    ++at;
+  std::vector<ShortName> names;
+  check(folder.shortNames(names));
+  for (const ShortName& entry : names) {
+    const std::string told = toldNameFromUtf8(entry.shortName);
+    byShort_.emplace(folded(told), entry.name);
+    shorts_.emplace(entry.name, told);
   }
   holdFrom(begin);
 }

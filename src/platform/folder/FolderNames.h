@@ -20,10 +20,11 @@ class FolderNames {
   explicit FolderNames(HostDir& folder);
 
   // The host's name of an entry that is not there as written: found without regard to case, the first in the
-  // host's order of bytes where there are several, else by its 8.3 name.
-  std::optional<std::string> find(std::string_view name);
-  // The 8.3 name of an entry, by its host's name; nothing where it came later.
-  std::optional<std::string> shortName(const std::string& hostName);
+  // host's order of bytes where there are several, else by the 8.3 name that the disk keeps.
+  std::optional<std::string> find(HostDir& folder, std::string_view name);
+  bool has(const std::string& hostName) const;
+  // The 8.3 name of an entry, by its host's name; nothing where the disk keeps none.
+  std::optional<std::string> shortName(HostDir& folder, const std::string& hostName);
   // The entry is gone.
   void drop(const std::string& hostName);
 
@@ -32,12 +33,13 @@ class FolderNames {
 
  private:
   using Clock = std::chrono::steady_clock;
-  void findShortNames();
+  void askShortNames(HostDir& folder);
   void holdFrom(Clock::time_point begin);  // of the work that it took
 
   std::set<std::pair<std::string, std::string>> names_;  // folded, on the host
-  std::map<std::string, std::string> byShort_;           // folded 8.3 name to the host's; made when asked for
+  std::map<std::string, std::string> byShort_;           // folded 8.3 name to the host's; of the disk
   std::map<std::string, std::string> shorts_;            // and the way back
+  bool shortsAsked_ = false;
   Clock::time_point end_;
 };
 

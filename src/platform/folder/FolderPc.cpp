@@ -61,7 +61,7 @@ FolderPc::FolderPc(Opened opened, const std::string& folder, std::string command
       rules_(rulesFor(tree_, facts_, user)),
       watched_(watched(*root_, failures_)),
       driveFolders_(*watched_, folder, facts_, failures_),
-      disk_(driveFolders_, facts_),
+      disk_(driveFolders_, facts_, failures_),
       registry(tree_, rules_),
       files(disk_, facts_),
       drives(disk_, facts_),

@@ -12,6 +12,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zub {
 
@@ -61,6 +62,12 @@ class HostList {
   virtual void complete(HostEntry&) {}
 };
 
+// An entry's 8.3 name.
+struct ShortName {
+  std::string name;
+  std::string shortName;
+};
+
 enum class HostOpen : std::uint8_t {
   Read,       // an existing file
   ReadWrite,  // an existing file, not truncated
@@ -90,6 +97,8 @@ class HostDir {
   virtual HostError openDir(const std::string& name, std::unique_ptr<HostDir>& child) = 0;
   virtual HostError list(std::unique_ptr<HostList>& listing) = 0;
   virtual HostError stat(const std::string& name, HostStat& result) = 0;  // of the link itself
+  // Those that the disk itself keeps for entries of this folder, where the host tells them: NTFS and FAT do.
+  virtual HostError shortNames(std::vector<ShortName>& names) = 0;
 
   // NotAFile for everything but a plain file; never waits. Other programs may read, write and delete the file
   // meanwhile; InUse where they do not allow that.

@@ -30,7 +30,7 @@ struct Watch {
   std::string path;
 
   HostError note(HostError error) const {
-    if (isFailure(error)) failures.add(path, error);
+    if (isFailure(error)) failures.add(path, reasonOf(error));
     return error;
   }
   Watch at(const std::string& name) const { return {failures, path.empty() ? name : path + '/' + name}; }
@@ -89,7 +89,8 @@ class WatchedDir : public HostDir {
   HostError openDir(const std::string& name, std::unique_ptr<HostDir>& child) override {
     std::unique_ptr<HostDir> opened;
     const HostError error = watch_.note(name, folder_.openDir(name, opened));
-    if (error == HostError::NotAFolder && isLink(name)) watch_.failures.addLink(watch_.at(name).path);
+    if (error == HostError::NotAFolder && isLink(name))
+      watch_.failures.add(watch_.at(name).path, "a link, which is not entered");
     if (error == HostError::None) child = std::make_unique<WatchedDir>(std::move(opened), watch_.at(name));
     return error;
   }
@@ -101,6 +102,9 @@ class WatchedDir : public HostDir {
   }
   HostError stat(const std::string& name, HostStat& result) override {
     return watch_.note(name, folder_.stat(name, result));
+  }
+  HostError shortNames(std::vector<ShortName>& names) override {
+    return watch_.note(folder_.shortNames(names));
   }
   HostError openFile(const std::string& name, HostOpen mode, std::unique_ptr<HostFile>& file) override {
     std::unique_ptr<HostFile> opened;
@@ -136,19 +140,11 @@ class WatchedDir : public HostDir {
 
 }  // namespace
 
-void HostFailures::add(const std::string& path, HostError error) {
-  add(path + ": " + reasonOf(error));
-}
-
-void HostFailures::addLink(const std::string& path) {
-  add(path + ": a link, which is not entered");
-}
-
-void HostFailures::add(std::string text) {
+void HostFailures::add(const std::string& path, std::string_view reason) {
   if (texts_.size() == MostTexts) {
     ++more_;
   } else {
-    texts_.insert(std::move(text));
+    texts_.insert(path + ": " + std::string(reason));
   }
 }
 

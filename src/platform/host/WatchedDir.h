@@ -6,6 +6,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "platform/host/HostDir.h"
 
@@ -15,15 +16,12 @@ namespace zub {
 // Removals are not among it: their failures come back to whoever asked.
 class HostFailures {
  public:
-  void add(const std::string& path, HostError error);
-  void addLink(const std::string& path);  // one that stood on the way to something
+  void add(const std::string& path, std::string_view reason);
   // "C/WINDOWS/TEMP: Permission denied"
   const std::set<std::string>& texts() const { return texts_; }
   std::size_t more() const { return more_; }  // beyond those
 
  private:
-  void add(std::string text);
-
   std::set<std::string> texts_;
   std::size_t more_ = 0;
 };

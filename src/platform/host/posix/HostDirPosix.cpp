@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/host/HostDir.h"
+#include "platform/host/posix/DiskShortNames.h"
 
 namespace zub {
 namespace {
@@ -222,6 +223,10 @@ class PosixDir : public HostDir {
     found = statOf(host);
     if (found.kind == HostKind::Link) found.toFolder = leadsToFolder(handle_.get(), name.c_str());
     return HostError::None;
+  }
+
+  HostError shortNames(std::vector<ShortName>& names) override {
+    return result(diskShortNames(handle_.get(), names));
   }
 
   HostError openFile(const std::string& name, HostOpen mode, std::unique_ptr<HostFile>& file) override {

@@ -69,6 +69,7 @@ class HostDirNt : public HostDir {
   HostError openDir(const std::string& name, std::unique_ptr<HostDir>& child) override;
   HostError list(std::unique_ptr<HostList>& listing) override;
   HostError stat(const std::string& name, HostStat& result) override;
+  HostError shortNames(std::vector<ShortName>& names) override;
   HostError openFile(const std::string& name, HostOpen mode, std::unique_ptr<HostFile>& file) override;
   HostError removeFile(const std::string& name) override;
   HostError mayRemove(const std::string& name) override;
@@ -152,6 +153,12 @@ HostError HostDirNt::list(std::unique_ptr<HostList>& listing) {
   const NTSTATUS status = open("", FolderRights, FILE_OPEN, FILE_DIRECTORY_FILE | Itself, folder);
   if (status >= 0) listing = std::make_unique<HostListNt>(std::move(folder));
   return hostError(status);
+}
+
+HostError HostDirNt::shortNames(std::vector<ShortName>& names) {
+  NtHandle folder;
+  const NTSTATUS status = open("", FolderRights, FILE_OPEN, FILE_DIRECTORY_FILE | Itself, folder);
+  return status < 0 ? hostError(status) : listShortNames(folder, names);
 }
 
 HostError HostDirNt::stat(const std::string& name, HostStat& result) {

@@ -53,4 +53,26 @@ bool HostListNt::next(HostEntry& entry) {
   return false;
 }
 
+HostError listShortNames(const NtHandle& folder, std::vector<ShortName>& names) {
+  std::vector<ULONGLONG> buffer(ManyEntries);
+  for (;;) {
+    IO_STATUS_BLOCK io;
+    const NTSTATUS status = nt().queryDirectory(folder.get(), nullptr, nullptr, nullptr, &io, buffer.data(),
+                                                static_cast<ULONG>(buffer.size() * sizeof(ULONGLONG)),
+                                                FileBothDirectoryInformation, FALSE, nullptr, FALSE);
+    if (status == STATUS_NO_MORE_FILES || (status >= 0 && io.Information == 0)) return HostError::None;
+    if (status < 0) return hostError(status);
+    const char* place = reinterpret_cast<const char*>(buffer.data());
+    for (ULONG step = 1; step != 0; place += step) {
+      const auto& record = *reinterpret_cast<const FILE_BOTH_DIR_INFORMATION*>(place);
+      step = record.NextEntryOffset;
+      if (record.ShortNameLength == 0) continue;
+      ShortName& entry = names.emplace_back();
+      setName(entry.name, record.FileName, record.FileNameLength / sizeof(wchar_t));
+      setName(entry.shortName, record.ShortName,
+              static_cast<std::size_t>(record.ShortNameLength) / sizeof(wchar_t));
+    }
+  }
+}
+
 }  // namespace zub

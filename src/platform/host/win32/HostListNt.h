@@ -11,6 +11,9 @@ namespace zub {
 // What a system's record tells; `tag` is that of a reparse point.
 HostStat hostStat(ULONG attributes, ULONG tag, LARGE_INTEGER size);
 
+// Those of a folder's entries that differ from the long ones.
+HostError listShortNames(const NtHandle& folder, std::vector<ShortName>& names);
+
 class HostListNt : public HostList {
  public:
   // With a name, only what has it is told.
