@@ -94,10 +94,9 @@ void Delete::listFolder(const std::string& folder, std::string_view strPattern,
 
 // What is in a folder that cannot be listed stays.
 void Delete::countUnread(std::string_view folder, const RuntimeError& failure) {
-  ++engine_.leftBehind;
   const bool link = isFolderLink(engine_.pc.files->attributes(folder));
-  engine_.unread.push_back(
-      joined({folder, ": ", link ? "a link, which is not entered" : failure.description()}));
+  const std::string why = link ? "a link, which is not entered" : failure.description();
+  engine_.leftBehind.push_back({std::string(folder), why, true});
 }
 
 void Delete::DeleteFilesInFolder(std::string_view strPath, std::string_view strPattern) {
@@ -126,8 +125,8 @@ void Delete::MakeDir(std::string_view strPath) {
 void Delete::RemoveFolderTree(std::string_view strPath) {
   try {
     if (FolderPresent(strPath)) engine_.pc.files->deleteFolder(strPath);
-  } catch (const RuntimeError&) {
-    ++engine_.leftBehind;
+  } catch (const RuntimeError& failure) {
+    engine_.leftBehind.push_back({std::string(strPath), failure.description()});
   }
 }
 
@@ -159,7 +158,9 @@ void Delete::reportFailure(std::string_view strFileName, int nSpecial, const Run
   engine_.animated->state.Timer.Enabled = false;
   if (error == ErrorNumber::FileNotFound) return;  // leaves the animation standing
 
-  if (error != ErrorNumber::Overflow) ++engine_.leftBehind;  // the sum overflowed: the file itself is gone
+  if (error != ErrorNumber::Overflow) {  // the sum overflowed: the file itself is gone
+    engine_.leftBehind.push_back({std::string(strFileName), failure.description()});
+  }
   const bool denied = error == ErrorNumber::PermissionDenied;
   const bool accessError = error == ErrorNumber::PathFileAccess;
   UserFunctions& user = engine_.userFunctions;

@@ -131,7 +131,7 @@ TEST_CASE("a wash of everything removes each trace, and nothing that lies beside
     CHECK(shown.lblRemove.Caption == "Total amount of space restored: " + std::to_string(files) + " Bytes");
     CHECK(shown.lblTasksTotal.Caption == "11");
     CHECK(shown.lblCompleted.Caption == "13");  // the two standard plugins count here alone
-    CHECK(pc.program->engine.leftBehind == 0);
+    CHECK(pc.program->engine.leftBehind.size() == 0);
     CHECK(pc.pc.messages.empty());
 
     pc.progress()->cmdFinish_Click();

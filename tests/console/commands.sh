@@ -39,6 +39,13 @@ echo old >"$pc/C/WINDOWS/TEMP/old.tmp"
 run 0 --pc "$pc" start /STARTUP
 here "$pc/C/WINDOWS/TEMP/old.tmp"
 run 0 --pc "$pc" set chkRunStarted=1
+run 0 --pc "$pc" get CHKloadstartup
+says 1
+run 0 --pc "$pc" get passes
+says 9
+run 0 --pc "$pc" set PASSES=2
+run 0 --pc "$pc" options
+for line in passes=2 cmbShredder=1 "    how often files are overwritten (1 to 9)"; do says "$line"; done
 run 0 --pc "$pc" start /STARTUP
 gone "$pc/C/WINDOWS/TEMP/old.tmp"
 says "	Deleting file old.tmp"
@@ -56,7 +63,10 @@ nowhere: is no folder that can be opened|--pc "$work/nowhere" wash
 empty: is no PC|--pc "$work/empty" wash
 is not empty|new "$pc"
 nowhere/: is no folder that can be opened|new "$work/nowhere/pc"
-there is no setting "chkPolish"|--pc "$pc" set chkPolish=1
+there is no setting "chkBleech": did you mean "chkBleach"?|--pc "$pc" set chkBleech=1
+"passes" takes 1 to 9, not "0"|--pc "$pc" set passes=0
+there is no task "tmp": did you mean "temp"?|--pc "$pc" wash --only recycle,tmp
+there is no plugin "Café"|--pc "$pc" wash --plugin Café
 "chkBleach" takes 0 to 1, not "2"|--pc "$pc" set chkBleach=2
 "ComboInterval" takes 0 to 2, not "10"|--pc "$pc" set ComboInterval=10
 there is no setting "chkPolish"|--pc "$pc" set chkBleach=1 chkPolish=1
@@ -65,6 +75,29 @@ C:\polish.zb1: File not found|--pc "$pc" plugin check C:\\polish.zb1
 there is no dated wash 1x|--pc "$pc" schedule remove 1x
 END
 gone "$work/nowhere"
+
+# A wash of one task and one plugin leaves the ticks and all else as they are; the report goes to a file, too.
+printf '\n[%s]\n"File1"="x"\n' 'HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Applets\Paint\Recent File List' \
+  'HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU' >>"$pc/registry.reg"
+run 0 --pc "$pc" set chkRunHistory=1 "ZUBStandardPlugin Windows Paint=0" chkSkipPlugins=1
+run 0 --pc "$pc" options
+cp "$work/out" "$work/options"
+touch "$pc/C/WINDOWS/TEMP/old.tmp" "$pc/C/FILE0000.CHK"
+run 0 --pc "$pc" preview --only scandisk --plugin "Windows Paint"
+says "Would go: 1 file of 0 bytes, 0 folders, 0 registry keys, 1 value"
+run 0 --pc "$pc" wash --only scandisk --plugin "Windows Paint" --quiet --report "$work/report"
+silent out
+check "the report is not in the file" grep -Fq "Deleting file FILE0000.CHK" "$work/report"
+gone "$pc/C/FILE0000.CHK"
+here "$pc/C/WINDOWS/TEMP/old.tmp"
+check "the plugin did not run, or a task" [ "$(registry "$pc" | grep -cE 'Paint.*-> File1|RunMRU -> File1')" -eq 1 ]
+run 0 --pc "$pc" options
+check "the ticks are others" diff <(grep -v '^lblLast' "$work/options") <(grep -v '^lblLast' "$work/out")
+run 2 --pc "$pc" wash --report "$work/nowhere/report"
+tells "its folder cannot be opened"
+gone "$pc/C/WINDOWS/TEMP/old.tmp"
+run 0 --pc "$pc" schedule
+portrait "$pc" >"$work/before"
 
 # While another program is at work, every command that changes the PC is to be tried again later; others work.
 exec 9<"$pc"

@@ -9,7 +9,22 @@
 namespace zub {
 namespace {
 
+constexpr CommandOption Only{"--only", "TASK,...",
+                             "just these tasks, ticked or not: documents, find, run, temp, scandisk, "
+                             "recycle, office, media, netscape, ie, and "
+                             "plugins for those that are ticked. The ticks stay as they are"};
+constexpr CommandOption Plugin{"--plugin", "NAME",
+                               "just this plugin, ticked or not; beside other --plugin and --only"};
+constexpr CommandOption washOptions[] = {
+    Only,
+    Plugin,
+    {"--yes", "", "do not ask; needed on the PC that it runs on where nobody can be asked"},
+    {"--quiet", "", "say nothing but what stays behind"},
+    {"--report", "FILE", "write the report to this file of this machine, too"},
+};
 constexpr CommandOption previewOptions[] = {
+    Only,
+    Plugin,
     {"--list", "", "each thing on a line: its kind, a tab, its path, for a value a tab and its name"},
 };
 constexpr CommandOption changesOptions[] = {
@@ -21,22 +36,26 @@ constexpr std::array commandTable{
     Command{"wash", "",
             "Removes what is ticked, and tells it. The program is started, \"Start Cleaning\" and \"Finish\" are pressed, and "
             "the program ends. A wash that is interrupted stops behind the file at which it is, and saves and tells what it did.",
-            "--pc /mnt/disk wash",
-            {}, nullptr, washCommand},
+            "--pc /mnt/disk wash --only temp,recycle --plugin ACDSee",
+            washOptions, checkWash, washCommand},
     Command{"preview", "",
             "Tells what a wash would remove now, and removes nothing.",
             "--pc /mnt/disk preview --list",
-            previewOptions, nullptr, previewCommand},
+            previewOptions, checkPreview, previewCommand},
     Command{"start", "[/STARTUP] [/SCHEDULER]",
             "Starts the program with these switches, to the end of its washes.",
             "--pc /mnt/disk start /STARTUP",
             {}, checkStart, startCommand},
     Command{"options", "",
-            "Lists what the settings store keeps.",
+            "Lists what the settings store keeps, what each setting does and which values it takes.",
             "--pc /mnt/disk options",
             {}, nullptr, optionsCommand},
+    Command{"get", "NAME",
+            "Tells the value of one setting.",
+            "--pc /mnt/disk get passes",
+            {}, checkGet, getCommand},
     Command{"set", "NAME=VALUE...",
-            "Changes settings, by the names that \"options\" lists.",
+            "Changes settings, by the names that \"options\" lists, as the window does. Case does not count.",
             "--pc /mnt/disk set chkBleach=1 \"ZUBStandardPlugin WinRAR (all versions)=1\"",
             {}, checkSet, setCommand},
     Command{"plugins", "",

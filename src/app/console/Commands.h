@@ -91,6 +91,7 @@ int runCommand(CommandContext& context, int (*command)(CommandContext& context))
 int rowNumber(std::string_view word);
 
 void checkStart(const Given& given);
+void checkGet(const Given& given);
 void checkSet(const Given& given);
 void checkPluginShow(const Given& given);
 void checkPluginCheck(const Given& given);
@@ -100,12 +101,15 @@ void checkScheduleAdd(const Given& given);
 void checkScheduleRemove(const Given& given);
 void checkNew(const Given& given);
 void checkHelp(const Given& given);
+void checkWash(const Given& given);
+void checkPreview(const Given& given);
 void checkChanges(const Given& given);
 
 int washCommand(CommandContext& context);
 int previewCommand(CommandContext& context);
 int startCommand(CommandContext& context);
 int optionsCommand(CommandContext& context);
+int getCommand(CommandContext& context);
 int setCommand(CommandContext& context);
 int pluginsCommand(CommandContext& context);
 int pluginShowCommand(CommandContext& context);

@@ -23,6 +23,7 @@ class ConsoleLoop : public EventLoop, public Messages {
   void detach();  // before the program goes
   void DoEvents() override;
   void show(std::string_view prompt, int style, std::string_view title) override;
+  void showNoProgress() { terminal_ = false; }
   // Whether it ended a wash before its end.
   bool interrupted() const { return interrupted_; }
   // A line of standard error behind the program's name. The text is UTF-8.
