@@ -141,6 +141,29 @@ TEST_CASE("a wash of everything removes each trace, and nothing that lies beside
   }
 }
 
+TEST_CASE("of the files that others hold only the browser's indexes are left for the next start") {
+  WholePc pc;
+  pc.chooseAll();
+  Lines held{"C:\\WINDOWS\\Cookies\\me@a.txt", "C:\\WINDOWS\\CacheContent.IE5\\index.dat",
+             "C:\\WINDOWS\\HistoryHistory.IE5\\index.dat"};
+  const std::string atStart = held[1] + ";" + held[2] + ";";
+  std::ranges::copy_if(traces, std::back_inserter(held), [](const auto& path) { return !isKey(path); });
+  pc.plant(held);
+  for (const std::string& path : held) pc.pc.lock(path);
+  for (CheckOption Options::*option : {&Options::chkIECookies, &Options::chkIEIndex}) {
+    (pc.options().*option).Value(1);
+  }
+  pc.main().cmdRemove_Click();
+  CHECK(pc.program->engine.leftBehind == static_cast<int>(held.size()));
+  std::string left;
+  std::istringstream report(pc.program->engine.clean.txtResult);
+  constexpr std::string_view told = "\tDelete locked file: The file ";
+  for (std::string line; std::getline(report, line);) {
+    if (line.starts_with(told)) left += line.substr(told.size(), line.find(" you are") - told.size()) + ";";
+  }
+  CHECK(left == atStart);
+}
+
 TEST_CASE("after a wash that empties keys the Office values take their whole keys, until the process ends") {
   WholePc pc;
   const std::string data = User + "Microsoft\\Office\\9.0\\Excel\\Data";

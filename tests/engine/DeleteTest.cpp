@@ -33,12 +33,18 @@ TEST_CASE("a walk lists the folders of a level before its files, and parents bef
   WashFixture pc;
   for (const char* path : {"C:\\T\\1", "C:\\T\\a\\2", "C:\\T\\a\\b\\3"}) pc.pc.file(path);
   Delete& worker = *pc.engine.deleter;
+  pc.pc.onDoEvents = [&](int) {
+    CHECK(worker.mousePointer == MousePointer::Hourglass);
+    CHECK(pc.progress().form.mousePointer == MousePointer::Hourglass);
+  };
   for (const char* start : {"C:\\T", "C:\\T\\"}) {
     worker.DeleteSubDir(start, "*.*");
     CHECK(worker.DelDirList == Texts{"C:\\T\\a", "C:\\T\\a\\b"});
     CHECK(worker.DelFileList == Texts{"C:\\T\\1", "C:\\T\\a\\2", "C:\\T\\a\\b\\3"});
   }
+  pc.pc.onDoEvents = {};
   CHECK(worker.mousePointer == MousePointer::Default);
+  CHECK(pc.progress().form.mousePointer == MousePointer::Default);
   CHECK(pc.pc.turns >= 6);  // one for each file of both walks
 
   pc.pc.folder("C:\\T\\z");

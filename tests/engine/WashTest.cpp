@@ -113,6 +113,9 @@ TEST_CASE("a wash with nothing selected writes its two headings, its time and th
   CHECK(pc.takeReport() == "Zubrone\r\n\r\nLog file generated at 10:20:30 AM on 9/14/2001\r\n\r\n");
   CHECK(pc.progress().StatusBar1[1] == "Number of tasks competed: 0");
   CHECK(pc.progress().lblRemove.Caption == "Total amount of space restored: 100 Bytes");
+  for (Image frmAnimated::State::*image : {&frmAnimated::State::Image13, &frmAnimated::State::Image14}) {
+    CHECK((pc.progress().*image).picture == Picture::OpenMark);
+  }
   CHECK(pc.options.lblLastRemoval.Caption == "Last removal on 9/14/2001 at 10:20:30 AM");
   CHECK(pc.progress().form.Visible);
   CHECK_FALSE(pc.progress().CloseWindowTimer.Enabled);  // it waits for the user

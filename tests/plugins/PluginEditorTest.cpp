@@ -255,11 +255,15 @@ TEST_CASE("a click on a file row fills the boxes") {
     editor.save(row, "", "");
     editor.form.ShowPlugin("P");
     editor.state.txtPathFF.Text = editor.state.txtFileName.Text = "old";
+    const bool pattern = contains(boxes, "|P|");
+    const bool turned = boxes != std::string_view(untouched) && !trim(row).empty();
+    if (turned && pattern) editor.form.optFileName_Click();
+    if (turned && !pattern) editor.form.optFilePattern_Click();
     editor.state.lstFileFolder.ListIndex(0);
     CHECK(editor.fileBoxes() == boxes);
     CHECK(editor.state.txtFilePattern.Enabled == editor.state.optFilePattern.Value);
     CHECK(editor.state.txtFileName.Enabled == editor.state.optFileName.Value);
-    if (std::string(boxes) == untouched || trim(row).empty()) continue;
+    if (!turned) continue;
     CHECK(editor.state.chkSubfolders.Enabled == editor.state.optFilePattern.Value);
     CHECK(editor.state.cmdBrowseFile.Enabled == editor.state.optFileName.Value);
   }

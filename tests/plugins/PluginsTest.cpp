@@ -64,5 +64,9 @@ TEST_CASE("removing takes the three files of the current row as a wash does, or 
     CHECK(beyond(wash.pc.diffSince(before), {name + "1", name + "2", name + "3"}) == "");
     CHECK_FALSE(wash.pc.hasFile(name + "3"));
     CHECK(wash.engine.TotalBytes == (current == "a" ? 3 : 1));
+    wash.pc.lock(Folder + "\\b.zb1");
+    wash.options.lstFiles.ListIndex(current == "a" ? 0 : 1);
+    plugins.RemovePlugin();  // what others hold is not left for the next start
+    CHECK_FALSE(wash.pc.hasFile("C:\\WINDOWS\\wininit.ini"));
   }
 }

@@ -9,7 +9,6 @@ using namespace zub;
 namespace {
 
 const std::string Store = "HKEY_CURRENT_USER\\Software\\ZUB";
-using Texts = std::vector<std::string>;
 
 std::string padded(std::string text, std::size_t length) {
   text.resize(length, '\0');
@@ -32,54 +31,33 @@ struct Settings {
   std::string stored(std::string_view name) { return pc.data(Store, name).value_or("none"); }
 };
 
-const Texts icons = {"chkIE",       "chkWMP",        "chkOfficeMRU",  "chkRecycleBin", "chkScanDisk",
-                     "chkNetscape", "chkRunHistory", "chkDocHistory", "chkTempFolder", "chkFindHistory"};
-struct Flag {
-  const char* name;
-  CheckOption Options::*option;
-};
-const std::vector<Flag> flags = {{"chkIECache", &Options::chkIECache},
-                                 {"chkIECookies", &Options::chkIECookies},
-                                 {"chkIEPrograms", &Options::chkIEProgram},
-                                 {"chkIEIndex", &Options::chkIEIndex},
-                                 {"chkIEAutocomplete", &Options::chkIEAutocomplete},
-                                 {"chkNSCache", &Options::chkNSCache},
-                                 {"chkNSCookie", &Options::chkNSCookies},
-                                 {"chkNSMail", &Options::chkNSMail},
-                                 {"chkNSHistory", &Options::chkNSHistory},
-                                 {"chkLoadStartup", &Options::chkLoadStartUp},
-                                 {"chkCloseAfterWash", &Options::chkCloseAfterWash},
-                                 {"chkBleach", &Options::chkBleach},
-                                 {"chkSkipPlugins", &Options::chkSkipPlugins},
-                                 {"chkSkipMessages", &Options::chkSkipMessages},
-                                 {"chkRunStarted", &Options::chkRunStarted},
-                                 {"chkRunShutDown", &Options::chkRunShutDown},
-                                 {"chkRunAuto", &Options::chkRunAuto}};
-
 }  // namespace
 
+// The names are approved with the help texts.
 TEST_CASE("every option is kept under its own name and comes back from it") {
   // One option on at a time, so that no two can be exchanged.
-  for (std::size_t on = 0; on < icons.size() + flags.size(); ++on) {
+  for (std::size_t on = 0; on < iconNames.size() + flagNames.size(); ++on) {
     Settings pc;
-    const bool isIcon = on < icons.size();
-    const std::string name = isIcon ? icons[on] : flags[on - icons.size()].name;
+    const bool isIcon = on < iconNames.size();
+    const std::string_view name = isIcon ? iconNames[on] : flagNames[on - iconNames.size()].stored;
     CAPTURE(name);
     if (isIcon) {
       pc.options.LstIcons.Check(static_cast<int>(on), 1);
     } else {
-      (pc.options.*flags[on - icons.size()].option).Value(1);
+      (pc.options.*flagNames[on - iconNames.size()].option).Value(1);
     }
     CHECK(pc.put() == 0);
-    for (const std::string& icon : icons) CHECK(pc.stored(icon) == (icon == name ? On : Off));
-    for (const Flag& flag : flags) CHECK(pc.stored(flag.name) == (flag.name == name ? On : Off));
+    for (const std::string_view icon : iconNames) CHECK(pc.stored(icon) == (icon == name ? On : Off));
+    for (const FlagName& flag : flagNames) CHECK(pc.stored(flag.stored) == (flag.stored == name ? On : Off));
 
     Options fresh;
     CHECK(INIFile(pc.pc.platform(), fresh).GetInfo() == 0);
-    for (std::size_t row = 0; row < icons.size(); ++row) {
+    for (std::size_t row = 0; row < iconNames.size(); ++row) {
       CHECK(fresh.LstIcons.Check(static_cast<int>(row)) == (row == on ? 1 : 0));
     }
-    for (const Flag& flag : flags) CHECK((fresh.*flag.option).Value() == (flag.name == name ? 1 : 0));
+    for (const FlagName& flag : flagNames) {
+      CHECK((fresh.*flag.option).Value() == (flag.stored == name ? 1 : 0));
+    }
   }
 }
 
@@ -108,7 +86,7 @@ TEST_CASE("texts, digits and plugin rows are written byte for byte and read back
                       {"ZUBPlugin Custom two", Off},
                       {"ZUBStandardPlugin Adobe Photoshop 6.x", On}};
     for (const auto& [name, bytes] : rows) CHECK(pc.stored(name) == bytes);
-    CHECK(pc.pc.valueNames(Store).size() == icons.size() + flags.size() + std::size(rows));
+    CHECK(pc.pc.valueNames(Store).size() == iconNames.size() + flagNames.size() + std::size(rows));
     CHECK(contains(pc.pc.snapshot(), "\"chkBleach\" = 1:0%00"));  // of the text type
     CHECK(pc.get() == 0);
     CHECK(pc.options.lblLastRemoval.Caption == "padded");
@@ -181,14 +159,14 @@ TEST_CASE("a read runs the handlers of all options in their order, and stores wh
   pc.options.cmbShredder.ListIndex(4);
   std::string ran;
   std::string expected;
-  for (const Flag& flag : flags) {
+  for (const FlagName& flag : flagNames) {
     CheckOption& option = pc.options.*flag.option;
     const bool on = flag.option == &Options::chkIECache || flag.option == &Options::chkRunAuto;
     option.Value(on ? 0 : 1);
     option.Click = [&ran, &option, flag] {
-      ran.append(flag.name).append(option.Value() == 1 ? " on " : " off ");
+      ran.append(flag.stored).append(option.Value() == 1 ? " on " : " off ");
     };
-    expected.append(flag.name).append(on ? " on " : " off ");
+    expected.append(flag.stored).append(on ? " on " : " off ");
   }
   pc.options.cmbShredder.Click = [&] { ran += "cmbShredder "; };
   pc.options.ComboInterval.Click = [&] { ran += "ComboInterval "; };
@@ -198,7 +176,7 @@ TEST_CASE("a read runs the handlers of all options in their order, and stores wh
   CHECK(pc.options.LstIcons.Check(3) == 0);
   CHECK(pc.options.cmbShredder.Text() == "1");
   CHECK(pc.options.ComboInterval.Text() == "Every Hour");
-  CHECK(pc.pc.valueNames(Store).size() == icons.size() + flags.size() + 3);
+  CHECK(pc.pc.valueNames(Store).size() == iconNames.size() + flagNames.size() + 3);
   CHECK(pc.stored("lblLastRemoval") == padded("", 2));
   CHECK(pc.stored("cmbShredder") == Off);
 }

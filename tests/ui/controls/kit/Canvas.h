@@ -27,6 +27,7 @@ class Canvas {
     return canvas;
   }
 
+  bool operator==(const Canvas&) const = default;
   int width() const { return width_; }
   int height() const { return height_; }
   Surface surface() { return Surface(pixels_.data(), width_, height_); }

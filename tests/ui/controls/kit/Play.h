@@ -35,7 +35,11 @@ struct Stage {
     for (const Step& step : steps) {
       CAPTURE(step.what);
       log.clear();
+      const Canvas before = Canvas::of(control);
+      const unsigned revision = control.revision();
       step.act(desk, control);
+      const bool painted = control.revision() != revision;
+      CHECK((painted || Canvas::of(control) == before));
       CHECK(log == step.raised);
       CHECK(look() == step.look);
       CHECK(control.timer().Enabled == step.tracking);
