@@ -154,7 +154,7 @@ TEST_CASE("of the files that others hold only the browser's indexes are left for
     (pc.options().*option).Value(1);
   }
   pc.main().cmdRemove_Click();
-  CHECK(pc.program->engine.leftBehind == static_cast<int>(held.size()));
+  CHECK(pc.program->engine.leftBehind.size() == held.size());
   std::string left;
   std::istringstream report(pc.program->engine.clean.txtResult);
   constexpr std::string_view told = "\tDelete locked file: The file ";

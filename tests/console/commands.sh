@@ -10,6 +10,25 @@ for command in wash start options set plugins "plugin show" "plugin check" cooki
   check "the help lacks $command" grep -q "^  $command" "$work/out"
 done
 
+# What the shells complete, by the program's own words: a command, an option, a plugin with blanks in its name.
+"${program[@]}" completion bash >"$work/completion"
+while IFS='|' read -r line wanted; do
+  check "\"$line\" is not completed" grep -Fxq -e "$wanted" <(
+    # shellcheck disable=SC1091
+    . "$work/completion"
+    eval "COMP_WORDS=($line)"
+    COMP_CWORD=$((${#COMP_WORDS[@]} - 1)) COMPREPLY=()
+    _zub
+    printf '%s\n' "${COMPREPLY[@]}")
+done <<'END'
+zub --pc x sched|scheduler
+zub schedule a|add
+zub wash --on|--only
+zub wash --plugin 'windows\ p'|Windows\ Paint
+zub plugin show Windows\ Pai|Windows\ Paint
+END
+run 0 manual
+check "the manual page lacks a command" [ "$(grep -c '^Example:' "$work/out")" -eq "$("${program[@]}" help | sed -n '/^Commands:/,/^$/p' | grep -c '^  [a-z]')" ]
 run 0 new "$pc"
 here "$pc/C/WINDOWS/TEMP"
 portrait "$pc" >"$work/new"

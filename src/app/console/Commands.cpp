@@ -108,6 +108,14 @@ constexpr std::array commandTable{
             "Tells all commands, or all of one.",
             "help wash",
             {}, checkHelp, nullptr, helpCommand},
+    Command{"completion", "bash|zsh",
+            "Writes what completes the command line in a shell.",
+            "completion bash",
+            {}, checkCompletion, nullptr, completionCommand},
+    Command{"manual", "",
+            "Writes the manual page.",
+            "manual",
+            {}, nullptr, nullptr, manualCommand},
 };
 // clang-format on
 

@@ -101,6 +101,7 @@ void checkScheduleAdd(const Given& given);
 void checkScheduleRemove(const Given& given);
 void checkNew(const Given& given);
 void checkHelp(const Given& given);
+void checkCompletion(const Given& given);
 void checkWash(const Given& given);
 void checkPreview(const Given& given);
 void checkChanges(const Given& given);
@@ -123,5 +124,7 @@ int scheduleRemoveCommand(CommandContext& context);
 int schedulerCommand(CommandContext& context);
 int newCommand(const Given& given, const std::string& program);
 int helpCommand(const Given& given, const std::string& program);
+int completionCommand(const Given& given, const std::string& program);
+int manualCommand(const Given& given, const std::string& program);
 
 }  // namespace zub
