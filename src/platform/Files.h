@@ -90,10 +90,12 @@ class FileChannel {
 };
 
 enum class Removal : std::uint8_t {
-  File,          // which nobody else has open
+  File,
   EvenReadOnly,  // a file as it goes with its folder
   EmptyFolder,   // what it holds is left aside
 };
+
+enum class ReadOnlyBit : std::uint8_t { Counts, Ignored };
 
 class Files {
  public:
@@ -112,8 +114,9 @@ class Files {
   virtual void resetAttributes(std::string_view path) = 0;
 
   virtual std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) = 0;
-  // The same as opening for Binary, taking the length and closing, but does not make a missing file: 53.
-  virtual std::int64_t openedLength(std::string_view path) = 0;
+  // The same as opening for Binary, taking the length and closing, but does not make a missing file: 53. With the bit
+  // ignored, as if the file were not read-only; the system tells no more then than that the bit could be cleared.
+  virtual std::int64_t openedLength(std::string_view path, ReadOnlyBit bit = ReadOnlyBit::Counts) = 0;
   // Whether a file or folder could be removed now: fails as its removal would, and changes nothing. A file's length.
   virtual std::int64_t removable(std::string_view path, Removal how) = 0;
   virtual void remove(std::string_view path) = 0;

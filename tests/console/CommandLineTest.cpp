@@ -62,6 +62,10 @@ TEST_CASE("the command line") {
       {"cookies help", "cookies?"},
       {"help plugin check", "help in  <plugin> <check>"},
 
+      {"import --help", "import?"},
+      {"import --registry a b --user x pc", "import in  <--registry> <a> <b> <--user> <x> <pc>"},
+      {"import a", "import: import takes --registry EXPORT... and the folder to make"},
+
       {"", "no command is given"},
       {"--user x wash", "wash: --user takes a name, with --pc FOLDER"},
       {"--pc", "--pc takes a folder"},

@@ -51,6 +51,7 @@ struct TimedPc : ConsolePc {
   std::vector<std::string> failures() const override { return {}; }
   std::vector<std::string> oddities() override { return {}; }
   void needWashable() override {}
+  void needWritable() override {}
   std::string folder() const override { return path; }
   std::string user() const override { return {}; }
   std::string utf8(std::string_view text) const override { return std::string(text); }

@@ -16,6 +16,7 @@
 //   void wide(name, folder);                an entry of the scratch folder whose name is any UTF-16
 //   bool hasWide(name);                     whether it is there, under exactly this name
 //   void wideKey(name);                     the same for a key below key()
+//   std::string times(path);                when a file or folder was made and written, as far as this PC tells
 //   bool followsLinks();                    a path may go through a link
 //   bool keepsShortNames();                 its disk has an 8.3 name for a long one
 //   bool deviates(name);                    this PC breaks the contract in a way that is listed by this name
@@ -49,6 +50,7 @@ class FolderContractPc : public TestPc {
   void wide(std::u16string_view name, bool folder);
   bool hasWide(std::u16string_view name) const;
   void wideKey(std::u16string_view name);
+  std::string times(const std::string& path) const;
   bool followsLinks() const { return false; }
   bool keepsShortNames() const;
   bool deviates(std::string_view) const { return false; }
@@ -64,7 +66,8 @@ struct FolderPcNt : FolderContractPc {
 using Pretending9x = Pretending<FolderPc9x>;
 using PretendingNt = Pretending<FolderPcNt>;
 #ifdef _WIN32
-#define CONTRACT_PCS FolderPc9x, FolderPcNt, Win32ContractPc, Pretending9x, PretendingNt
+using PretendingWin32 = Pretending<Win32ContractPc>;
+#define CONTRACT_PCS FolderPc9x, FolderPcNt, Win32ContractPc, Pretending9x, PretendingNt, PretendingWin32
 #else
 #define CONTRACT_PCS FolderPc9x, FolderPcNt, Pretending9x, PretendingNt
 #endif

@@ -222,6 +222,12 @@ TEST_CASE_TEMPLATE("files: what others hold open can be read as they share it, a
     pc.unlock(path);
     CHECK(pc.bytes(path) == "theirs");
   }
+  // Nor by clearing its attributes.
+  pc.hide(path);
+  files.resetAttributes(path);
+  CHECK(pc.hold(path, Sharing::Everything));
+  CHECK(failure([&] { files.openedLength(path); }) == 70);
+  pc.unlock(path);
   // What is being read can be read, written and removed by others.
   const auto reading = files.open(path, OpenMode::Input);
   CHECK(failure([&] { files.open(path, OpenMode::Input); }) == 0);

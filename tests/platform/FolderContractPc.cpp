@@ -1,4 +1,5 @@
 #include <cstdio>
+#include <filesystem>
 
 #include "platform/ContractPc.h"
 #include "platform/folder/CodePage1252.h"
@@ -11,20 +12,30 @@
 
 namespace zub {
 
-// C:\Scratch\name lies in the host's C/Scratch; the link's text is the target's place on the host.
+// C:\Scratch\name lies in the host's C/Scratch.
+static std::filesystem::path hostPath(const FolderContractPc& pc, const std::string& path) {
+  std::string text = utf8FromAnsi(path);
+  for (char& letter : text) {
+    if (letter == '\\') letter = '/';
+  }
+  text = pc.hostFolder() + '/' + text.front() + text.substr(2);
+  return std::u8string(text.begin(), text.end());
+}
+
+// The link's text is the target's place on the host.
 bool FolderContractPc::link([[maybe_unused]] const std::string& path,
                             [[maybe_unused]] const std::string& target) {
 #ifdef _WIN32
   return false;
 #else
-  const auto hostPath = [this](std::string name) {
-    for (char& letter : name) {
-      if (letter == '\\') letter = '/';
-    }
-    return hostFolder() + '/' + name.front() + name.substr(2);
-  };
-  return symlink(hostPath(target).c_str(), hostPath(path).c_str()) == 0;
+  return symlink(hostPath(*this, target).c_str(), hostPath(*this, path).c_str()) == 0;
 #endif
+}
+
+std::string FolderContractPc::times(const std::string& path) const {
+  std::error_code failure;
+  const auto written = std::filesystem::last_write_time(hostPath(*this, path), failure);
+  return failure ? "" : std::to_string(written.time_since_epoch().count());
 }
 
 bool FolderContractPc::keepsShortNames() const {

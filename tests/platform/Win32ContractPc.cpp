@@ -10,6 +10,7 @@
 #include "platform/WineDeviations.h"
 #include "platform/host/win32/LoadedCall.h"
 #include "platform/win32/ComPointer.h"
+#include "platform/win32/SystemPath.h"
 #include "platform/win32/Text.h"
 
 namespace zub {
@@ -44,15 +45,6 @@ void onHost(const std::string& command, const std::string& path, bool linkAfterw
   while (isLinkAt(path) != linkAfterwards && GetTickCount() - begin < 10000) SwitchToThread();
 }
 
-void deleteKeyTree(HKEY parent, const std::string& path) {
-  HKEY key = nullptr;
-  if (RegOpenKeyExA(parent, path.c_str(), 0, KEY_ALL_ACCESS, &key) != ERROR_SUCCESS) return;
-  char name[256];
-  while (RegEnumKeyA(key, 0, name, sizeof name) == ERROR_SUCCESS) deleteKeyTree(key, name);
-  RegCloseKey(key);
-  RegDeleteKeyA(parent, path.c_str());
-}
-
 void deleteTask(const std::string& name) {
   ComPointer<ITaskScheduler> service;
   if (SUCCEEDED(CoCreateInstance(CLSID_CTaskScheduler, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskScheduler,
@@ -70,7 +62,7 @@ Win32ContractPc::Win32ContractPc() {
   before_ = text;
   CreateDirectoryA(folder_.c_str(), nullptr);
   SetCurrentDirectoryA(folder_.c_str());
-  deleteKeyTree(HKEY_CURRENT_USER, key());
+  removeKey();
   deleteTask(task());
 }
 
@@ -83,8 +75,24 @@ Win32ContractPc::~Win32ContractPc() {
   } catch (const RuntimeError& error) {
     MESSAGE("the scratch folder stays: " << error.description());
   }
-  deleteKeyTree(HKEY_CURRENT_USER, key());
+  removeKey();
   deleteTask(task());
+}
+
+// By told names, which lead to every key.
+void Win32ContractPc::removeKey() {
+  Registry& registry = *platform().registry;
+  const auto removeTree = [&registry](const auto& self, RegistryKey parent, const std::string& path) -> bool {
+    RegistryKey opened = 0;
+    if (registry.open(parent, path, access::All, opened) != status::Success) return false;
+    char name[256];
+    std::uint32_t length = sizeof name;
+    while (registry.enumKey(opened, 0, name, length) == status::Success && self(self, opened, name))
+      length = sizeof name;
+    registry.close(opened);
+    return registry.deleteKey(parent, path) == status::Success;
+  };
+  removeTree(removeTree, registry.hive(Hive::CurrentUser), key());
 }
 
 void Win32ContractPc::file(const std::string& path, std::string_view bytes) {
@@ -163,6 +171,17 @@ void Win32ContractPc::wideKey(std::u16string_view name) {
   REQUIRE(RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &opened,
                           nullptr) == ERROR_SUCCESS);
   RegCloseKey(opened);
+}
+
+std::string Win32ContractPc::times(const std::string& path) const {
+  WIN32_FIND_DATAW found;
+  const HANDLE search = SystemPath(path).findItself(found);
+  if (search == INVALID_HANDLE_VALUE) return {};
+  FindClose(search);
+  std::string text;
+  for (const FILETIME& time : {found.ftCreationTime, found.ftLastWriteTime})
+    text += std::to_string(time.dwHighDateTime) + ':' + std::to_string(time.dwLowDateTime) + ' ';
+  return text;
 }
 
 bool Win32ContractPc::deviates(std::string_view name) const {

@@ -34,12 +34,14 @@ class Win32ContractPc {
   void wide(std::u16string_view name, bool folder);
   bool hasWide(std::u16string_view name) const;
   void wideKey(std::u16string_view name);
+  std::string times(const std::string& path) const;
   bool keepsShortNames() const { return true; }
   bool followsLinks() const { return true; }
   // Only Wine deviates, and only as its table says; a name that is not in the table is a fault of the test.
   bool deviates(std::string_view name) const;
 
  private:
+  void removeKey();
   void openAs(const std::string& path, unsigned long access, unsigned long sharing);
 
   struct NoEvents : EventLoop {

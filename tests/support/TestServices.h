@@ -164,10 +164,10 @@ class TestFiles : public Files {
     faults_.strike(Call::Open, path);
     return std::make_unique<TestChannel>(files_.open(path, mode), faults_, log_, path);
   }
-  std::int64_t openedLength(std::string_view path) override {
+  std::int64_t openedLength(std::string_view path, ReadOnlyBit bit) override {
     log_({"length of ", path});
     faults_.strike(Call::OpenedLength, path);
-    return files_.openedLength(path);
+    return files_.openedLength(path, bit);
   }
   std::int64_t removable(std::string_view path, Removal how) override {
     faults_.strike(Call::Remove, path);

@@ -9,6 +9,10 @@
 namespace zub {
 namespace {
 
+bool isHelp(std::string_view word) {
+  return word == "--help" || word == "-h";
+}
+
 // Words that are taken one by one. "--name VALUE" and "--name=VALUE" are the same; "--" ends the options.
 class Words {
  public:
@@ -59,7 +63,7 @@ std::vector<std::string> takeCommonOptions(CommandLine& line, const std::vector<
     } else if (word->text == "--user") {
       words.needValue(*word, "a name");
       line.user = *word->value;
-    } else if (word->text == "--help" || word->text == "-h") {
+    } else if (isHelp(word->text)) {
       line.help = true;
     } else {
       others.push_back(word->value ? word->text + "=" + *word->value : word->text);
@@ -135,6 +139,16 @@ void check(const Command& command, const Given& given) {
 CommandLine readCommandLine(const std::vector<std::string>& words) {
   CommandLine line;
   try {
+    const auto ordered = std::ranges::find_if(commands(), [&words](const Command& command) {
+      return command.ordered && !words.empty() && words[0] == command.words;
+    });
+    if (ordered != commands().end()) {
+      line.command = &*ordered;
+      line.given.arguments.assign(words.begin() + 1, words.end());
+      line.help = words.size() == 2 && (isHelp(words[1]) || words[1] == "help");
+      if (!line.help) check(*line.command, line.given);
+      return line;
+    }
     std::vector<std::string> others = takeCommonOptions(line, words);
     line.version = others == std::vector<std::string>{"--version"};
     if (line.version || (line.help && others.empty())) return line;

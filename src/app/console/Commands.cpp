@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "app/console/ImportCommand.h"
 #include "app/console/Terminal.h"
 #include "base/Text.h"
 
@@ -29,6 +30,13 @@ constexpr CommandOption previewOptions[] = {
 };
 constexpr CommandOption changesOptions[] = {
     {"--settings", "", "with the program's own settings and Run entries"},
+};
+
+constexpr CommandOption importOptions[] = {
+    {"--registry", "EXPORT...", "the exports of the registry"},
+    {"--as", "KEY", "where the keys of the exports behind it lie, which name no hive"},
+    {"--user", "NAME", "the branch of HKEY_USERS that is the user's"},
+    {"--drive", "C=FOLDER", "where a drive's disk is mounted"},
 };
 
 // clang-format off
@@ -104,6 +112,11 @@ constexpr std::array commandTable{
             "Makes a PC that nobody has worked on.",
             "new /tmp/pc",
             {}, checkNew, nullptr, newCommand},
+    Command{"import", "--registry EXPORT... FOLDER",
+            "Makes a PC of exports of its registry and its mounted disks. Each export goes on top of the ones before it.",
+            "import --registry software.reg user.reg --user S-1-5-21-7 --drive C=/mnt/xp /tmp/pc",
+            importOptions, [](const Given& given) { importWanted(given.arguments); }, nullptr,
+            [](const Given& given, const std::string&) { return importCommand(given.arguments); }, true},
     Command{"help", "[COMMAND]",
             "Tells all commands, or all of one.",
             "help wash",

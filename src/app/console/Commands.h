@@ -79,6 +79,8 @@ struct Command {
   int (*run)(CommandContext& context);
   // For the few that need no PC; `run` is null.
   int (*runWithoutPc)(const Given& given, const std::string& program) = nullptr;
+  bool ordered =
+      false;  // its options count by their places: all its words are arguments, and --user is its own
 };
 
 std::span<const Command> commands();

@@ -26,6 +26,8 @@ class ConsolePc {
   virtual std::vector<std::string> oddities() = 0;
   // For commands that wash: PcError where a wash would not find the PC's user, or no disk at all.
   virtual void needWashable() = 0;
+  // For commands that remove: PcError where nothing can be removed or saved.
+  virtual void needWritable() = 0;
   // The folder that holds the PC; empty for the PC that this runs on.
   virtual std::string folder() const = 0;
   virtual std::string user() const = 0;  // as given to openFolderPc

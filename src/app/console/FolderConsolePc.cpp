@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "app/console/Changes.h"
 #include "app/console/Commands.h"
 #include "app/console/ConsolePc.h"
@@ -5,6 +7,7 @@
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/FolderPc.h"
 #include "platform/folder/PcError.h"
+#include "platform/host/HostFailure.h"
 
 namespace zub {
 namespace {
@@ -50,6 +53,16 @@ class FolderConsolePc : public ConsolePc {
   void needWashable() override {
     if (pc_.driveFolders().withDisk().empty()) throw PcError(folder_, 0, NoDrive);
     if (shellFolderOf(pc_.registry, "Cookies").empty()) throw PcError(folder_, 0, NoUser);
+  }
+  void needWritable() override {
+    DriveFolders& drives = pc_.driveFolders();
+    if (std::ranges::all_of(drives.withDisk(), [&](char letter) { return drives.isReadOnly(letter); })) {
+      throw PcError(folder_, 0, "is not washed: nothing can be removed, since its drives are read-only");
+    }
+    const HostError texts = pc_.root().mayRemove(FolderPc::RegistryName);
+    if (texts == HostError::ReadOnlyDisk || texts == HostError::NoRights) {
+      throw PcError(folder_, 0, "is not washed: its registry could not be saved: " + reasonOf(texts));
+    }
   }
   std::string folder() const override { return folder_; }
   std::string user() const override { return user_; }

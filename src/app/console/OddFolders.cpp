@@ -2,13 +2,12 @@
 
 #include <string_view>
 
+#include "app/console/RegistryLook.h"
 #include "base/Text.h"
 
 namespace zub {
 namespace {
 
-constexpr std::string_view ShellFolders =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
 constexpr std::string_view LookedUp[] = {"Recent", "AppData", "Cache", "History", "Cookies"};
 constexpr std::uint32_t Longest = 1024;  // that a wash reads
 
@@ -32,7 +31,7 @@ std::vector<std::string> oddFolders(Registry& registry) {
   std::vector<std::string> lines;
   OpenKey key(registry);
   constexpr std::uint32_t onlyReading = 1;
-  if (key.open(Hive::CurrentUser, ShellFolders, onlyReading) != status::Success) return lines;
+  if (key.open(Hive::CurrentUser, shellFolders, onlyReading) != status::Success) return lines;
   for (const std::string_view name : LookedUp) {
     const std::string odd = oddity(registry, key.get(), name);
     if (!odd.empty()) lines.push_back(joined({"the shell's folder \"", name, "\" ", odd}));

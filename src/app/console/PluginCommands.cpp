@@ -62,13 +62,6 @@ PluginFile kindOf(std::string_view name) {
   throw UsageError("plugin check reads .zb1 and .zb2 files");
 }
 
-// A file of this machine, by a path in UTF-8; nothing where there is none.
-std::optional<std::string> hostText(const std::string& path) {
-  const auto end = path.find_last_of("/\\") + 1;
-  const auto folder = openHostDir(end == 0 ? "." : path.substr(0, end));
-  return folder ? readHostText(*folder, path.substr(end)) : std::nullopt;
-}
-
 // A file of the PC, by its path or its name in the plugin folder; where there is none, one of the machine that the
 // PC's folder lies on, or of the current folder.
 std::vector<CheckedLine> checkFile(const CommandContext& context, Store& store, PluginCheck& check,
@@ -80,7 +73,8 @@ std::vector<CheckedLine> checkFile(const CommandContext& context, Store& store, 
     if (context.pc.folder().empty() && store.engine.pc.files->attributes(name) != attribute::Invalid) {
       return check.readFile(name, file);
     }
-    const auto text = context.pc.folder().empty() ? std::nullopt : hostText(context.pc.toTerminal(name));
+    const auto text =
+        context.pc.folder().empty() ? std::nullopt : readHostTextAt(context.pc.toTerminal(name));
     if (!text) throw Refusal(path + ": " + failure.what());
     return check.readText(*text, file);
   }

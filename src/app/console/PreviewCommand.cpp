@@ -13,7 +13,8 @@ void printSums(const CommandContext& context, const Preview::Sums& sums) {
   std::string nothing;
   for (const std::string& name : sums.foundNothing) nothing += (nothing.empty() ? "" : ", ") + name;
   if (!nothing.empty()) context.print("Nothing to remove for: " + nothing);
-  context.print("Nothing has been removed.");
+  context.print(
+      "Nothing has been removed. What other programs open, write or remove until the wash is not foretold.");
 }
 
 void printList(const CommandContext& context, Preview& preview) {
@@ -41,6 +42,7 @@ void checkPreview(const Given& given) {
 int previewCommand(CommandContext& context) {
   const bool list = context.given.has("--list");
   context.pc.needWashable();
+  tellOddFolders(context);
   Preview preview(context.pc.platform(), context.loop, context.loop);
   Program& program = preview.program;
   {

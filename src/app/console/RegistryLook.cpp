@@ -9,12 +9,12 @@
 namespace zub {
 namespace {
 
-constexpr std::string_view ShellFolders =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
 constexpr std::array<std::string_view, 2> ProfileLists{
     "Software\\Microsoft\\Windows NT\\CurrentVersion\\ProfileList\\",
     "Software\\Microsoft\\Windows\\CurrentVersion\\ProfileList\\"};
 constexpr std::size_t LongestName = 256;  // with its NUL
+
+}  // namespace
 
 std::string withValue(std::string text, std::string_view variable, std::string_view value) {
   if (equalFolded(std::string_view(text).substr(0, variable.size()), variable)) {
@@ -22,20 +22,6 @@ std::string withValue(std::string text, std::string_view variable, std::string_v
   }
   return text;
 }
-
-// Where the system keeps the user's files; else the folder around the shell's.
-std::string profileOf(Registry& registry, const std::string& branch, std::string_view windows) {
-  for (const std::string_view list : ProfileLists) {
-    std::string profile = textOf(registry, Hive::LocalMachine, joined({list, branch}), "ProfileImagePath");
-    profile = withValue(std::move(profile), "%SystemDrive%", windows.substr(0, 2));
-    profile = withValue(std::move(profile), "%SystemRoot%", windows);
-    if (!profile.empty()) return profile;
-  }
-  const std::string desktop = textOf(registry, Hive::Users, joined({branch, "\\", ShellFolders}), "Desktop");
-  return desktop.substr(0, std::min(desktop.rfind('\\'), desktop.size()));
-}
-
-}  // namespace
 
 std::string textOf(Registry& registry, Hive hive, std::string_view path, std::string_view name) {
   OpenKey key(registry);
@@ -47,6 +33,23 @@ std::string textOf(Registry& registry, Hive hive, std::string_view path, std::st
   auto* bytes = reinterpret_cast<std::uint8_t*>(data.data());
   if (registry.query(key.get(), name, type, bytes, length) != status::Success) return {};
   return std::string(StripAtNull(data));
+}
+
+std::string textOfUser(Registry& registry, const std::string& branch, std::string_view path,
+                       std::string_view name) {
+  if (branch.empty()) return textOf(registry, Hive::CurrentUser, path, name);
+  return textOf(registry, Hive::Users, joined({branch, "\\", path}), name);
+}
+
+std::string profileOf(Registry& registry, const std::string& branch, std::string_view windows) {
+  for (const std::string_view list : ProfileLists) {
+    std::string profile = textOf(registry, Hive::LocalMachine, joined({list, branch}), "ProfileImagePath");
+    profile = withValue(std::move(profile), "%SystemDrive%", windows.substr(0, 2));
+    profile = withValue(std::move(profile), "%SystemRoot%", windows);
+    if (!profile.empty()) return profile;
+  }
+  const std::string desktop = textOfUser(registry, branch, shellFolders, "Desktop");
+  return desktop.substr(0, std::min(desktop.rfind('\\'), desktop.size()));
 }
 
 std::vector<std::string> keysOf(Registry& registry, Hive hive, std::string_view path) {
@@ -62,7 +65,7 @@ std::vector<std::string> keysOf(Registry& registry, Hive hive, std::string_view 
 }
 
 std::string shellFolderOf(Registry& registry, std::string_view name) {
-  return textOf(registry, Hive::CurrentUser, ShellFolders, name);
+  return textOf(registry, Hive::CurrentUser, shellFolders, name);
 }
 
 std::vector<RegistryUser> usersOf(Registry& registry, std::string_view windows) {

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "app/console/OddFolders.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 
@@ -44,6 +45,12 @@ std::string sumsText(const Preview::Sums& sums) {
   return counted(sums.files, "file", "files") + " of " + counted(sums.bytes, "byte", "bytes") + ", " +
          counted(sums.folders, "folder", "folders") + ", " +
          counted(sums.keys, "registry key", "registry keys") + ", " + counted(sums.values, "value", "values");
+}
+
+void tellOddFolders(const CommandContext& context) {
+  for (const std::string& folder : oddFolders(*context.pc.platform().registry)) {
+    context.tell(context.pc.toTerminal(folder));
+  }
 }
 
 int tellLeftBehind(const CommandContext& context, const Program& program, std::string_view happened) {

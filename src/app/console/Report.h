@@ -23,6 +23,8 @@ struct Attached {
 std::string reportText(const CommandContext& context, Program& program);
 // "2 files of 14 bytes, 1 folder, 0 registry keys, 1 value"
 std::string sumsText(const Preview::Sums& sums);
+// Tells the folders that a wash takes for others than the registry means.
+void tellOddFolders(const CommandContext& context);
 // Tells what, how much was tried and `happened`, such as "could not be removed"; the exit status of that.
 int tellLeftBehind(const CommandContext& context, const Program& program, std::string_view happened);
 

@@ -33,6 +33,7 @@ class ThisPc : public ConsolePc {
   std::vector<std::string> failures() const override { return {}; }
   std::vector<std::string> oddities() override { return {}; }
   void needWashable() override {}  // what runs is as it is
+  void needWritable() override {}
   std::string folder() const override { return {}; }
   std::string user() const override { return {}; }
   std::string utf8(std::string_view text) const override { return utf8FromWide(untoldWide(text)); }

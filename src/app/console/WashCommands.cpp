@@ -5,7 +5,6 @@
 #include "app/Program.h"
 #include "app/console/Commands.h"
 #include "app/console/Interrupt.h"
-#include "app/console/OddFolders.h"
 #include "app/console/Report.h"
 #include "app/console/Store.h"
 #include "app/console/Terminal.h"
@@ -54,10 +53,9 @@ bool agreed(CommandContext& context, WashChoice choice) {
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, WashChoice& choice, const std::function<void(Program&)>& afterStart) {
   context.pc.needWashable();
+  context.pc.needWritable();
   context.needAlone();
-  for (const std::string& folder : oddFolders(*context.pc.platform().registry)) {
-    context.tell(context.pc.toTerminal(folder));
-  }
+  tellOddFolders(context);
   if (context.given.has("--quiet")) context.loop.showNoProgress();
   interrupt::watch();
   Program program(context.pc.platform());

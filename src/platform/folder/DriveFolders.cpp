@@ -3,10 +3,6 @@
 namespace zub {
 namespace {
 
-bool isAbsolute(const std::string& path) {
-  return path[0] == '/' || path[0] == '\\' || (path.size() > 1 && path[1] == ':');
-}
-
 bool isEmpty(HostDir& folder) {
   std::unique_ptr<HostList> listing;
   HostEntry entry;
@@ -20,10 +16,14 @@ constexpr char upperLetter(char letter) {
 
 }  // namespace
 
+bool isAbsoluteOnHost(const std::string& path) {
+  return path.starts_with('/') || path.starts_with('\\') || (path.size() > 1 && path[1] == ':');
+}
+
 std::string DriveFolders::elsewhere(char letter) const {
   const auto told = facts_.driveFolders.find(letter);
   if (told == facts_.driveFolders.end()) return {};
-  return isAbsolute(told->second) ? told->second : folder_ + "/" + told->second;
+  return isAbsoluteOnHost(told->second) ? told->second : folder_ + "/" + told->second;
 }
 
 HostError DriveFolders::open(char letter, std::unique_ptr<HostDir>& drive) {
@@ -56,6 +56,15 @@ std::vector<char> DriveFolders::withDisk() {
     if (isThere(letter)) found.push_back(letter);
   }
   return found;
+}
+
+bool DriveFolders::isReadOnly(char letter) {
+  if (facts_.readOnlyDrives.contains(letter)) return true;
+  std::unique_ptr<HostDir> drive;
+  std::unique_ptr<HostList> listing;
+  HostEntry entry;
+  return open(letter, drive) == HostError::None && drive->list(listing) == HostError::None &&
+         listing->next(entry) && drive->mayRemove(entry.name) == HostError::ReadOnlyDisk;
 }
 
 std::vector<std::string> DriveFolders::oddities() {

@@ -27,6 +27,8 @@ class DriveFolders {
   std::string elsewhere(char letter) const;
   // Those that hold a disk.
   std::vector<char> withDisk();
+  // Nothing on it can be removed: the facts say so, or the host has it mounted so.
+  bool isReadOnly(char letter);
   // What lies in the PC's folder and looks like a drive that is none, and drives without anything on them, a line
   // each, in UTF-8.
   std::vector<std::string> oddities();
@@ -37,5 +39,8 @@ class DriveFolders {
   const PcFacts& facts_;
   HostFailures& failures_;
 };
+
+// Whether a path of the host begins at a root of its own.
+bool isAbsoluteOnHost(const std::string& path);
 
 }  // namespace zub

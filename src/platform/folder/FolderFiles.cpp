@@ -109,11 +109,12 @@ void FolderFiles::checkDrive(char drive) const {
 }
 
 // For a file that is to be written or removed.
-void FolderFiles::checkWritable(const FolderPath& path, const Place& place) const {
+void FolderFiles::checkWritable(const FolderPath& path, const Place& place, ReadOnlyBit bit) const {
   checkDrive(path.drive);
   if (place.exists && place.stat.kind == HostKind::Folder) throw RuntimeError(ErrorNumber::PathFileAccess);
   if (isLocked(path)) throw RuntimeError(ErrorNumber::PermissionDenied);
-  if (place.exists && place.stat.readOnly) throw RuntimeError(ErrorNumber::PathFileAccess);
+  if (place.exists && place.stat.readOnly && bit == ReadOnlyBit::Counts)
+    throw RuntimeError(ErrorNumber::PathFileAccess);
 }
 
 std::unique_ptr<FileSearch> FolderFiles::find(std::string_view path) {
@@ -202,9 +203,9 @@ void FolderFiles::replace(std::string_view path, std::string_view bytes) {
   if (!place.exists) disk_.forgetNames();
 }
 
-std::int64_t FolderFiles::openedLength(std::string_view path) {
+std::int64_t FolderFiles::openedLength(std::string_view path, ReadOnlyBit bit) {
   const Place& place = lookOn(path);
-  checkWritable(seenParts_, place);
+  checkWritable(seenParts_, place, bit);
   return static_cast<std::int64_t>(place.stat.size);
 }
 

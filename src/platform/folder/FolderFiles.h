@@ -18,7 +18,7 @@ class FolderFiles : public Files {
   std::uint32_t attributes(std::string_view path) override;
   void resetAttributes(std::string_view path) override;
   std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override;
-  std::int64_t openedLength(std::string_view path) override;
+  std::int64_t openedLength(std::string_view path, ReadOnlyBit bit) override;
   std::int64_t removable(std::string_view path, Removal how) override;
   void remove(std::string_view path) override;
   void replace(std::string_view path, std::string_view bytes) override;
@@ -46,7 +46,7 @@ class FolderFiles : public Files {
   // Removing a file asks three things of it, one after the other. What resetting its attributes has seen is
   // good for the two calls that follow on the same path.
   const Place& lookOn(std::string_view path);
-  void checkWritable(const FolderPath& path, const Place& place) const;
+  void checkWritable(const FolderPath& path, const Place& place, ReadOnlyBit bit = ReadOnlyBit::Counts) const;
   bool isLocked(const FolderPath& path) const;
   void checkDrive(char drive) const;
   // Removes all that can go; why something stays, first of all.

@@ -90,6 +90,12 @@ std::optional<std::string> readHostText(HostDir& folder, const std::string& name
   return text;
 }
 
+std::optional<std::string> readHostTextAt(const std::string& path) {
+  const auto end = path.find_last_of("/\\") + 1;
+  const auto folder = openHostDir(end == 0 ? "." : path.substr(0, end));
+  return folder ? readHostText(*folder, path.substr(end)) : std::nullopt;
+}
+
 HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_view bytes) {
   removeLeftBeside(folder, name);
   Beside beside(folder, name);

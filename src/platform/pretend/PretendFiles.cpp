@@ -227,15 +227,14 @@ std::int64_t PretendFiles::removable(std::string_view path, Removal how) {
   return beneath_.removable(path, reset && how == Removal::File ? Removal::EvenReadOnly : how);
 }
 
-std::int64_t PretendFiles::openedLength(std::string_view path) {
+std::int64_t PretendFiles::openedLength(std::string_view path, ReadOnlyBit bit) {
   const Spot spot = locate(path);
   if (spot.own != nullptr) {
-    if (!spot.own->content) throw RuntimeError(ErrorNumber::PathFileAccess);
-    return removable(path, Removal::File);
+    return removable(path, bit == ReadOnlyBit::Counts ? Removal::File : Removal::EvenReadOnly);
   }
   if (!spot.asksBeneath()) throwMissing(spot);
   const bool reset = spot.folder != nullptr && spot.folder->reset.contains(spot.name);
-  return reset ? beneath_.removable(path, Removal::EvenReadOnly) : beneath_.openedLength(path);
+  return beneath_.openedLength(path, reset ? ReadOnlyBit::Ignored : bit);
 }
 
 // The file's own form, made for the first change of its content.
@@ -248,15 +247,17 @@ PretendFiles::Own& PretendFiles::writable(std::string_view path, const Spot& spo
   Own own;
   own.name = withoutEnd(path).substr(behindFolder(withoutEnd(path)));
   own.content = std::make_shared<PretendContent>();
-  if (spot.asksBeneath() && beneath_.attributes(path) != attribute::Invalid) {
-    const std::int64_t length = openedLength(path);
-    own.attributes = attributes(path);
+  own.attributes = attributes(path);
+  if (own.attributes != attribute::Invalid) {
+    if ((own.attributes & attribute::ReadOnly) != 0) throw RuntimeError(ErrorNumber::PathFileAccess);
+    const std::int64_t length = openedLength(path, ReadOnlyBit::Counts);
     FoundFile found;
     if (const auto search = beneath_.find(path); search && search->next(found)) own.name = found.name;
     own.overBeneath = true;
     own.content = std::make_shared<PretendContent>(beneath_, std::string(path), length);
   } else {
     checkMakeable(path, spot, Removal::File);
+    own.attributes = attribute::Archive;
   }
   return changed(spot).own[spot.name] = own;
 }
@@ -273,6 +274,9 @@ std::unique_ptr<FileChannel> PretendFiles::open(std::string_view path, OpenMode 
 }
 
 void PretendFiles::replace(std::string_view path, std::string_view bytes) {
+  const std::uint32_t bits = attributes(path);
+  if (bits != attribute::Invalid && (bits & attribute::Link) != 0)
+    throw RuntimeError(ErrorNumber::PathFileAccess);
   PretendContent& content = *writable(path, locate(path)).content;
   content.clear();
   content.write(0, bytes);

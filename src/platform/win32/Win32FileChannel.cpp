@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t KeptAtMost = 65536;
 
-struct ModeRow {
+struct UseRow {
   DWORD access;
   DWORD sharing;
   DWORD disposition;
@@ -19,9 +19,12 @@ struct ModeRow {
 
 constexpr DWORD Everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-constexpr ModeRow modes[] = {
-    {GENERIC_READ | GENERIC_WRITE, 0, OPEN_ALWAYS},  // Binary
-    {GENERIC_READ, Everything, OPEN_EXISTING},       // Input
+// By FileUse.
+constexpr UseRow uses[] = {
+    {GENERIC_READ | GENERIC_WRITE, 0, OPEN_ALWAYS},
+    {GENERIC_READ | GENERIC_WRITE, 0, OPEN_EXISTING},
+    {GENERIC_READ, Everything, OPEN_EXISTING},
+    {GENERIC_READ | FILE_WRITE_ATTRIBUTES, 0, OPEN_EXISTING},
 };
 
 // A file that its disk keeps in another way, deduplicated or in a cloud: by a reparse point that is no link.
@@ -34,19 +37,20 @@ bool isKeptElsewhere(HANDLE file) {
 
 }  // namespace
 
-// The 9x family has no reparse points, and refuses a call that shares the removal.
-HANDLE openFile(const SystemPath& path, OpenMode mode, bool makes) {
-  const ModeRow& row = modes[static_cast<std::size_t>(mode)];
-  const DWORD disposition = makes ? row.disposition : OPEN_EXISTING;
-  const DWORD sharing = isNtFamily() ? row.sharing : row.sharing & ~static_cast<DWORD>(FILE_SHARE_DELETE);
-  const DWORD itself = isNtFamily() ? FILE_FLAG_OPEN_REPARSE_POINT : 0;
-  HANDLE file = path.open(row.access, sharing, disposition, FILE_ATTRIBUTE_NORMAL | itself);
+// The 9x family has no reparse points and no right to attributes, and refuses a call that shares the removal.
+HANDLE openFile(const SystemPath& path, FileUse use) {
+  const UseRow& row = uses[static_cast<std::size_t>(use)];
+  const bool nt = isNtFamily();
+  const DWORD access = nt ? row.access : row.access & (GENERIC_READ | GENERIC_WRITE);
+  const DWORD sharing = nt ? row.sharing : row.sharing & ~static_cast<DWORD>(FILE_SHARE_DELETE);
+  const DWORD itself = nt ? FILE_FLAG_OPEN_REPARSE_POINT : 0;
+  HANDLE file = path.open(access, sharing, row.disposition, FILE_ATTRIBUTE_NORMAL | itself);
   if (file == INVALID_HANDLE_VALUE && GetLastError() == ERROR_ACCESS_DENIED)
-    file = openFolderLink(path, row.access, sharing);
+    file = openFolderLink(path, access, sharing);
   if (file == INVALID_HANDLE_VALUE) throwLastError();
   if (!isKeptElsewhere(file)) return file;
   CloseHandle(file);
-  file = path.open(row.access, sharing, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
+  file = path.open(access, sharing, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
   if (file == INVALID_HANDLE_VALUE) throwLastError();
   return file;
 }

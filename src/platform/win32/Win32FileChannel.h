@@ -6,8 +6,15 @@
 
 namespace zub {
 
-// Opens as the mode says; `makes` false: never makes a missing file. Throws.
-HANDLE openFile(const SystemPath& path, OpenMode mode, bool makes);
+// What a file is opened for. Who writes, or is alone, is refused while any other program has the file open.
+enum class FileUse : std::uint8_t {
+  Make,       // to read and write, made where it is missing
+  Write,      // to read and write what is there
+  Read,       // what is there, beside others
+  ReadAlone,  // what is there, with the right to change its attributes
+};
+// Throws.
+HANDLE openFile(const SystemPath& path, FileUse use);
 // 0 for a link.
 std::int64_t lengthOf(HANDLE file);
 

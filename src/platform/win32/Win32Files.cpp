@@ -143,11 +143,13 @@ void Win32Files::resetAttributes(std::string_view path) {
 }
 
 std::unique_ptr<FileChannel> Win32Files::open(std::string_view path, OpenMode mode) {
-  return std::make_unique<Win32FileChannel>(openFile(filePath(path), mode, true));
+  return std::make_unique<Win32FileChannel>(
+      openFile(filePath(path), mode == OpenMode::Binary ? FileUse::Make : FileUse::Read));
 }
 
-std::int64_t Win32Files::openedLength(std::string_view path) {
-  return Win32FileChannel(openFile(filePath(path), OpenMode::Binary, false)).length();
+std::int64_t Win32Files::openedLength(std::string_view path, ReadOnlyBit bit) {
+  const FileUse use = bit == ReadOnlyBit::Counts ? FileUse::Write : FileUse::ReadAlone;
+  return Win32FileChannel(openFile(filePath(path), use)).length();
 }
 
 // The 9x family asks for no right to remove, and opens no folder.
@@ -161,10 +163,11 @@ std::int64_t Win32Files::removable(std::string_view path, Removal how) {
   const bool nt = isNtFamily();
   if (asFolder && !nt) return 0;
   constexpr DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const DWORD sharing = how == Removal::File || !nt ? 0 : everything;
+  const DWORD sharing = nt ? everything : 0;
   const DWORD rights = nt ? DELETE | FILE_READ_ATTRIBUTES : GENERIC_READ;
   const DWORD flags = nt ? FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS : 0;
-  const HANDLE opened = place.open(rights, sharing, OPEN_EXISTING, flags);
+  const HANDLE opened = isFolderLink(bits) ? openFolderLink(place, rights, sharing)
+                                           : place.open(rights, sharing, OPEN_EXISTING, flags);
   if (opened == INVALID_HANDLE_VALUE) throwLastError();
   return asFolder ? (CloseHandle(opened), 0) : Win32FileChannel(opened).length();
 }

@@ -11,7 +11,7 @@ class Win32Files : public Files {
   std::uint32_t attributes(std::string_view path) override;
   void resetAttributes(std::string_view path) override;
   std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override;
-  std::int64_t openedLength(std::string_view path) override;
+  std::int64_t openedLength(std::string_view path, ReadOnlyBit bit) override;
   std::int64_t removable(std::string_view path, Removal how) override;
   void remove(std::string_view path) override;
   void replace(std::string_view path, std::string_view bytes) override;

@@ -35,7 +35,7 @@ Target targetOf(const std::string& text) {
   }
   constexpr DWORD refused = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
   if ((attributes & refused) != 0) throw RuntimeError(ErrorNumber::PathFileAccess);
-  Win32FileChannel(openFile(path, OpenMode::Binary, false)).close();  // nobody else has it open
+  Win32FileChannel(openFile(path, FileUse::Write)).close();  // nobody else has it open
   return {asOnDisk(text), attributes};
 }
 
