@@ -19,7 +19,7 @@ void cleanCookies(Engine& engine, frmIECookieKeep& cookieKeep) {
     if (cookieKeep.lstDelete.Selected(row)) continue;
     engine.deleter->DeleteFile(cookieKeep.g_strPath + cookieKeep.lstFiles.List(row), 0);
   }
-  if (!cookieKeep.allRead) ++engine.leftBehind;
+  if (!cookieKeep.allRead) engine.leftBehind.push_back({cookieKeep.g_strPath, "its cookies cannot be read"});
   cookieKeep.LoadCookies();
 }
 

@@ -47,7 +47,9 @@ void Recycle::CleanBin() {
     engine_.deleter->DeleteFilesInFolder(bin, "*.*");
   }
   const std::int32_t failure = engine_.pc.shell->emptyRecycleBin(SilentEmpty);
-  if (failure != 0 && failure != NothingToEmpty) ++engine_.leftBehind;
+  if (failure != 0 && failure != NothingToEmpty) {
+    engine_.leftBehind.push_back({"the recycle bins", "the system cannot empty them"});
+  }
   // The icon is refreshed after a failure only.
   if (failure != 0) engine_.pc.shell->updateRecycleBinIcon();
 }

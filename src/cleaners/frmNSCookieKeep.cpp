@@ -90,7 +90,7 @@ void frmNSCookieKeep::SaveNS6(std::string_view Folder) {
 void frmNSCookieKeep::CleanCookieNS6(std::string_view Folder) {
   const bool written =
       allRead_ && succeeds([&] { saveNetscapeCookies(files(), Folder, rowsOnShow(lstDelete, lstCookies)); });
-  if (!written) ++engine_.leftBehind;
+  if (!written) engine_.leftBehind.push_back({std::string(Folder), "its cookies cannot be read or saved"});
 }
 
 void frmNSCookieKeep::CleanNS6() {

@@ -104,10 +104,9 @@ void Delete::listFolder(const Walk& walk, std::size_t folder, std::string_view s
 
 // What is in a folder that cannot be listed stays.
 void Delete::countUnread(std::string_view folder, const RuntimeError& failure) {
-  ++engine_.leftBehind;
   const bool link = isFolderLink(engine_.pc.files->attributes(folder));
-  engine_.unread.push_back(
-      joined({folder, ": ", link ? "a link, which is not entered" : failure.description()}));
+  const std::string why = link ? "a link, which is not entered" : failure.description();
+  engine_.leftBehind.push_back({std::string(folder), why, true});
 }
 
 void Delete::DeleteFilesInFolder(std::string_view strPath, std::string_view strPattern) {
@@ -136,8 +135,8 @@ void Delete::MakeDir(std::string_view strPath) {
 void Delete::RemoveFolderTree(std::string_view strPath) {
   try {
     if (FolderPresent(strPath)) engine_.pc.files->deleteFolder(strPath);
-  } catch (const RuntimeError&) {
-    ++engine_.leftBehind;
+  } catch (const RuntimeError& failure) {
+    engine_.leftBehind.push_back({std::string(strPath), failure.description()});
   }
 }
 
@@ -170,7 +169,9 @@ void Delete::reportFailure(std::string_view strFileName, int nSpecial, const Run
   engine_.animated->state.Timer.Enabled = false;
   if (error == ErrorNumber::FileNotFound) return;  // leaves the animation standing
 
-  if (error != ErrorNumber::Overflow) ++engine_.leftBehind;  // the sum overflowed: the file itself is gone
+  if (error != ErrorNumber::Overflow) {  // the sum overflowed: the file itself is gone
+    engine_.leftBehind.push_back({std::string(strFileName), failure.description()});
+  }
   const bool denied = error == ErrorNumber::PermissionDenied;
   const bool accessError = error == ErrorNumber::PathFileAccess;
   UserFunctions& user = engine_.userFunctions;
@@ -206,6 +207,7 @@ void Delete::ZUBShredder(FileGrip& grip, std::string_view szname, int nTimes) {
   try {
     const auto file = grip.open();
     const std::int64_t blocks = divideRoundHalfEven(file->length(), BlockSize);
+    insideFile_ = true;
     engine_.clean.AddItem(joined({"\tShredding file ", lastPathPart(szname)}));
     for (int pass = 1; pass <= nTimes; ++pass) {
       file->seek(0);
@@ -219,6 +221,7 @@ void Delete::ZUBShredder(FileGrip& grip, std::string_view szname, int nTimes) {
   } catch (const RuntimeError&) {
     // The removal that follows decides what is told.
   }
+  insideFile_ = false;
 }
 
 }  // namespace zub

@@ -43,6 +43,8 @@ class Delete {
   // reached the disk before the next pass begins. Name, length and tail of the file stay.
   void ZUBShredder(FileGrip& grip, std::string_view szname, int nTimes);
 
+  bool insideFile() const { return insideFile_; }  // in a turn of the event loop: a file is half shredded
+
   FoundPaths DelDirList;   // folders, parents before their children
   FoundPaths DelFileList;  // matching files
   FileLister DelFile;
@@ -60,6 +62,7 @@ class Delete {
   void removeAtRestart(std::string_view strFileName);
 
   Engine& engine_;
+  bool insideFile_ = false;
 };
 
 }  // namespace zub

@@ -24,6 +24,13 @@ class WashOwner {
   virtual void Unload() = 0;  // ends the process: does not return
 };
 
+// A file, a folder or a trace that a wash could not remove.
+struct LeftBehind {
+  std::string what;
+  std::string why;
+  bool unread = false;  // a folder that could not be listed
+};
+
 class Engine {
  public:
   Engine(const Platform& platform, Options& theOptions)
@@ -45,9 +52,8 @@ class Engine {
   frmClean clean;
   AutoLoad<frmAnimated> animated;
   FirstUse<Delete> deleter;
-  std::int32_t TotalBytes = 0;      // deleted in this wash
-  int leftBehind = 0;               // files, folders and keys that a wash tried and could not remove
-  std::vector<std::string> unread;  // the folders among them that could not be listed, each with the reason
+  std::int32_t TotalBytes = 0;         // deleted in this wash
+  std::vector<LeftBehind> leftBehind;  // what washes tried and could not remove, in its order
 };
 
 }  // namespace zub

@@ -19,8 +19,8 @@ std::string_view textIn(const std::array<char, Size>& buffer) {
 }  // namespace
 
 // A refusal for want of rights is something that a wash leaves behind.
-RegistryStatus RegistryHelper::counted(RegistryStatus result) {
-  if (result == status::AccessDenied) ++engine_.leftBehind;
+RegistryStatus RegistryHelper::counted(RegistryStatus result, const Trace& trace) {
+  if (result == status::AccessDenied) engine_.leftBehind.push_back({trace.text, "no rights"});
   return result;
 }
 
@@ -29,12 +29,12 @@ int RegistryHelper::DeleteTrace(const Trace& trace) {
   takeToRemove(trace);
   Registry& registry = *engine_.pc.registry;
   OpenKey key(registry);
-  if (counted(key.open(hive, trace.path, access::All)) != status::Success) return -1;
+  if (counted(key.open(hive, trace.path, access::All), trace) != status::Success) return -1;
 
   int result = 0;
   std::uint32_t deleted = 0;
   if (ValueMode) {
-    if (counted(registry.deleteValue(key.get(), trace.valueName)) == status::Success) {
+    if (counted(registry.deleteValue(key.get(), trace.valueName), trace) == status::Success) {
       deleted = 1;
     } else {
       result = -1;
@@ -46,7 +46,8 @@ int RegistryHelper::DeleteTrace(const Trace& trace) {
   Walk values = walk(key.get(), &RegistryHelper::enumValue, last_.values - std::min(last_.values, deleted));
   last_.keys = keys.again();
   last_.values = values.again();
-  if (KeyMode && wipe(key.get(), std::move(keys), std::move(values)) != status::Success) result = -1;
+  if (KeyMode && counted(wipe(key.get(), std::move(keys), std::move(values)), trace) != status::Success)
+    result = -1;
   return result;
 }
 
@@ -83,7 +84,7 @@ RegistryHelper::Walk RegistryHelper::walk(RegistryKey key, Enumerate next, std::
 
 // One level deep: a subkey is tried once, and whether it may have subkeys of its own the PC decides. All names met so
 // far are tried, in their order; where the walk saw all that is there, the others can only fail, and are left out.
-int RegistryHelper::wipe(RegistryKey key, Walk keys, Walk values) {
+RegistryStatus RegistryHelper::wipe(RegistryKey key, Walk keys, Walk values) {
   const auto forEach = [](Walk& walk, const NameList& names, const auto& remove) {
     if (!walk.complete()) {
       walk.places.resize(names.size());
@@ -95,7 +96,7 @@ int RegistryHelper::wipe(RegistryKey key, Walk keys, Walk values) {
   Registry& registry = *engine_.pc.registry;
   forEach(values, lstValue, [&](const std::string& name) { registry.deleteValue(key, name); });
   forEach(keys, lstKey, [&](const std::string& name) { registry.deleteKey(key, name); });
-  return counted(registry.deleteKey(key, ""));
+  return registry.deleteKey(key, "");
 }
 
 std::string RegistryHelper::TraceValue(const Trace& trace) {

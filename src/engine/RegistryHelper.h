@@ -47,11 +47,11 @@ class RegistryHelper : public TraceState {
   using Enumerate = RegistryStatus (RegistryHelper::*)(RegistryKey key, std::uint32_t index,
                                                        std::size_t& place);
 
-  RegistryStatus counted(RegistryStatus result);
+  RegistryStatus counted(RegistryStatus result, const Trace& trace);
   RegistryStatus enumKey(RegistryKey key, std::uint32_t index, std::size_t& place);
   RegistryStatus enumValue(RegistryKey key, std::uint32_t index, std::size_t& place);
   Walk walk(RegistryKey key, Enumerate next, std::uint32_t from);
-  int wipe(RegistryKey key, Walk keys, Walk values);
+  RegistryStatus wipe(RegistryKey key, Walk keys, Walk values);
 
   Engine& engine_;
   // The key of the last call, and where a walk over it goes on if the next call opens it again.

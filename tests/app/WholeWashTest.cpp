@@ -131,7 +131,7 @@ TEST_CASE("a wash of everything removes each trace, and nothing that lies beside
     CHECK(shown.lblRemove.Caption == "Total amount of space restored: " + std::to_string(files) + " Bytes");
     CHECK(shown.lblTasksTotal.Caption == "11");
     CHECK(shown.lblCompleted.Caption == "13");  // the two standard plugins count here alone
-    CHECK(pc.program->engine.leftBehind == 0);
+    CHECK(pc.program->engine.leftBehind.size() == 0);
     CHECK(pc.pc.messages.empty());
 
     pc.progress()->cmdFinish_Click();
@@ -154,7 +154,7 @@ TEST_CASE("of the files that others hold only the browser's indexes are left for
     (pc.options().*option).Value(1);
   }
   pc.main().cmdRemove_Click();
-  CHECK(pc.program->engine.leftBehind == static_cast<int>(held.size()));
+  CHECK(pc.program->engine.leftBehind.size() == held.size());
   std::string left;
   std::istringstream report(pc.program->engine.clean.txtResult);
   constexpr std::string_view told = "\tDelete locked file: The file ";

@@ -98,10 +98,10 @@ TEST_CASE(
   pc.pc.recycleResult = -2147418113;
   clean();
   CHECK(pc.pc.recycleIconUpdates == 1);
-  CHECK(pc.engine.leftBehind == 0);
+  CHECK(pc.engine.leftBehind.size() == 0);
   pc.pc.recycleResult = -2147467259;
   clean();
-  CHECK(pc.engine.leftBehind == 1);
+  CHECK(pc.engine.leftBehind.size() == 1);
 }
 
 TEST_CASE("the disk checker's files go by the names of the first current folder, at every fixed root") {

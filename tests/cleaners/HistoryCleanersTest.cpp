@@ -71,7 +71,7 @@ TEST_CASE("each history task takes its own traces, and reports what it tries, fo
     CleanerPc bare;
     CHECK(bare.removedBy([&] { task.clean(bare.engine); }) == "");
     CHECK(bare.takeReport() == task.report);
-    CHECK(bare.engine.leftBehind == 0);
+    CHECK(bare.engine.leftBehind.size() == 0);
   }
 }
 

@@ -173,7 +173,7 @@ TEST_CASE("a failure ends the load with the lists as far as they came") {
   pc.options.chkIECookies.Value(1);
   CleanIE(pc.engine, pc.keep);
   CHECK(pc.pc.hasFile(Cookies + "a.txt"));
-  CHECK(pc.engine.leftBehind == 1);
+  CHECK(pc.engine.leftBehind.size() == 1);
 
   pc.pc.lock(Cookies + "index.dat");
   CHECK(pc.rows() == "");

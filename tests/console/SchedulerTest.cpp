@@ -25,7 +25,7 @@ struct TimedPc : ConsolePc {
 
   TempFolder folder_;
   std::string path = folder_.path() + "/pc";
-  ConsoleLoop loop{[](std::string_view text) { return std::string(text); }};
+  ConsoleLoop loop{"zub", [](std::string_view text) { return std::string(text); }};
   std::unique_ptr<ConsolePc> pc;
   MovedClock clock;
   Platform timed{};
@@ -54,7 +54,7 @@ struct TimedPc : ConsolePc {
   void needWritable() override {}
   std::string folder() const override { return path; }
   std::string user() const override { return {}; }
-  std::string toTerminal(std::string_view text) const override { return std::string(text); }
+  std::string utf8(std::string_view text) const override { return std::string(text); }
   std::string fromTerminal(std::string_view text) const override { return std::string(text); }
 
   void tasks(const char* text) { writeHostFile(*openHostDir(path), "tasks.txt", text); }

@@ -10,6 +10,25 @@ for command in wash start options set plugins "plugin show" "plugin check" cooki
   check "the help lacks $command" grep -q "^  $command" "$work/out"
 done
 
+# What the shells complete, by the program's own words: a command, an option, a plugin with blanks in its name.
+"${program[@]}" completion bash >"$work/completion"
+while IFS='|' read -r line wanted; do
+  check "\"$line\" is not completed" grep -Fxq -e "$wanted" <(
+    # shellcheck disable=SC1091
+    . "$work/completion"
+    eval "COMP_WORDS=($line)"
+    COMP_CWORD=$((${#COMP_WORDS[@]} - 1)) COMPREPLY=()
+    _zub
+    printf '%s\n' "${COMPREPLY[@]}")
+done <<'END'
+zub --pc x sched|scheduler
+zub schedule a|add
+zub wash --on|--only
+zub wash --plugin 'windows\ p'|Windows\ Paint
+zub plugin show Windows\ Pai|Windows\ Paint
+END
+run 0 manual
+check "the manual page lacks a command" [ "$(grep -c '^Example:' "$work/out")" -eq "$("${program[@]}" help | sed -n '/^Commands:/,/^$/p' | grep -c '^  [a-z]')" ]
 run 0 new "$pc"
 here "$pc/C/WINDOWS/TEMP"
 portrait "$pc" >"$work/new"
@@ -39,6 +58,13 @@ echo old >"$pc/C/WINDOWS/TEMP/old.tmp"
 run 0 --pc "$pc" start /STARTUP
 here "$pc/C/WINDOWS/TEMP/old.tmp"
 run 0 --pc "$pc" set chkRunStarted=1
+run 0 --pc "$pc" get CHKloadstartup
+says 1
+run 0 --pc "$pc" get passes
+says 9
+run 0 --pc "$pc" set PASSES=2
+run 0 --pc "$pc" options
+for line in passes=2 cmbShredder=1 "    how often files are overwritten (1 to 9)"; do says "$line"; done
 run 0 --pc "$pc" start /STARTUP
 gone "$pc/C/WINDOWS/TEMP/old.tmp"
 says "	Deleting file old.tmp"
@@ -50,35 +76,47 @@ portrait "$pc" >"$work/before"
 while IFS='|' read -r text words; do
   eval "refused '$text' $words"
 done <<'END'
-no command is given|
---pc takes a folder|--pc
---pc takes a folder|--pc "" wash
-there is no command "polish"|--pc "$pc" polish
-there is no command "plugin"|--pc "$pc" plugin polish
+wash takes no arguments|--pc "$work/nowhere" wash now
 there is no Windows here to work on: give a PC in a folder with --pc FOLDER|wash
 nowhere: is no folder that can be opened|--pc "$work/nowhere" wash
 empty: is no PC|--pc "$work/empty" wash
 is not empty|new "$pc"
 nowhere/: is no folder that can be opened|new "$work/nowhere/pc"
-new takes a folder|new "$work/one" "$work/two"
-wash takes no arguments|--pc "$pc" wash now
-start takes /STARTUP and /SCHEDULER, not "/startup"|--pc "$pc" start /SCHEDULER /startup
-set takes NAME=VALUE|--pc "$pc" set
-"chkBleach" is not NAME=VALUE|--pc "$pc" set chkBleach
-there is no setting "chkPolish"|--pc "$pc" set chkPolish=1
+there is no setting "chkBleech": did you mean "chkBleach"?|--pc "$pc" set chkBleech=1
+"passes" takes 1 to 9, not "0"|--pc "$pc" set passes=0
+there is no task "tmp": did you mean "temp"?|--pc "$pc" wash --only recycle,tmp
+there is no plugin "Café"|--pc "$pc" wash --plugin Café
 "chkBleach" takes 0 to 1, not "2"|--pc "$pc" set chkBleach=2
 "ComboInterval" takes 0 to 2, not "10"|--pc "$pc" set ComboInterval=10
 there is no setting "chkPolish"|--pc "$pc" set chkBleach=1 chkPolish=1
 there is no plugin "Café"|--pc "$pc" plugin show Café
-plugin check reads .zb1 and .zb2 files|--pc "$pc" plugin check C:\\polish.txt
 C:\polish.zb1: File not found|--pc "$pc" plugin check C:\\polish.zb1
-cookies takes "ie" or "netscape"|--pc "$pc" cookies opera
-cookies takes "keep" or "drop" and numbers of the list, ranges or sites|--pc "$pc" cookies ie eat 1
-"3-1" is no number of the list|--pc "$pc" cookies ie keep 3-1
-schedule add takes a date and a time|--pc "$pc" schedule add 12/24/2030
 there is no dated wash 1x|--pc "$pc" schedule remove 1x
 END
 gone "$work/nowhere"
+
+# A wash of one task and one plugin leaves the ticks and all else as they are; the report goes to a file, too.
+printf '\n[%s]\n"File1"="x"\n' 'HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Applets\Paint\Recent File List' \
+  'HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU' >>"$pc/registry.reg"
+run 0 --pc "$pc" set chkRunHistory=1 "ZUBStandardPlugin Windows Paint=0" chkSkipPlugins=1
+run 0 --pc "$pc" options
+cp "$work/out" "$work/options"
+touch "$pc/C/WINDOWS/TEMP/old.tmp" "$pc/C/FILE0000.CHK"
+run 0 --pc "$pc" preview --only scandisk --plugin "Windows Paint"
+says "Would go: 1 file of 0 bytes, 0 folders, 0 registry keys, 1 value"
+run 0 --pc "$pc" wash --only scandisk --plugin "Windows Paint" --quiet --report "$work/report"
+silent out
+check "the report is not in the file" grep -Fq "Deleting file FILE0000.CHK" "$work/report"
+gone "$pc/C/FILE0000.CHK"
+here "$pc/C/WINDOWS/TEMP/old.tmp"
+check "the plugin did not run, or a task" [ "$(registry "$pc" | grep -cE 'Paint.*-> File1|RunMRU -> File1')" -eq 1 ]
+run 0 --pc "$pc" options
+check "the ticks are others" diff <(grep -v '^lblLast' "$work/options") <(grep -v '^lblLast' "$work/out")
+run 2 --pc "$pc" wash --report "$work/nowhere/report"
+tells "its folder cannot be opened"
+gone "$pc/C/WINDOWS/TEMP/old.tmp"
+run 0 --pc "$pc" schedule
+portrait "$pc" >"$work/before"
 
 # While another program is at work, every command that changes the PC is to be tried again later; others work.
 exec 9<"$pc"
@@ -110,6 +148,15 @@ check "a text was changed, or a file stays beside it" diff "$work/texts" <(cd "$
 "${program[@]}" --pc "$pc" options >/dev/full 2>"$work/err"
 check "a full disk ends with $?" [ $? -eq 2 ]
 tells "zub: the output could not be written"
+# A reader that goes away does not stop a wash.
+echo old >"$pc/C/WINDOWS/TEMP/old.tmp"
+exec 8> >(:)
+wait $!
+"${program[@]}" --pc "$pc" wash >&8 2>"$work/err"
+check "a closed pipe ends with $?" [ $? -eq 2 ]
+exec 8>&-
+tells "zub: the output could not be written"
+gone "$pc/C/WINDOWS/TEMP/old.tmp"
 
 # A tree that is deeper than the files that may be open at once.
 deep=$(printf 'd/%.0s' {1..400})

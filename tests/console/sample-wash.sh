@@ -21,14 +21,11 @@ check "the sample lacks registry entries: $(head -3 "$work/missing")" [ ! -s "$w
 
 run 1 --pc "$pc" wash
 
-# The progress, a line for each task in their order, what stays, and the report, a heading for each task.
-printf '%s\n' "Document History" "Search/Find History" "Run History" "Temporary Folder" "Scandisk logs" "Recycle bin" \
-  "MS Office - MRU" "Windows Media Player - MRU" Netscape "Internet Explorer" "Card Shop Deluxe" "Home Photo Album" \
-  "Modem and Fax Logs" ACDSee "Adobe Acrobat Full 4.x" "Gold Wave Editor" "Microsoft Media Player 7.x" \
-  "Norton AntiVirus 2000" "Paint Shop Pro 6.x" "Real Player 7.x, 8.x and GT2" "Text Pad 4.x" "Windows Paint" \
-  "Windows Task Scheduler Logs" "Windows WBEM Logs" "Windows WordPad" "WinRAR (all versions)" "WinZip 7.x and 8.x" \
-  "Zone Labs Zone Alarm Firewall" "zub: 3 files, folders or keys could not be removed" >"$work/tasks"
-check "the progress differs" diff "$work/tasks" "$work/err"
+# No progress where there is no terminal, only what stays; and the report, a heading for each task.
+stays='zub: C:\WINDOWS\TEMP\'
+check "other than what stays is told" diff "$work/err" <(printf '%s\n' "$stays~DF3A21.TMP: Permission denied" \
+  "$stays"VBE'\MSForms.exd: Permission denied' "$stays"'VBE: Permission denied' \
+  "zub: 3 files, folders or keys could not be removed")
 says Zubrone
 check "the headings differ" [ "$(grep -c '^ZUB has cleaned .*, with the following results:$' "$work/out")" -eq 28 ]
 locked=$(grep -c '^	Permission denied The file C:\\WINDOWS\\TEMP\\.* is locked or is on a read only drive/network' "$work/out")

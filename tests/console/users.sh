@@ -32,7 +32,6 @@ for words in wash "start /STARTUP" preview scheduler "--user .DEFAULT wash"; do
   refused "choose a user with --user NAME" --pc "$pc" $words
 done
 refused '"S-1-5-21-8"; its branches: .DEFAULT, S-1-5-21-7, S-1-5-21-7_Classes' --pc "$pc" --user S-1-5-21-8 users
-refused "--user takes a name" --user x wash
 run 0 --pc "$pc" users
 tells 'zub: C:\Recycler: no recycle bin in it is emptied'
 check "the users differ" diff "$work/out" <(printf '%s\t%s\n' .DEFAULT 'C:\Default' S-1-5-21-7 'C:\Documents and Settings\lena')

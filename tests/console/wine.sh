@@ -83,7 +83,8 @@ says "chkTempFolder=1"
 says "chkNetscape=0"
 says "ZUBStandardPlugin Windows Paint=1"
 
-run 0 wash
+refused "nobody can be asked here: wash this PC with --yes" wash
+run 0 wash --yes
 for text in "	Deleting file old.tmp" "	Deleting file read-only.tmp" "	Deleting file Diary.lnk" "	Deleting file FILE0000.CHK" \
   "ZUB has cleaned Garden , with the following results:" "ZUB has cleaned Windows Paint , with the following results:"; do
   says "$text"
@@ -114,9 +115,9 @@ inRun() {
 }
 inRun "$run" "$run-"
 run 0 set chkLoadStartup=0
-run 0 wash
-says "Total amount of space restored: 100 Bytes"  # the wording for none
 inRun "$run-" "$run"
+run 0 wash --yes
+says "Total amount of space restored: 100 Bytes"  # the wording for none
 
 # A dated wash starts the program with windows, which lies beside this one. A listing does not even make the task.
 job=$pc/windows/tasks/ZUB.job

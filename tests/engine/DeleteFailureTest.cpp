@@ -71,7 +71,7 @@ TEST_CASE("every failure is told in its own words, and the animation goes on") {
       CHECK(pc.pc.hasFile("C:\\WINDOWS\\wininit.ini") == scheduled);
       CHECK(pc.progress().Timer.Enabled);
       CHECK(pc.engine.TotalBytes == 0);
-      CHECK(pc.engine.leftBehind == 1);
+      CHECK(pc.engine.leftBehind.size() == 1);
       CHECK(pc.pc.bytes(path) == "eight by");
     }
   }
@@ -90,7 +90,7 @@ TEST_CASE("a missing file fails in silence, is not made, and leaves the animatio
   CHECK(pc.takeReport().empty());
   CHECK(pc.told().empty());
   CHECK(pc.pc.diffSince(before).empty());
-  CHECK(pc.engine.leftBehind == 0);
+  CHECK(pc.engine.leftBehind.size() == 0);
 }
 
 TEST_CASE("the file scheduled last stands alone in the profile, on both families") {
@@ -122,7 +122,7 @@ TEST_CASE("files and folders that stay do not keep the others") {
   CHECK_FALSE(pc.pc.hasFolder("C:\\T\\b"));
   CHECK(pc.pc.hasFolder("C:\\T\\c"));
   CHECK(pc.engine.TotalBytes == 8);
-  CHECK(pc.engine.leftBehind == 4);  // the folder that holds the locked file counts too
+  CHECK(pc.engine.leftBehind.size() == 4);  // the folder that holds the locked file counts too
 }
 
 TEST_CASE("a folder that cannot be listed is told and counted, and does not keep the others") {
@@ -130,8 +130,9 @@ TEST_CASE("a folder that cannot be listed is told and counted, and does not keep
   for (const char* name : {"1", "a\\2", "b\\3"}) pc.pc.file(std::string("C:\\T\\") + name);
   pc.pc.failFile(Call::Find, "C:\\T\\a\\*", ErrorNumber::PathFileAccess);
   CHECK_FALSE(pc.engine.deleter->DeleteFolder("C:\\T", "*.tmp"));
-  CHECK(pc.engine.leftBehind == 1);
-  CHECK(pc.engine.unread == std::vector<std::string>{"C:\\T\\a\\: Path/File access error"});
+  CHECK(pc.engine.leftBehind.size() == 1);
+  CHECK(pc.engine.leftBehind[0].what == "C:\\T\\a\\");
+  CHECK(pc.engine.leftBehind[0].why == "Path/File access error");
   CHECK_FALSE(pc.engine.deleter->DeleteFolder("C:\\T", "*."));
   CHECK_FALSE(pc.pc.hasFile("C:\\T\\1"));
   CHECK(pc.pc.hasFile("C:\\T\\a\\2"));
@@ -141,7 +142,7 @@ TEST_CASE("a folder that cannot be listed is told and counted, and does not keep
   pc.pc.failFile(Call::Find, "C:\\T\\b\\*.*", ErrorNumber::DeviceIo);
   pc.engine.deleter->DeleteFilesInFolder("C:\\T\\b", "*.*");
   CHECK(pc.takeReport() == "Device I/O error\r\n");
-  CHECK(pc.engine.leftBehind == 3);
+  CHECK(pc.engine.leftBehind.size() == 3);
 }
 
 #ifndef _WIN32
@@ -157,11 +158,11 @@ TEST_CASE("a link to a folder goes where folders go, and is never entered") {
   CHECK(pc.pc.hasFile("C:\\T\\link.tmp"));
   pc.engine.deleter->DeleteFolder("C:\\T", "*.*");
   CHECK_FALSE(pc.pc.hasFile("C:\\T\\link.tmp"));
-  CHECK(pc.engine.leftBehind == 0);
+  CHECK(pc.engine.leftBehind.size() == 0);
 
   pc.engine.deleter->DeleteFolder("C:\\Start", "*.*");
-  CHECK(pc.engine.leftBehind == 1);
-  CHECK(pc.engine.unread == std::vector<std::string>{"C:\\Start\\: a link, which is not entered"});
+  CHECK(pc.engine.leftBehind.size() == 1);
+  CHECK(pc.engine.leftBehind[0].why == "a link, which is not entered");
   CHECK(pc.pc.hasFile("C:\\Else\\kept"));
 }
 #endif
@@ -176,7 +177,7 @@ TEST_CASE("a sum of bytes beyond 32 bits is that file's failure, which by then i
   CHECK(pc.engine.deleter->DeleteFile(path, 0));
   CHECK(pc.engine.TotalBytes == 2147483647);
   CHECK_FALSE(pc.pc.hasFile(path));
-  CHECK(pc.engine.leftBehind == 0);
+  CHECK(pc.engine.leftBehind.size() == 0);
   CHECK(pc.takeReport() ==
         "\tDeleting file f.txt\r\n\tOverflow The file C:\\T\\f.txt cannot be deleted\r\n\r\n");
 }

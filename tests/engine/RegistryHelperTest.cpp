@@ -211,7 +211,7 @@ TEST_CASE("a key without rights answers -1, and an enumeration that never ends s
   Seeded pc;
   pc.pc.failKey(KeyCall::Open, CU + "A", status::AccessDenied);
   CHECK(pc.helper().DeleteTrace(CU + "A+ Value`= One") == -1);
-  CHECK(pc.engine.leftBehind == 1);
+  CHECK(pc.engine.leftBehind.size() == 1);
   pc.pc.clearFaults();
   pc.pc.failKey(KeyCall::EnumKey, CU + "A", status::AccessDenied);
   pc.pc.failKey(KeyCall::EnumValue, CU + "A", status::AccessDenied);

@@ -2,7 +2,8 @@
 //
 //   ZUB_FAULT_AT      the number of the call, from 1; the calls are those below
 //   ZUB_FAULT         what happens there: the number of an error; "short": half of what was asked for is done;
-//                     "zero": nothing is, without an error; "kill": the process is killed before the call
+//                     "zero": nothing is, without an error; "kill": the process is killed before the call;
+//                     "signal15": it gets that signal before the call, which goes on
 //   ZUB_FAULT_LOG     a file that gets the name of every call, a line each
 //   ZUB_FAULT_MEMORY  the number of the allocation that fails, from 1; with a "+" behind it all later ones too
 //   ZUB_FAULT_COUNT   a file that gets the number of allocations when the process ends
@@ -25,6 +26,7 @@ namespace {
 constexpr int Short = -1;
 constexpr int Zero = -2;
 constexpr int Kill = -3;
+constexpr int Signal = -100;  // less the number of the signal
 
 long number(const char* name) {
   const char* text = std::getenv(name);
@@ -36,6 +38,7 @@ int faultNamed(const char* text) {
   if (std::strcmp(text, "short") == 0) return Short;
   if (std::strcmp(text, "zero") == 0) return Zero;
   if (std::strcmp(text, "kill") == 0) return Kill;
+  if (std::strncmp(text, "signal", 6) == 0) return Signal - std::atoi(text + 6);
   return std::atoi(text);
 }
 
@@ -86,6 +89,10 @@ int faultAt(const char* name) {
   if (plan.log >= 0) dprintf(plan.log, "%s\n", name);
   if (plan.calls != plan.failingCall) return 0;
   if (plan.fault == Kill) ::kill(::getpid(), SIGKILL);
+  if (plan.fault < Signal) {
+    ::raise(Signal - plan.fault);
+    return 0;
+  }
   if (plan.fault > 0) errno = plan.fault;
   return plan.fault;
 }

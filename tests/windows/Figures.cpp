@@ -57,7 +57,7 @@ struct Removal {
 };
 
 const std::vector<Removal>& removals() {
-  static const std::string console = "\"" + (pc::programs() / "zub-console.exe").string() + "\" wash";
+  static const std::string console = "\"" + (pc::programs() / "zub-console.exe").string() + "\" wash --yes";
   static const std::string system = "cmd /c rd /s /q \"" + pc::temp().string() + "\"";
   static const std::vector<Removal> all = {{"with the progress window", washInTheWindow},
                                            {"console program", [] { run(console); }},

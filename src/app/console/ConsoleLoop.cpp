@@ -1,24 +1,26 @@
 #include "app/console/ConsoleLoop.h"
 
-#include <unistd.h>
-
-#include <cstdio>
+#include <algorithm>
 #include <memory>
 #include <utility>
 
 #include "app/Program.h"
 #include "app/Timers.h"
+#include "app/console/Interrupt.h"
+#include "app/console/Terminal.h"
+#include "base/RuntimeError.h"
 
 namespace zub {
 namespace {
 
 constexpr std::uint64_t TurnLength = 16;  // milliseconds: about 60 turns a second
-constexpr std::size_t LineWidth = 78;
 
 }  // namespace
 
-ConsoleLoop::ConsoleLoop(std::function<std::string(std::string_view)> toTerminal)
-    : toTerminal_(std::move(toTerminal)), terminal_(isatty(fileno(stderr)) != 0) {}
+ConsoleLoop::ConsoleLoop(std::string programName, std::function<std::string(std::string_view)> toTerminal)
+    : programName_(std::move(programName)),
+      toTerminal_(std::move(toTerminal)),
+      terminal_(terminal::isTerminal(terminal::Stream::Errors)) {}
 
 void ConsoleLoop::attach(Program& program) {
   program_ = &program;
@@ -28,12 +30,14 @@ void ConsoleLoop::attach(Program& program) {
   frmClean::Cleaners& cleaners = program.engine.clean.cleaners;
   for (std::size_t task = 0; task < BuiltInTasks; ++task) {
     cleaners.builtIn[task] = [this, task, clean = std::move(cleaners.builtIn[task])] {
+      endWhereInterrupted();
       tellTask(taskTable()[task].status);
       raise(clean);
     };
   }
   for (auto* run : {&cleaners.customPlugin, &cleaners.standardPlugin}) {
     *run = [this, plugin = std::move(*run)](const std::string& name) {
+      endWhereInterrupted();
       tellTask(name);
       plugin(name);
     };
@@ -46,8 +50,15 @@ void ConsoleLoop::detach() {
   task_ = tasks_ = 0;
 }
 
+void ConsoleLoop::endWhereInterrupted() {
+  if (interrupt::signal() == 0) return;
+  interrupted_ = true;
+  throw EndOfProcess{};
+}
+
 void ConsoleLoop::DoEvents() {
   if (program_ == nullptr) return;
+  if (!program_->engine.deleter->insideFile()) endWhereInterrupted();
   const std::uint64_t now = program_->engine.pc.clock->ticks();
   if (now < nextTurn_) return;
   nextTurn_ = now + TurnLength;
@@ -60,11 +71,7 @@ void ConsoleLoop::tellTask(std::string_view name) {
   if (task_ == tasks_) beginWash();
   ++task_;
   taskName_ = name;
-  if (terminal_) {
-    draw("");
-  } else {
-    std::fprintf(stderr, "%s\n", toTerminal_(name).c_str());
-  }
+  if (terminal_) draw("");
 }
 
 // The wash's own count leaves the standard plugins out.
@@ -78,27 +85,36 @@ void ConsoleLoop::beginWash() {
 void ConsoleLoop::draw(const std::string& item) {
   std::string line = std::to_string(task_) + " of " + std::to_string(tasks_) + ": " + taskName_;
   if (!item.empty()) line += " - " + item;
-  line.resize(std::min(line.size(), LineWidth));
+  const std::size_t width = terminal::width(terminal::Stream::Errors);
+  line.resize(std::min(line.size(), width - 1));  // in the last column a terminal begins the next line
   const std::size_t length = line.size();
   if (length < drawn_) line.append(drawn_ - length, ' ');
   drawn_ = length;
-  std::fprintf(stderr, "\r%s", toTerminal_(line).c_str());
-  std::fflush(stderr);
+  terminal::write(terminal::Stream::Errors, "\r" + toTerminal_(line));
+  terminal::flush(terminal::Stream::Errors);
 }
 
 void ConsoleLoop::clearLine() {
   if (drawn_ == 0) return;
-  std::fprintf(stderr, "\r%s\r", std::string(drawn_, ' ').c_str());
+  terminal::write(terminal::Stream::Errors, "\r" + std::string(drawn_, ' ') + "\r");
   drawn_ = 0;
 }
 
 void ConsoleLoop::show(std::string_view prompt, int, std::string_view title) {
-  clearLine();
   std::string line = std::string(title) + ": " + std::string(prompt);
   for (auto end = line.find("\r\n"); end != std::string::npos; end = line.find("\r\n")) {
     line.replace(end, 2, " ");
   }
-  std::fprintf(stderr, "%s\n", toTerminal_(line).c_str());
+  printLine(toTerminal_(line));
+}
+
+void ConsoleLoop::tell(const std::string& text) {
+  printLine(programName_ + ": " + text);
+}
+
+void ConsoleLoop::printLine(const std::string& text) {
+  clearLine();
+  terminal::write(terminal::Stream::Errors, text + "\n");
 }
 
 }  // namespace zub

@@ -1,5 +1,6 @@
-// The event loop and the display of a program without windows: timers are served, progress goes to standard
-// error as one moving line on a terminal and as plain lines of tasks otherwise, messages as lines.
+// The event loop and the display of a program without windows: timers are served, progress goes to standard error as one
+// moving line where that is a terminal, messages as lines. A wash that is interrupted ends in a turn, between two
+// files, or where the next task begins.
 #pragma once
 
 #include <cstdint>
@@ -15,22 +16,31 @@ class Program;
 
 class ConsoleLoop : public EventLoop, public Messages {
  public:
-  explicit ConsoleLoop(std::function<std::string(std::string_view)> toTerminal);
+  ConsoleLoop(std::string programName, std::function<std::string(std::string_view)> toTerminal);
 
   // Until a program is attached, a turn does nothing. The program tells its tasks from here on.
   void attach(Program& program);
   void detach();  // before the program goes
   void DoEvents() override;
   void show(std::string_view prompt, int style, std::string_view title) override;
-  void clearLine();  // takes the moving line away
+  void showNoProgress() { terminal_ = false; }
+  // Whether it ended a wash before its end.
+  bool interrupted() const { return interrupted_; }
+  // A line of standard error behind the program's name. The text is UTF-8.
+  void tell(const std::string& text);
 
  private:
+  void endWhereInterrupted();
   void tellTask(std::string_view name);
   void beginWash();
   void draw(const std::string& item);
+  void clearLine();  // takes the moving line away
+  void printLine(const std::string& text);
 
+  std::string programName_;
   std::function<std::string(std::string_view)> toTerminal_;
   bool terminal_;
+  bool interrupted_ = false;
   Program* program_ = nullptr;
   std::function<void()> serveTimers_;
   std::uint64_t nextTurn_ = 0;

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/console/Printable.h"
 #include "platform/Platform.h"
 #include "platform/folder/FolderTasks.h"
 
@@ -30,10 +31,12 @@ class ConsolePc {
   // The folder that holds the PC; empty for the PC that this runs on.
   virtual std::string folder() const = 0;
   virtual std::string user() const = 0;  // as given to openFolderPc
-  // Text of the PC for the terminal, one line without control characters, and words of the command line
-  // (UTF-8) for the PC.
-  virtual std::string toTerminal(std::string_view text) const = 0;
+  // Text of the PC as UTF-8, and words of the command line for the PC.
+  virtual std::string utf8(std::string_view text) const = 0;
   virtual std::string fromTerminal(std::string_view text) const = 0;
+
+  // Text of the PC for the terminal: one line without control characters.
+  std::string toTerminal(std::string_view text) const { return printable(utf8(text)); }
 };
 
 // Opens the PC in a folder. `user` goes before the one that its facts tell. PcError where it cannot be used.
@@ -41,8 +44,6 @@ std::unique_ptr<ConsolePc> openFolderPc(const std::string& folder, EventLoop& ev
                                         const std::string& commandLine,
                                         DamagedTasks damaged = DamagedTasks::Refused,
                                         const std::string& user = {});
-// The words behind the program's name, in UTF-8 whatever the system hands over.
-std::vector<std::string> commandWords(int count, char** words);
 // The PC that this runs on; null where there is none that the program could wash.
 std::unique_ptr<ConsolePc> openThisPc(EventLoop& events, Messages& messages);
 

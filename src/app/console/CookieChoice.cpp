@@ -43,7 +43,7 @@ std::vector<std::size_t> CookieChoice::of(const std::vector<CookieRow*>& rows,
   std::vector<std::size_t> places;
   if (first_ > 0) {
     if (last_ > static_cast<int>(rows.size())) {
-      throw UsageError("there is no cookie " + std::to_string(last_));
+      throw Refusal("there is no cookie " + std::to_string(last_));
     }
     for (int number = first_; number <= last_; ++number)
       places.push_back(static_cast<std::size_t>(number) - 1);
@@ -53,7 +53,7 @@ std::vector<std::size_t> CookieChoice::of(const std::vector<CookieRow*>& rows,
   for (std::size_t place = 0; place < rows.size(); ++place) {
     if (matches(codePage.upper(siteOf(rows[place]->shown)), pattern)) places.push_back(place);
   }
-  if (places.empty()) throw UsageError("there is no cookie of \"" + word_ + "\"");
+  if (places.empty()) throw Refusal("there is no cookie of \"" + word_ + "\"");
   return places;
 }
 

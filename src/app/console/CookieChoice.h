@@ -15,7 +15,7 @@ class CookieChoice {
   // UsageError where the word is a number or a range that no list can have.
   explicit CookieChoice(std::string word);
 
-  // The chosen rows, by their places. UsageError where the word names one that is not there, or none.
+  // The chosen rows, by their places. Refusal where the word names one that is not there, or none.
   std::vector<std::size_t> of(const std::vector<CookieRow*>& rows, const CodePage& codePage) const;
 
  private:

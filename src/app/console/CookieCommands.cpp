@@ -114,11 +114,16 @@ std::vector<List> netscapeLists(Engine& engine) {
 
 }  // namespace
 
-int cookiesCommand(CommandContext& context) {
-  const std::vector<std::string>& arguments = context.arguments;
+void checkCookies(const Given& given) {
+  const std::vector<std::string>& arguments = given.arguments;
   if (arguments.empty() || (arguments[0] != "ie" && arguments[0] != "netscape")) {
     throw UsageError("cookies takes \"ie\" or \"netscape\"");
   }
+  parse(arguments);
+}
+
+int cookiesCommand(CommandContext& context) {
+  const std::vector<std::string>& arguments = context.given.arguments;
   const Wanted wanted = parse(arguments);
   if (!wanted.list()) context.needAlone();
   Options options;

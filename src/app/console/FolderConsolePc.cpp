@@ -1,8 +1,8 @@
 #include <algorithm>
 
 #include "app/console/Changes.h"
+#include "app/console/Commands.h"
 #include "app/console/ConsolePc.h"
-#include "app/console/Printable.h"
 #include "app/console/RegistryLook.h"
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/FolderPc.h"
@@ -13,16 +13,13 @@ namespace zub {
 namespace {
 
 constexpr const char* NoDrive =
-    "has no drive to wash: a drive is a folder in it with one capital letter, or one that \"drive C = fixed "
-    "at "
-    "FOLDER\" in pc.txt names";
+    "has no drive to wash: a drive is a folder in it with one capital letter, or one that "
+    "\"drive C = fixed at FOLDER\" in pc.txt names";
 // Without the folders of the shell, cookies would be looked for at the root of the drive.
 constexpr const char* NoUser =
-    "is not washed: its HKEY_CURRENT_USER has no Shell Folders that name the folder of the cookies, so the "
-    "traces of "
-    "its user would not be found, and other files would be taken for them; choose a user with --user NAME, "
-    "or with "
-    "\"user = NAME\" in pc.txt (the command \"users\" lists them)";
+    "is not washed: its HKEY_CURRENT_USER has no Shell Folders that name the folder of the cookies, so the traces "
+    "of its user would not be found, and other files would be taken for them; choose a user with --user NAME, or "
+    "with \"user = NAME\" in pc.txt (the command \"users\" lists them)";
 
 class FolderConsolePc : public ConsolePc {
  public:
@@ -41,7 +38,7 @@ class FolderConsolePc : public ConsolePc {
   std::vector<std::string> failures() const override {
     const HostFailures& failures = pc_.failures();
     std::vector<std::string> texts;
-    for (const std::string& text : failures.texts()) texts.push_back(printable(text, Letters::Utf8));
+    for (const std::string& text : failures.texts()) texts.push_back(printable(text));
     if (failures.more() > 0) texts.push_back(std::to_string(failures.more()) + " more failures");
     return texts;
   }
@@ -51,7 +48,7 @@ class FolderConsolePc : public ConsolePc {
       lines.push_back(utf8FromAnsi(bins) +
                       ": no recycle bin in it is emptied: \"user = S-1-...\" tells whose is meant");
     }
-    for (std::string& line : lines) line = printable(line, Letters::Utf8);
+    for (std::string& line : lines) line = printable(line);
     return lines;
   }
   void needWashable() override {
@@ -70,9 +67,7 @@ class FolderConsolePc : public ConsolePc {
   }
   std::string folder() const override { return folder_; }
   std::string user() const override { return user_; }
-  std::string toTerminal(std::string_view text) const override {
-    return printable(utf8FromAnsi(text), Letters::Utf8);
-  }
+  std::string utf8(std::string_view text) const override { return utf8FromAnsi(text); }
   std::string fromTerminal(std::string_view text) const override { return ansiFromUtf8(text); }
 
  private:

@@ -22,7 +22,7 @@ constexpr std::size_t LongestFolder = 4096;
 constexpr const char* Usage = "import takes --registry EXPORT... and the folder to make";
 
 void print(const std::string& text) {
-  std::printf("%s\n", printable(text, Letters::Utf8).c_str());
+  std::printf("%s\n", printable(text).c_str());
 }
 
 std::size_t keysIn(const RegistryNode& node) {

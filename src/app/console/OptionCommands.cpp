@@ -1,9 +1,13 @@
 #include <algorithm>
 #include <functional>
 
+#include "app/Program.h"
 #include "app/console/Commands.h"
+#include "app/console/NearMiss.h"
+#include "app/console/OptionText.h"
 #include "app/console/Store.h"
 #include "base/Text.h"
+#include "plugins/StandardList.h"
 #include "settings/INIFile.h"
 
 namespace zub {
@@ -11,78 +15,132 @@ namespace {
 
 struct Setting {
   std::string name;
-  std::string value;
-  int highest;  // the values are 0 to this
+  int value;
+  int lowest;
+  int highest;
   std::function<void(int)> set;
+
+  std::string values() const { return std::to_string(lowest) + " to " + std::to_string(highest); }
 };
 
 void addRows(std::vector<Setting>& settings, std::string_view prefix, ListRows& rows) {
   for (int row = 0; row < rows.ListCount(); ++row) {
-    settings.push_back({std::string(prefix) + rows.List(row), rows.Selected(row) ? "1" : "0", 1,
+    settings.push_back({std::string(prefix) + rows.List(row), rows.Selected(row) ? 1 : 0, 0, 1,
                         [&rows, row](int value) { rows.Selected(row, value == 1); }});
   }
 }
 
-// Everything that can be set, in the order of the store.
+// Everything that can be set, in the order of the store. The passes of the shredder go by their number, too.
 std::vector<Setting> settingsOf(Options& options) {
   std::vector<Setting> settings;
   for (int row = 0; row < IconChecks::Count; ++row) {
-    settings.push_back({std::string(iconNames[static_cast<std::size_t>(row)]),
-                        std::to_string(options.LstIcons.Check(row)), 1,
-                        [&options, row](int value) { options.LstIcons.Check(row, value); }});
+    settings.push_back({std::string(iconNames[static_cast<std::size_t>(row)]), options.LstIcons.Check(row), 0,
+                        1, [&options, row](int value) { options.LstIcons.Check(row, value); }});
   }
   for (const FlagName& flag : flagNames) {
     CheckOption& option = options.*flag.option;
-    settings.push_back({std::string(flag.stored), std::to_string(option.Value()), 1,
-                        [&option](int value) { option.Value(value); }});
+    settings.push_back(
+        {std::string(flag.stored), option.Value(), 0, 1, [&option](int value) { option.Value(value); }});
   }
   for (const DigitName& digit : digitNames) {
     Combo& combo = options.*digit.combo;
-    settings.push_back({std::string(digit.stored), std::to_string(combo.ListIndex()), combo.ListCount() - 1,
+    const int last = combo.ListCount() - 1;
+    settings.push_back({std::string(digit.stored), combo.ListIndex(), 0, last,
                         [&combo](int value) { combo.ListIndex(value); }});
+    if (&combo != &options.cmbShredder) continue;
+    settings.push_back(
+        {"passes", combo.ListIndex() + 1, 1, last + 1, [&combo](int value) { combo.ListIndex(value - 1); }});
   }
   addRows(settings, customPluginPrefix, options.lstFiles);
   addRows(settings, standardPluginPrefix, options.standardlist);
   return settings;
 }
 
-void apply(std::vector<Setting>& settings, const std::string& argument) {
-  const auto sign = argument.rfind('=');  // a plugin's name may hold the sign
-  if (sign == std::string::npos) throw UsageError("\"" + argument + "\" is not NAME=VALUE");
-  const std::string name = argument.substr(0, sign);
+// By its name as it stands, or else without regard to case where that is clear.
+const Setting& settingNamed(const CommandContext& context, const std::vector<Setting>& settings,
+                            const std::string& name) {
+  const auto exact = std::ranges::find(settings, name, &Setting::name);
+  if (exact != settings.end()) return *exact;
+  const CodePage& codePage = *context.pc.platform().codePage;
+  const auto same = [&](const Setting& setting) {
+    return codePage.upper(setting.name) == codePage.upper(name);
+  };
+  const auto found = std::ranges::find_if(settings, same);
+  if (found != settings.end() && std::ranges::count_if(settings, same) == 1) return *found;
+  std::vector<std::string> names;
+  for (const Setting& setting : settings) names.push_back(setting.name);
+  throw Refusal("there is no setting \"" + name + "\"" + didYouMean(name, names));
+}
+
+// "NAME=VALUE"; a plugin's name may hold the sign.
+const Setting& apply(const CommandContext& context, const std::vector<Setting>& settings,
+                     const std::string& argument) {
+  const auto sign = argument.rfind('=');
   const std::string value = argument.substr(sign + 1);
-  const auto setting = std::ranges::find(settings, name, &Setting::name);
-  if (setting == settings.end()) throw UsageError("there is no setting \"" + name + "\"");
-  if (value.size() != 1 || value[0] < '0' || value[0] - '0' > setting->highest) {
-    throw UsageError("\"" + name + "\" takes 0 to " + std::to_string(setting->highest) + ", not \"" + value +
-                     "\"");
+  const Setting& setting = settingNamed(context, settings, argument.substr(0, sign));
+  const int number = value.size() == 1 && value[0] >= '0' && value[0] <= '9' ? value[0] - '0' : -1;
+  if (number < setting.lowest || number > setting.highest) {
+    throw Refusal("\"" + setting.name + "\" takes " + setting.values() + ", not \"" + value + "\"");
   }
-  setting->set(value[0] - '0');
+  setting.set(number);
+  return setting;
+}
+
+// As a start of the program reads them. What the window does when an option is clicked is done from here on.
+void readSettings(Program& program) {
+  program.plugins->RefreshPluginList();
+  listStandardPlugins(program.options.standardlist, program.catalogue);
+  INIFile store(program.engine.pc, program.options);
+  store.GetInfo();
+  store.GetInfo2();
 }
 
 }  // namespace
 
+void checkSet(const Given& given) {
+  if (given.arguments.empty()) throw UsageError("set takes NAME=VALUE");
+  for (const std::string& argument : given.arguments) {
+    if (!contains(argument, "=")) throw UsageError("\"" + argument + "\" is not NAME=VALUE");
+  }
+}
+
+void checkGet(const Given& given) {
+  if (given.arguments.size() != 1) throw UsageError("get takes one name");
+}
+
 int optionsCommand(CommandContext& context) {
-  context.needNoArguments("options");
   Store store(context.pc.platform());
   context.print("lblLastRemoval=" + store.options.lblLastRemoval.Caption);
-  for (const Setting& setting : settingsOf(store.options)) context.print(setting.name + "=" + setting.value);
+  for (const Setting& setting : settingsOf(store.options)) {
+    context.print(setting.name + "=" + std::to_string(setting.value));
+    const std::string_view text = optionText(setting.name);
+    if (!text.empty()) context.print(joined({"    ", text, " (", setting.values(), ")"}));
+  }
+  return exitStatus::Done;
+}
+
+int getCommand(CommandContext& context) {
+  Store store(context.pc.platform());
+  context.print(
+      std::to_string(settingNamed(context, settingsOf(store.options), context.given.arguments[0]).value));
   return exitStatus::Done;
 }
 
 int setCommand(CommandContext& context) {
-  if (context.arguments.empty()) throw UsageError("set takes NAME=VALUE");
   context.needAlone();
-  Store store(context.pc.platform());
-  std::vector<Setting> settings = settingsOf(store.options);
-  for (const std::string& argument : context.arguments) apply(settings, argument);
-  for (const CatalogueRow& row : store.catalogue.rows()) {
-    const std::string tick = joined({standardPluginPrefix, row.name, "=1"});
-    if (row.warns() && std::ranges::find(context.arguments, tick) != context.arguments.end()) {
-      context.tell(row.name + ": " + row.description);
-    }
+  Program program(context.pc.platform());
+  readSettings(program);
+  const std::vector<Setting> settings = settingsOf(program.options);
+  std::vector<std::string> names;
+  for (const std::string& argument : context.given.arguments) {
+    const Setting& setting = apply(context, settings, argument);
+    if (argument.ends_with('1')) names.push_back(setting.name);
   }
-  store.save();
+  for (const CatalogueRow& row : program.catalogue.rows()) {
+    const std::string name = joined({standardPluginPrefix, row.name});
+    if (row.warns() && std::ranges::count(names, name) > 0) context.tell(row.name + ": " + row.description);
+  }
+  needStoreSaved(context.pc.platform(), program.options);
   context.pc.save();
   return exitStatus::Done;
 }

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "app/console/Commands.h"
+#include "app/console/NearMiss.h"
 #include "app/console/Store.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
@@ -54,8 +55,8 @@ void showStandard(const CommandContext& context, Store& store, const CatalogueRo
   }
 }
 
-PluginFile kindOf(const CodePage& codePage, std::string_view name) {
-  const std::string upper = codePage.upper(name);
+PluginFile kindOf(std::string_view name) {
+  const std::string upper = upperAscii(name);
   if (upper.ends_with(".ZB1")) return PluginFile::Files;
   if (upper.ends_with(".ZB2")) return PluginFile::Registry;
   throw UsageError("plugin check reads .zb1 and .zb2 files");
@@ -74,7 +75,7 @@ std::vector<CheckedLine> checkFile(const CommandContext& context, Store& store, 
     }
     const auto text =
         context.pc.folder().empty() ? std::nullopt : readHostTextAt(context.pc.toTerminal(name));
-    if (!text) throw UsageError(path + ": " + failure.what());
+    if (!text) throw Refusal(path + ": " + failure.what());
     return check.readText(*text, file);
   }
 }
@@ -86,10 +87,26 @@ bool isRow(const ListRows& rows, std::string_view name) {
   return false;
 }
 
+std::string nearPlugin(const Store& store, std::string_view name) {
+  std::vector<std::string> names;
+  for (const ListRows* rows : {&store.options.lstFiles, &store.options.standardlist}) {
+    for (int row = 0; row < rows->ListCount(); ++row) names.push_back(rows->List(row));
+  }
+  return didYouMean(name, names);
+}
+
 }  // namespace
 
+void checkPluginShow(const Given& given) {
+  if (given.arguments.size() != 1) throw UsageError("plugin show takes one name");
+}
+
+void checkPluginCheck(const Given& given) {
+  if (given.arguments.empty()) throw UsageError("plugin check takes files");
+  for (const std::string& name : given.arguments) kindOf(name);
+}
+
 int pluginsCommand(CommandContext& context) {
-  context.needNoArguments("plugins");
   Store store(context.pc.platform());
   context.print("Custom plugins in " + store.plugins.CurPath() + ":");
   listRows(context, store.options.lstFiles);
@@ -99,12 +116,12 @@ int pluginsCommand(CommandContext& context) {
 }
 
 int pluginShowCommand(CommandContext& context) {
-  if (context.arguments.size() != 1) throw UsageError("plugin show takes one name");
-  const std::string& name = context.arguments[0];
+  const std::string& name = context.given.arguments[0];
   Store store(context.pc.platform());
   const CatalogueRow* standard = store.catalogue.find(name);
   const bool custom = isRow(store.options.lstFiles, name);
-  if (standard == nullptr && !custom) throw UsageError("there is no plugin \"" + name + "\"");
+  if (standard == nullptr && !custom)
+    throw Refusal("there is no plugin \"" + name + "\"" + nearPlugin(store, name));
   if (custom) showCustom(context, store, name);
   if (standard != nullptr) showStandard(context, store, *standard);
   return exitStatus::Done;
@@ -112,18 +129,17 @@ int pluginShowCommand(CommandContext& context) {
 
 // Files of one plugin that stand side by side are read as one plugin's.
 int pluginCheckCommand(CommandContext& context) {
-  if (context.arguments.empty()) throw UsageError("plugin check takes files");
   Store store(context.pc.platform());
   std::string plugin;
   PluginCheck check(store.engine);
   bool neverWorks = false;
-  for (const std::string& name : context.arguments) {
-    const PluginFile file = kindOf(*store.engine.pc.codePage, name);
+  for (const std::string& name : context.given.arguments) {
+    const PluginFile file = kindOf(name);
     const std::string base = name.substr(0, name.size() - extensionOf(file).size());
     if (base != plugin) check = PluginCheck(store.engine);
     plugin = base;
     const auto lines = checkFile(context, store, check, name, file);
-    if (context.arguments.size() > 1) context.print(name + ":");
+    if (context.given.arguments.size() > 1) context.print(name + ":");
     neverWorks |= printLines(context, lines);
   }
   return neverWorks ? exitStatus::LeftBehind : exitStatus::Done;

@@ -1,20 +1,15 @@
 #include "app/Preview.h"
 #include "app/console/Commands.h"
 #include "app/console/Report.h"
+#include "app/console/Terminal.h"
+#include "app/console/WashChoice.h"
 
 namespace zub {
 namespace {
 
-std::string counted(std::int64_t count, const char* one, const char* several) {
-  return std::to_string(count) + ' ' + (count == 1 ? one : several);
-}
-
 void printSums(const CommandContext& context, const Preview::Sums& sums) {
   context.print("");
-  context.print("Would go: " + counted(sums.files, "file", "files") + " of " +
-                counted(sums.bytes, "byte", "bytes") + ", " + counted(sums.folders, "folder", "folders") +
-                ", " + counted(sums.keys, "registry key", "registry keys") + ", " +
-                counted(sums.values, "value", "values"));
+  context.print("Would go: " + sumsText(sums));
   std::string nothing;
   for (const std::string& name : sums.foundNothing) nothing += (nothing.empty() ? "" : ", ") + name;
   if (!nothing.empty()) context.print("Nothing to remove for: " + nothing);
@@ -39,9 +34,13 @@ void printList(const CommandContext& context, Preview& preview) {
 
 }  // namespace
 
+void checkPreview(const Given& given) {
+  if (!given.arguments.empty()) throw UsageError("preview takes no arguments");
+  const WashChoice choice(given);
+}
+
 int previewCommand(CommandContext& context) {
-  const bool list = context.arguments == std::vector<std::string>{"--list"};
-  if (!list) context.needNoArguments("preview");
+  const bool list = context.given.has("--list");
   context.pc.needWashable();
   tellOddFolders(context);
   Preview preview(context.pc.platform(), context.loop, context.loop);
@@ -49,6 +48,7 @@ int previewCommand(CommandContext& context) {
   {
     const Attached attached(context.loop, program);
     program.start();
+    WashChoice(context.given).apply(program);
     preview.wash();
   }
   if (list) {
@@ -56,7 +56,7 @@ int previewCommand(CommandContext& context) {
   } else {
     context.print("PREVIEW: nothing has been removed. A wash would report:");
     context.print("");
-    printReport(context, program);
+    terminal::write(terminal::Stream::Output, reportText(context, program));
     printSums(context, preview.sums());
   }
   return tellLeftBehind(context, program, "would stay");

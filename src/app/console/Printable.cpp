@@ -18,11 +18,11 @@ void replaceHighControls(std::string& text) {
 
 }  // namespace
 
-std::string printable(std::string text, Letters letters) {
+std::string printable(std::string text) {
   for (char& c : text) {
     if (isControl(c)) c = '?';
   }
-  if (letters == Letters::Utf8) replaceHighControls(text);
+  replaceHighControls(text);
   return text;
 }
 

@@ -3,27 +3,45 @@
 #include <string>
 
 #include "app/console/OddFolders.h"
+#include "base/Numbers.h"
 #include "base/Text.h"
 
 namespace zub {
 namespace {
 
+std::string counted(std::int64_t count, const char* one, const char* several) {
+  return std::to_string(count) + ' ' + (count == 1 ? one : several);
+}
+
 // The report lies in memory with CR LF behind each line; a terminal wants no blank line at its end.
-void printLines(const CommandContext& context, std::string_view text) {
+std::string linesOf(const CommandContext& context, std::string_view text) {
   text = trimRight(text, CrLf);
-  while (!text.empty()) context.print(takeLine(text));
+  std::string lines;
+  while (!text.empty()) lines += context.pc.toTerminal(takeLine(text)) + "\n";
+  return lines;
 }
 
 }  // namespace
 
-void printReport(const CommandContext& context, Program& program) {
-  if (program.engine.clean.txtResult.empty()) return;
-  printLines(context, program.engine.clean.txtResult);
+std::string reportText(const CommandContext& context, Program& program) {
+  if (program.engine.clean.txtResult.empty()) return {};
+  const std::string report = linesOf(context, program.engine.clean.txtResult) + "\n";
+  if (context.loop.interrupted()) {
+    const std::string restored = groupedThousands(program.engine.TotalBytes);
+    return report +
+           "The wash was interrupted. Space restored so far: " + (restored.empty() ? "0" : restored) +
+           " Bytes\n";
+  }
   const frmAnimated::State& shown = program.engine.animated.peek().state;
-  context.print("");
-  context.print(shown.lblRemove.Caption);
-  context.print(shown.StatusBar1[1]);
-  context.print(program.options.lblLastRemoval.Caption);
+  return report + context.pc.toTerminal(shown.lblRemove.Caption) + "\n" +
+         context.pc.toTerminal(shown.StatusBar1[1]) + "\n" +
+         context.pc.toTerminal(program.options.lblLastRemoval.Caption) + "\n";
+}
+
+std::string sumsText(const Preview::Sums& sums) {
+  return counted(sums.files, "file", "files") + " of " + counted(sums.bytes, "byte", "bytes") + ", " +
+         counted(sums.folders, "folder", "folders") + ", " +
+         counted(sums.keys, "registry key", "registry keys") + ", " + counted(sums.values, "value", "values");
 }
 
 void tellOddFolders(const CommandContext& context) {
@@ -33,13 +51,15 @@ void tellOddFolders(const CommandContext& context) {
 }
 
 int tellLeftBehind(const CommandContext& context, const Program& program, std::string_view happened) {
-  // A PC in a folder tells by itself what could not be looked into.
-  if (context.pc.folder().empty()) {
-    for (const std::string& folder : program.engine.unread) context.tell("not looked into: " + folder);
+  const std::vector<LeftBehind>& left = program.engine.leftBehind;
+  if (left.empty()) return exitStatus::Done;
+  for (const LeftBehind& entry : left) {
+    // A PC in a folder tells by itself what could not be looked into.
+    if (entry.unread && !context.pc.folder().empty()) continue;
+    context.tell(context.pc.toTerminal(
+        joined({entry.unread ? "not looked into: " : "", entry.what, ": ", entry.why})));
   }
-  if (program.engine.leftBehind == 0) return exitStatus::Done;
-  context.tell(std::to_string(program.engine.leftBehind) + " files, folders or keys " +
-               std::string(happened));
+  context.tell(std::to_string(left.size()) + " files, folders or keys " + std::string(happened));
   return exitStatus::LeftBehind;
 }
 

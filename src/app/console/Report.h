@@ -1,8 +1,10 @@
 // What the console program prints of a wash.
 #pragma once
 
+#include <string>
 #include <string_view>
 
+#include "app/Preview.h"
 #include "app/Program.h"
 #include "app/console/Commands.h"
 
@@ -17,11 +19,13 @@ struct Attached {
   ConsoleLoop& loop;
 };
 
-// The report and the closing figures; nothing where there was no wash.
-void printReport(const CommandContext& context, Program& program);
+// The report and the closing figures, for the terminal; empty where there was no wash.
+std::string reportText(const CommandContext& context, Program& program);
+// "2 files of 14 bytes, 1 folder, 0 registry keys, 1 value"
+std::string sumsText(const Preview::Sums& sums);
 // Tells the folders that a wash takes for others than the registry means.
 void tellOddFolders(const CommandContext& context);
-// Tells how much was tried and `happened`, such as "could not be removed"; the exit status of that.
+// Tells what, how much was tried and `happened`, such as "could not be removed"; the exit status of that.
 int tellLeftBehind(const CommandContext& context, const Program& program, std::string_view happened);
 
 }  // namespace zub

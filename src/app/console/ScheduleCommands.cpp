@@ -49,8 +49,8 @@ SystemTime momentOf(Clock& clock, std::span<const std::string> words) {
     moment->wSecond = 0;
     return *moment;
   }
-  throw UsageError("\"" + joinedWords(words) + "\" is no date and time, such as " +
-                   clock.dateText(plusDays(clock.local(), 1)) + " 18:00");
+  throw Refusal("\"" + joinedWords(words) + "\" is no date and time, such as " +
+                clock.dateText(plusDays(clock.local(), 1)) + " 18:00");
 }
 
 // Windows guards its tasks itself. What the PC's tasks text says of a failure tells more than the refusal.
@@ -71,8 +71,19 @@ void needTasks(const CommandContext& context) {
 
 }  // namespace
 
+void checkSchedule(const Given& given) {
+  if (!given.arguments.empty()) throw UsageError("schedule takes \"add\", \"remove\" or nothing");
+}
+
+void checkScheduleAdd(const Given& given) {
+  if (wordsOf(given.arguments).size() < 2) throw UsageError("schedule add takes a date and a time");
+}
+
+void checkScheduleRemove(const Given& given) {
+  if (given.arguments.size() != 1) throw UsageError("schedule remove takes a number of the list");
+}
+
 int scheduleCommand(CommandContext& context) {
-  if (!context.arguments.empty()) throw UsageError("schedule takes \"add\", \"remove\" or nothing");
   int number = 0;
   for (const std::string& line : datedWashes(context.pc.platform())) {
     context.print(std::to_string(++number) + " " + line);
@@ -81,12 +92,11 @@ int scheduleCommand(CommandContext& context) {
 }
 
 int scheduleAddCommand(CommandContext& context) {
-  const std::vector<std::string> words = wordsOf(context.arguments);
-  if (words.size() < 2) throw UsageError("schedule add takes a date and a time");
+  const std::vector<std::string> words = wordsOf(context.given.arguments);
   const Platform& pc = context.pc.platform();
   const SystemTime moment = momentOf(*pc.clock, words);
   if (secondsOf(moment) <= secondsOf(pc.clock->local())) {
-    throw UsageError(joinedWords(words) + " is past: no wash would come of it");
+    throw Refusal(joinedWords(words) + " is past: no wash would come of it");
   }
   needTasks(context);
   change(context, [&] {
@@ -97,12 +107,11 @@ int scheduleAddCommand(CommandContext& context) {
 }
 
 int scheduleRemoveCommand(CommandContext& context) {
-  if (context.arguments.size() != 1) throw UsageError("schedule remove takes a number of the list");
   needTasks(context);
   const Platform& pc = context.pc.platform();
-  const int number = rowNumber(context.arguments[0]);
+  const int number = rowNumber(context.given.arguments[0]);
   if (number < 1 || number > static_cast<int>(datedWashes(pc).size())) {
-    throw UsageError("there is no dated wash " + context.arguments[0]);
+    throw Refusal("there is no dated wash " + context.given.arguments[0]);
   }
   change(context, [&] { removeDatedWash(pc, number); });
   return exitStatus::Done;

@@ -1,10 +1,10 @@
 #include "app/console/Scheduler.h"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "app/console/Printable.h"
 #include "app/console/Store.h"
+#include "app/console/Terminal.h"
 #include "base/Numbers.h"
 #include "platform/folder/FolderTasks.h"
 #include "platform/folder/HostText.h"
@@ -16,13 +16,12 @@ namespace {
 // A text that somebody is just changing, or has damaged, is told once; what was read before stays in force.
 // `told` is the failure of the last time.
 template <class Work>
-void guarded(std::string& told, Work work) {
+void guarded(const CommandContext& context, std::string& told, Work work) {
   try {
     work();
     told.clear();
   } catch (const std::exception& error) {
-    if (told != error.what())
-      std::fprintf(stderr, "%s: %s\n", programName, printableLines(error.what()).c_str());
+    if (told != error.what()) context.tell(printableLines(error.what()));
     told = error.what();
   }
 }
@@ -44,9 +43,9 @@ void Scheduler::step(std::int64_t passing) {
   const SystemTime now = clock_.local();
   if (now.wMinute != minute_) {
     minute_ = now.wMinute;
-    guarded(optionsFailure_, [this] { readOptions(); });
+    guarded(context_, optionsFailure_, [this] { readOptions(); });
   }
-  guarded(tasksFailure_, [this] { readTasks(); });
+  guarded(context_, tasksFailure_, [this] { readTasks(); });
   const int due = due_.look(times_, now, passing);
   for (int start = 0; start < due; ++start) waiting_.push_back({parameters_, startCommand});
   automatic_.Timer_Tick();
@@ -93,8 +92,8 @@ void Scheduler::tellNext(const SystemTime& now) {
   }
   if (next == toldNext_) return;
   toldNext_ = next;
-  std::printf("%s\n", next.c_str());
-  std::fflush(stdout);
+  terminal::write(terminal::Stream::Output, next + "\n");
+  terminal::flush(terminal::Stream::Output);
 }
 
 // The interval's two options, as the store keeps them now.
@@ -114,16 +113,16 @@ void Scheduler::readOptions() {
 bool Scheduler::start(const Start& what) {
   bool done = true;
   std::string told;
-  guarded(told, [&] {
+  guarded(context_, told, [&] {
     const auto pc = openPc(what.commandLine);
     CommandContext started{*pc, context_.loop, {}};
     try {
       runCommand(started, what.command);
     } catch (const BusyError& busy) {
-      if (!waits_) std::fprintf(stderr, "%s: %s\n", programName, busy.what());
+      if (!waits_) context_.tell(busy.what());
       done = false;
     }
-    std::fflush(stdout);
+    terminal::flush(terminal::Stream::Output);
   });
   waits_ = !done;
   return done;

@@ -2,10 +2,6 @@
 
 namespace zub {
 
-std::vector<std::string> commandWords(int count, char** words) {
-  return {words + 1, words + count};
-}
-
 std::unique_ptr<ConsolePc> openThisPc(EventLoop&, Messages&) {
   return nullptr;
 }

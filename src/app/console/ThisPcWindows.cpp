@@ -1,6 +1,4 @@
 #include "app/console/ConsolePc.h"
-#include "app/console/Printable.h"
-#include "platform/host/win32/NtCalls.h"
 #include "platform/win32/Text.h"
 #include "platform/win32/Win32Platform.h"
 #include "platform/win32/Win32SystemFolders.h"
@@ -38,12 +36,8 @@ class ThisPc : public ConsolePc {
   void needWritable() override {}
   std::string folder() const override { return {}; }
   std::string user() const override { return {}; }
-  std::string toTerminal(std::string_view text) const override {
-    return printable(std::string(text), Letters::OneByte);
-  }
-  std::string fromTerminal(std::string_view text) const override {
-    return narrow(wideName(std::string(text)));
-  }
+  std::string utf8(std::string_view text) const override { return utf8FromWide(untoldWide(text)); }
+  std::string fromTerminal(std::string_view text) const override { return told(wideFromUtf8(text)); }
 
  private:
   NoTray tray_;
@@ -53,16 +47,6 @@ class ThisPc : public ConsolePc {
 };
 
 }  // namespace
-
-// The system hands them over in its code page.
-std::vector<std::string> commandWords(int count, char** words) {
-  std::vector<std::string> result(words + 1, words + count);
-  for (std::string& word : result) {
-    const std::wstring text = wide(word);
-    setName(word, text.data(), text.size());
-  }
-  return result;
-}
 
 std::unique_ptr<ConsolePc> openThisPc(EventLoop& events, Messages& messages) {
   return std::make_unique<ThisPc>(events, messages);

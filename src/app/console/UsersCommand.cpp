@@ -4,7 +4,6 @@
 namespace zub {
 
 int usersCommand(CommandContext& context) {
-  context.needNoArguments("users");
   const Platform& pc = context.pc.platform();
   for (const RegistryUser& user : usersOf(*pc.registry, pc.folders->windows())) {
     context.printRow({user.branch, user.profile});

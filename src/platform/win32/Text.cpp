@@ -36,6 +36,22 @@ std::string narrow(std::wstring_view text) {
   return result;
 }
 
+std::wstring wideFromUtf8(std::string_view text) {
+  std::wstring result(text.size(), L'\0');  // at most one unit for each byte
+  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
+                                         result.data(), static_cast<int>(result.size()));
+  result.resize(static_cast<std::size_t>(length));
+  return result;
+}
+
+std::string utf8FromWide(std::wstring_view text) {
+  std::string result(text.size() * 3, '\0');  // the most that a unit takes
+  const int length = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
+                                         result.data(), static_cast<int>(result.size()), nullptr, nullptr);
+  result.resize(static_cast<std::size_t>(length));
+  return result;
+}
+
 bool isNtFamily() {
   static const bool nt = (GetVersion() & 0x80000000) == 0;
   return nt;
