@@ -22,10 +22,11 @@ check "the sample lacks registry entries: $(head -3 "$work/missing")" [ ! -s "$w
 run 1 --pc "$pc" wash
 
 # No progress where there is no terminal, only what stays; and the report, a heading for each task.
-stays='zub: C:\WINDOWS\TEMP\'
+name=$(basename "${program[-1]}" .exe)
+stays="$name: C:\\WINDOWS\\TEMP\\"
 check "other than what stays is told" diff "$work/err" <(printf '%s\n' "$stays~DF3A21.TMP: Permission denied" \
   "$stays"VBE'\MSForms.exd: Permission denied' "$stays"'VBE: Permission denied' \
-  "zub: 3 files, folders or keys could not be removed")
+  "$name: 3 files, folders or keys could not be removed")
 says Zubrone
 check "the headings differ" [ "$(grep -c '^ZUB has cleaned .*, with the following results:$' "$work/out")" -eq 28 ]
 locked=$(grep -c '^	Permission denied The file C:\\WINDOWS\\TEMP\\.* is locked or is on a read only drive/network' "$work/out")
