@@ -59,6 +59,9 @@ std::wstring withoutStandIns(std::wstring path) {
 
 void widen(const WIN32_FIND_DATAA& found, WIN32_FIND_DATAW& result) {
   result.dwFileAttributes = found.dwFileAttributes;
+  result.ftCreationTime = found.ftCreationTime;
+  result.ftLastAccessTime = found.ftLastAccessTime;
+  result.ftLastWriteTime = found.ftLastWriteTime;
   result.nFileSizeHigh = found.nFileSizeHigh;
   result.nFileSizeLow = found.nFileSizeLow;
   result.dwReserved0 = 0;
