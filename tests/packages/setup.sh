@@ -39,7 +39,7 @@ snapshot() {
     "$wine" reg export $hive 'C:\windows\temp\exported.reg' /y >/dev/null 2>&1 || fail "reg export $hive"
     iconv -f UTF-16 -t UTF-8 "$pc/windows/temp/exported.reg"
   done | tr -d '\r' | awk '
-    /^\[/ { noted = /\\Wine\\(MenuFiles|Temporary System Parameters)|\\FileRenameOperations|\\ServiceCurrent\]/ }
+    /^\[/ { noted = /\\Wine\\(MenuFiles|WineDbg|Temporary System Parameters)|\\FileRenameOperations|\\ServiceCurrent\]/ }
     /^"PendingFileRename/ { pending = 1 }
     !noted && !pending && !/^$/
     pending { pending = /\\$/ }' >"$work/$1.reg"
@@ -68,17 +68,16 @@ task=$(find "$pc/windows" -iname 'ZUB.job')
 echo kept >"$pc/ZUBKeepNS6.inf"
 echo mine >"$installed/Plugins/Mine.zb1"
 "$wine" "C:\\Program Files\\Zubrane\\zub.exe" >/dev/null 2>&1 &
-# held PATTERN: a program runs from a file of this name.
-held() { find /proc/[0-9]*/fd -lname "$1" 2>/dev/null | grep -q .; }
-until_true held '*/Zubrane/zub.exe'
+runs() { "$wine" winedbg --command "info wnd" 2>/dev/null | grep -q ZubraneTray; }
+until_true runs
 
 # Over itself, while it runs: it is asked to end.
 "$wine" "$setup" /S /AllUsers /NoDesktop || fail "the setup program, again: $?"
-held '*/Zubrane/zub.exe' && fail "the running program did not end"
+runs && fail "the running program did not end"
 
 "$wine" "$installed/Uninstall.exe" /S /AllUsers || fail "the uninstaller: $?"
 # It works from a copy of itself.
-uninstalled() { [ ! -e "$installed/Uninstall.exe" ] && ! held '*/~nsu*'; }
+uninstalled() { [ ! -e "$installed/Uninstall.exe" ] && ! find /proc/[0-9]*/fd -lname '*/~nsu*' 2>/dev/null | grep -q .; }
 until_true uninstalled
 gone "$installed/zub.exe"
 gone "$task"
