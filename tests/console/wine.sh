@@ -141,3 +141,19 @@ run 0 --pc 'C:\Café' set chkTempFolder=1
 run 0 --pc 'C:\Café' wash
 
 "$emulator" --stop
+
+# The registry of a PC that is not running, and back: what a wash of its export changed is taken by the PC's own regedit.
+"$emulator" reg import 'C:\seed.reg' >/dev/null 2>&1 || fail "the registry cannot be seeded again"
+exported HKEY_CURRENT_USER >"$work/registry"
+for key in "${traces[@]}"; do grep -Fxq -e "$key" "$work/registry" || fail "is not seeded: $key"; done
+cp "$pc/exported.reg" "$pc/Café/registry.reg"
+run 0 --pc 'C:\Café' set chkDocHistory=1 chkFindHistory=1 chkRunHistory=1 chkWMP=1 chkIE=1 chkIEAutocomplete=1 \
+  "ZUBStandardPlugin Windows Paint=1"
+run 0 --pc 'C:\Café' wash
+here "$pc/Café/registry.reg.before"
+"$emulator" regedit /S 'C:\Café\changes.reg' >/dev/null 2>&1 || fail "regedit does not take the changes"
+exported HKEY_CURRENT_USER >"$work/registry"
+for key in "${traces[@]}"; do
+  [[ $key == *Garden* ]] || ! grep -Fxq -e "$key" "$work/registry" || fail "is there after the import: $key"
+done
+for key in "${decoys[@]}"; do grep -Fxq -e "$key -> File1" "$work/registry" || fail "went with the import: $key"; done
