@@ -148,13 +148,17 @@ TEST_CASE("facts about files and drives") {
   CHECK(failure([&] { files.open("F:\\f", OpenMode::Input); }) == 76);
 }
 
-TEST_CASE("an 8.3 name that no disk keeps leads nowhere, which is told") {
+TEST_CASE("a name that no disk can have leads nowhere, which is told") {
   Fenced fenced;
   fenced.files().createFolder("C:\\Program Files\\Long name");
-  for (const char* path : {"C:\\PROGRA~9\\x", "C:\\Program Files\\~sort1.tmp", "C:\\Program Files\\LONGNA~9"})
+  const std::string endless(300, 'x');
+  for (const std::string& path :
+       {std::string("C:\\PROGRA~9\\x"), std::string("C:\\Program Files\\~sort1.tmp"),
+        std::string("C:\\Program Files\\LONGNA~9"), "C:\\" + endless + "\\x"})
     CHECK_FALSE(fenced.files().fileExists(path));
   const std::set<std::string> told{"C/PROGRA~9: an 8.3 name that leads nowhere",
-                                   "C/Program Files/LONGNA~9: an 8.3 name that leads nowhere"};
+                                   "C/Program Files/LONGNA~9: an 8.3 name that leads nowhere",
+                                   "C/" + endless + ": Bad file name or number"};
   CHECK(fenced.pc->failures().texts() == told);
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t MostTexts = 100;
 
-// The others tell what is there, or that nothing is.
+// The others tell what is there, or that nothing is. A name that no host can have leads nowhere by mistake.
 bool isFailure(HostError error) {
   switch (error) {
     case HostError::NoRights:
@@ -18,6 +18,7 @@ bool isFailure(HostError error) {
     case HostError::DiskFull:
     case HostError::TooManyOpen:
     case HostError::DeviceFailure:
+    case HostError::BadName:
       return true;
     default:
       return false;
