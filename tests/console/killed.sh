@@ -46,7 +46,7 @@ run 0 --pc "$work/first" set chkScanDisk=1
 for name in work{1..3}.tmp; do head -c 3000 /dev/zero | tr '\0' x >"$work/first/C/WINDOWS/TEMP/$name"; done
 for row in "2 130 unlinkat 0" "15 143 unlinkat 0" "1 129 pwrite 1"; do
   read -r signal status call shred <<<"$row"
-  run 0 --pc "$work/first" set chkBleach="$shred"
+  run 0 --pc "$work/first" set chkBleach="$shred" passes=2  # what a pass wrote goes to the disk at its end
   makePc
   echo lost >"$pc/C/FILE0000.CHK"
   : >"$calls"
