@@ -136,12 +136,12 @@ class TestGrip : public FileGrip {
   std::uint32_t attributes() override { return grip_->attributes(); }
   void resetAttributes() override { grip_->resetAttributes(); }
   std::int64_t length(ReadOnlyBit bit) override {
-    log_({"length of ", path_});
+    log_({"  length"});
     faults_.strike(Call::OpenedLength, path_);
     return grip_->length(bit);
   }
   std::unique_ptr<FileChannel> open() override {
-    log_({"open to write over ", path_});
+    log_({"  open to write over"});
     faults_.strike(Call::Open, path_);
     return std::make_unique<TestChannel>(grip_->open(), faults_, log_, path_);
   }
@@ -150,7 +150,7 @@ class TestGrip : public FileGrip {
     return grip_->removable(how);
   }
   void remove() override {
-    log_({"remove ", path_});
+    log_({"  remove"});
     faults_.strike(Call::Remove, path_);
     grip_->remove();
   }
