@@ -6,7 +6,9 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace zub {
 
@@ -114,6 +116,10 @@ class Registry {
   // the 9x family and is refused with AccessDenied on the NT family.
   virtual RegistryStatus deleteKey(RegistryKey key, std::string_view path) = 0;
   virtual RegistryStatus close(RegistryKey key) = 0;
+
+  // Of a hive that is no tree of its own: the keys that it shows, by their paths from their own hive's name on. What is
+  // in several counts in the first.
+  virtual std::vector<std::string> shownBy(Hive which) const = 0;
 };
 
 // Closes a key when the scope ends.

@@ -39,7 +39,8 @@ namespace zub {
 
 class FolderContractPc : public TestPc {
  public:
-  explicit FolderContractPc(const char* family) : TestPc({std::string("family = ") + family}) {
+  explicit FolderContractPc(const char* family, std::string_view registry = {}, const char* fact = "")
+      : TestPc({std::string("family = ") + family, fact}, registry) {
     TestPc::folder(folder());
   }
   std::string folder() const { return "C:\\Scratch"; }

@@ -258,4 +258,68 @@ TEST_CASE_TEMPLATE("registry: each told name leads back to its own key", Pc, CON
   CHECK(registry.enumKey(key.get(), 1, name.data(), length) == status::NoMoreItems);
 }
 
+// Its user is a branch of all users, and its classes are a part of the machine.
+struct JoinedPc : FolderContractPc {
+  JoinedPc()
+      : FolderContractPc("nt",
+                         "REGEDIT4\n[HKEY_USERS\\S-1\\Software]\n[HKEY_LOCAL_MACHINE\\Software\\Classes]\n",
+                         "user = S-1") {}
+  void wideKey(std::u16string_view name) {
+    TestPc::key("HKEY_USERS\\S-1\\" + key() + '\\' + std::string(name.begin(), name.end()));
+  }
+};
+using PretendingJoined = Pretending<JoinedPc>;
+#ifdef _WIN32
+#define JOINED_PCS JoinedPc, PretendingJoined, Win32ContractPc, PretendingWin32
+#else
+#define JOINED_PCS JoinedPc, PretendingJoined
+#endif
+
+TEST_CASE_TEMPLATE("registry: what a hive shows of another one is the same by both names", Pc, JOINED_PCS) {
+  Pc pc;
+  Registry& registry = *pc.platform().registry;
+  struct Name {
+    Hive hive;
+    std::string path;
+    bool has(Registry& registry) const {
+      return OpenKey(registry).open(hive, path, access::Read) == status::Success;
+    }
+  };
+  // The last of the keys that a hive shows: where a key is made by the hive's name.
+  const auto lastShown = [&](Hive hive) -> Name {
+    const std::vector<std::string> shown = registry.shownBy(hive);
+    if (shown.empty()) return {hive, {}};
+    const auto end = shown.back().find('\\');
+    const auto row = std::ranges::find(HiveNames, shown.back().substr(0, end), &HiveName::name);
+    REQUIRE(row != HiveNames.end());
+    return {row->hive, shown.back().substr(end + 1) + '\\'};
+  };
+  const auto deleteKey = [&](const Name& name) {
+    return registry.deleteKey(registry.hive(name.hive), name.path);
+  };
+
+  for (const Hive hive : {Hive::CurrentUser, Hive::ClassesRoot}) {
+    CAPTURE(static_cast<std::uint32_t>(hive));
+    const bool user = hive == Hive::CurrentUser;
+    const std::string scratch = user ? pc.key() : "ZubraneTest";
+    const Name shown = lastShown(hive);
+    REQUIRE(shown.hive != hive);
+    for (const bool goesByHive : {true, false}) {
+      const Name byHive{hive, scratch + "\\a"};
+      const Name byOther{shown.hive, shown.path + scratch + "\\a"};
+      if (user && goesByHive)
+        pc.wideKey(u"a");  // also by a PC that pretends to remove what is there
+      else if (OpenKey(registry).create(hive, byHive.path, access::All) != status::Success)
+        continue;  // no rights to the machine's classes
+      CHECK(byHive.has(registry));
+      CHECK(byOther.has(registry));
+      CHECK(deleteKey(goesByHive ? byHive : byOther) == status::Success);
+      CHECK_FALSE(byHive.has(registry));
+      CHECK_FALSE(byOther.has(registry));
+    }
+    deleteKey({hive, scratch});
+    CHECK_FALSE(Name{shown.hive, shown.path + scratch}.has(registry));
+  }
+}
+
 }  // namespace zub

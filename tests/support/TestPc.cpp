@@ -16,10 +16,12 @@ constexpr std::string_view ShellFolders =
     "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
 
 // Makes a PC with these facts in a folder, as yet without folders of its own, and gives that folder.
-const std::string& preparePc(TempFolder& folder, const std::vector<std::string>& facts) {
+const std::string& preparePc(TempFolder& folder, const std::vector<std::string>& facts,
+                             std::string_view registry) {
   std::string text;
   for (const std::string& fact : facts) text += fact + "\n";
   writeHostFile(folder.dir(), PcFacts::FileName, text);
+  if (!registry.empty()) writeHostFile(folder.dir(), FolderPc::RegistryName, registry);
   folder.dir().makeDir("C");
   return folder.path();
 }
@@ -40,8 +42,8 @@ void require(HostError error, const FolderPath& path) {
 
 class TestPc::Impl {
  public:
-  Impl(TestPc& owner, const std::vector<std::string>& facts)
-      : pc(preparePc(temp, facts)),
+  Impl(TestPc& owner, const std::vector<std::string>& facts, std::string_view text)
+      : pc(preparePc(temp, facts, text)),
         disk(pc.driveFolders(), pc.facts(), failures),
         log(owner),
         files(pc.files, fileFaults, log),
@@ -106,7 +108,8 @@ class TestPc::Impl {
   Platform platform;
 };
 
-TestPc::TestPc(std::vector<std::string> facts) : impl_(std::make_unique<Impl>(*this, facts)) {}
+TestPc::TestPc(std::vector<std::string> facts, std::string_view registry)
+    : impl_(std::make_unique<Impl>(*this, facts, registry)) {}
 TestPc::~TestPc() = default;
 
 Platform& TestPc::platform() {

@@ -21,7 +21,8 @@ class TestPc {
   // A Windows 98 PC: drive C: (fixed) with C:\WINDOWS, C:\WINDOWS\TEMP and C:\Program Files\Zubrane (the
   // program's folder), current folder C:\, an empty registry with its hives. `facts` are further lines of
   // pc.txt, such as "family = nt" or "drive D = fixed"; a line given here wins over the default.
-  explicit TestPc(std::vector<std::string> facts = {});
+  // `registry` is what it holds at first, as the text of an export.
+  explicit TestPc(std::vector<std::string> facts = {}, std::string_view registry = {});
   ~TestPc();
   TestPc(const TestPc&) = delete;
   TestPc& operator=(const TestPc&) = delete;

@@ -251,6 +251,7 @@ class TestRegistry : public Registry {
       : registry_(registry), faults_(faults), log_(log) {}
 
   RegistryKey hive(Hive which) const override { return registry_.hive(which); }
+  std::vector<std::string> shownBy(Hive which) const override { return registry_.shownBy(which); }
   RegistryStatus close(RegistryKey key) override {
     log_({"  close"});
     return registry_.close(key);

@@ -239,4 +239,12 @@ RegistryStatus FolderRegistry::close(RegistryKey key) {
   return resolve(key).status;
 }
 
+std::vector<std::string> FolderRegistry::shownBy(Hive which) const {
+  for (std::size_t i = 0; i < HiveNames.size(); ++i) {
+    const RegistryNode& shown = tree_.shown(i);
+    if (HiveNames[i].hive == which && shown.parent != nullptr) return {shown.path()};
+  }
+  return {};
+}
+
 }  // namespace zub

@@ -39,6 +39,7 @@ class FolderRegistry : public Registry {
   RegistryStatus deleteValue(RegistryKey key, std::string_view name) override;
   RegistryStatus deleteKey(RegistryKey key, std::string_view path) override;
   RegistryStatus close(RegistryKey key) override;
+  std::vector<std::string> shownBy(Hive which) const override;
 
   // The path of an open key from its hive's name on; empty where the handle is not one.
   std::string pathOf(RegistryKey key);

@@ -86,6 +86,22 @@ PretendRegistry::PretendRegistry(Registry& beneath, const CodePage& codePage, bo
     node->hive = beneath.hive(row.hive);
     node->name = row.name;
   }
+  for (std::size_t i = 0; i < hives_.size(); ++i) join(*hives_[i], beneath.shownBy(HiveNames[i].hive));
+}
+
+void PretendRegistry::join(Node& hive, const std::vector<std::string>& shown) {
+  for (const std::string_view path : shown) {
+    const auto end = path.find('\\');
+    const auto root =
+        std::ranges::find(hives_, path.substr(0, end), [](const auto& node) { return node->name; });
+    const Place place = locate(**root, path.substr(end + 1));
+    Node* node = place.node;
+    for (const std::string_view part : place.rest) node = &child(*node, part);
+    if (shown.size() > 1)
+      hive.shows.push_back(node);
+    else
+      node->shownBy = &hive;
+  }
 }
 
 std::string PretendRegistry::pathBeneath(const Node& node) {
@@ -114,7 +130,7 @@ PretendRegistry::Place PretendRegistry::locate(Node& from, std::string_view path
     if (place.rest.empty()) {
       const auto known = place.node->children.find(upper(part));
       if (known != place.node->children.end() && !known->second->gone) {
-        place.node = known->second.get();
+        place.node = known->second->shownBy != nullptr ? known->second->shownBy : known->second.get();
         continue;
       }
       place.missing = known != place.node->children.end() || place.node->own;
@@ -132,7 +148,7 @@ PretendRegistry::Node& PretendRegistry::child(Node& parent, std::string_view nam
     node->hive = parent.hive;
     node->name = name;
   }
-  return *node;
+  return node->shownBy != nullptr ? *node->shownBy : *node;
 }
 
 // Finds the key, and opens it beneath where it is not an own one.
@@ -152,6 +168,15 @@ RegistryStatus PretendRegistry::reach(const Place& place, std::uint32_t rights, 
   return status::Success;
 }
 
+RegistryStatus PretendRegistry::find(Node& from, std::string_view path, std::uint32_t rights, Slot& found) {
+  if (from.shows.empty() || path.empty()) return reach(locate(from, path), rights, found);
+  RegistryStatus result = status::FileNotFound;
+  for (Node* part : from.shows) {
+    if (result == status::FileNotFound) result = reach(locate(*part, path), rights, found);
+  }
+  return result;
+}
+
 RegistryKey PretendRegistry::keep(const Slot& slot) {
   open_[++last_] = slot;
   return last_;
@@ -162,7 +187,7 @@ RegistryStatus PretendRegistry::open(RegistryKey parent, std::string_view path, 
   const Opened from = resolve(parent);
   if (from.status != status::Success) return from.status;
   Slot slot;
-  const RegistryStatus result = reach(locate(*from.slot.node, path), rights, slot);
+  const RegistryStatus result = find(*from.slot.node, path, rights, slot);
   if (result == status::Success) opened = keep(slot);
   return result;
 }
@@ -171,18 +196,19 @@ RegistryStatus PretendRegistry::create(RegistryKey parent, std::string_view path
                                        RegistryKey& opened) {
   const Opened from = resolve(parent);
   if (from.status != status::Success) return from.status;
+  Node& above = from.slot.node->shows.empty() ? *from.slot.node : *from.slot.node->shows.back();
   Slot slot;
   RegistryStatus result = status::FileNotFound;
-  while ((result = reach(locate(*from.slot.node, path), rights, slot)) == status::FileNotFound) {
+  while ((result = find(*from.slot.node, path, rights, slot)) == status::FileNotFound) {
     // The first key on the way that is not there is made, then the next one.
-    Place place = locate(*from.slot.node, path);
+    Place place = locate(above, path);
     while (!place.missing) {
       Slot there;
       Place next{place.node, {place.rest.front()}};
       const RegistryStatus present = reach(next, access::Read, there);
       if (present == status::Success) {
         if (there.beneath != 0) beneath_.close(there.beneath);
-        place = locate(*from.slot.node, path);
+        place = locate(above, path);
       } else if (present == status::FileNotFound) {
         place.missing = true;
       } else {
@@ -296,11 +322,10 @@ RegistryStatus PretendRegistry::deleteKey(RegistryKey key, std::string_view path
   const Opened from = resolve(key);
   if (from.status != status::Success) return from.status;
   Slot target;
-  const RegistryStatus reached = reach(locate(*from.slot.node, path), access::Read, target);
+  const RegistryStatus reached = find(*from.slot.node, path, access::Read, target);
   if (target.beneath != 0) beneath_.close(target.beneath);
   if (reached != status::Success) return reached;
   Node& node = *target.node;
-  if (node.parent == nullptr) return status::AccessDenied;
   const RegistryStatus allowed = mayDelete(node);
   if (allowed != status::Success) return allowed;
   const RegistryStatus loaded = loadContent(*node.parent);
@@ -316,6 +341,7 @@ RegistryStatus PretendRegistry::deleteKey(RegistryKey key, std::string_view path
 
 // Whether the key could go, with all below it where it goes with its subkeys.
 RegistryStatus PretendRegistry::mayDelete(Node& node) {
+  if (node.parent == nullptr) return status::AccessDenied;
   if (!node.own) {
     const BeneathKey key(beneath_, node.hive, pathBeneath(node), access::Delete);
     if (key.opened() != status::Success) return key.opened();
@@ -364,6 +390,7 @@ void PretendRegistry::tellRemoved(Node& node, const std::string& path, const Tel
     const bool known = node.children.contains(upper(name));
     if (!known && !node.gone && !node.own) continue;
     Node& below = child(node, name);
+    if (below.parent == nullptr) continue;  // a hive's, which tells it
     if (!known) below.gone = true;
     tellRemoved(below, path + '\\' + name, tell);
   }

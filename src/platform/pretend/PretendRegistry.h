@@ -1,6 +1,8 @@
 // A registry that only pretends to change: it reads through to another one and keeps every change in memory.
 // A key answers with the statuses that the registry beneath would give, whose rights are asked and never used.
-// What other programs change beneath meanwhile shows in keys that were not changed here.
+// What other programs change beneath meanwhile shows in keys that were not changed here. What a hive shows of another one
+// is the same here by both names, and told by the hive's. A hive that shows several keys is searched through them; what is
+// in two of them is taken for the first one's alone.
 #pragma once
 
 #include <functional>
@@ -37,6 +39,7 @@ class PretendRegistry : public Registry {
   RegistryStatus deleteValue(RegistryKey key, std::string_view name) override;
   RegistryStatus deleteKey(RegistryKey key, std::string_view path) override;
   RegistryStatus close(RegistryKey key) override;
+  std::vector<std::string> shownBy(Hive which) const override { return beneath_.shownBy(which); }
 
   // A key that is there beneath and not here, or one of its values; `key` begins with its hive's name and is spelled
   // as it is beneath. Keys come before what they hold.
@@ -65,7 +68,9 @@ class PretendRegistry : public Registry {
     std::string name;        // as asked for
     bool own = false;        // made here: nothing of the registry beneath shows in it
     bool gone = false;
-    std::unique_ptr<Content> content;                       // once it has changed; always, for an own one
+    Node* shownBy = nullptr;           // the hive that shows this key: all that is known of it is there
+    std::vector<Node*> shows = {};     // of a hive that shows several
+    std::unique_ptr<Content> content;  // once it has changed; always, for an own one
     std::map<std::string, std::unique_ptr<Node>> children;  // by folded name
   };
   struct Slot {
@@ -88,7 +93,9 @@ class PretendRegistry : public Registry {
   using Tell = std::function<void(const Removed&)>;
 
   Opened resolve(RegistryKey key);
+  void join(Node& hive, const std::vector<std::string>& shown);
   Place locate(Node& from, std::string_view path) const;
+  RegistryStatus find(Node& from, std::string_view path, std::uint32_t rights, Slot& found);
   RegistryStatus reach(const Place& place, std::uint32_t rights, Slot& reached);
   RegistryKey keep(const Slot& slot);
   Node& child(Node& parent, std::string_view name);

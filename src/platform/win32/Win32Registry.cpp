@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/win32/Text.h"
+#include "platform/win32/UserSid.h"
 
 namespace zub {
 namespace {
@@ -41,6 +42,27 @@ std::optional<std::string> beyondCodePage(HKEY key, const std::wstring& name) {
   text.resize(size / sizeof(wchar_t));
   if (wide(narrow(text)) == text) return std::nullopt;
   return told(text);
+}
+
+bool isBranch(const std::string& name) {
+  HKEY key = nullptr;
+  if (name.empty() || RegOpenKeyExA(HKEY_USERS, name.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS)
+    return false;
+  RegCloseKey(key);
+  return true;
+}
+
+// The name of the branch of all users that is this one's; empty where there is none. Users of the 9x family who have no
+// branch of their own share one.
+std::string userBranch() {
+  std::string name = userSid();
+  if (!isNtFamily()) {
+    char user[256];
+    DWORD length = sizeof user;
+    name = GetUserNameA(user, &length) != 0 ? user : "";
+    if (!isBranch(name)) name = ".Default";
+  }
+  return isBranch(name) ? name : "";
 }
 
 }  // namespace
@@ -166,6 +188,15 @@ RegistryStatus Win32Registry::deleteKey(RegistryKey key, std::string_view path) 
 
 RegistryStatus Win32Registry::close(RegistryKey key) {
   return RegCloseKey(handleOf(key));
+}
+
+// A user's own classes are in front of the machine's. The 9x family has the machine's alone.
+std::vector<std::string> Win32Registry::shownBy(Hive which) const {
+  constexpr const char* classes = "HKEY_LOCAL_MACHINE\\Software\\Classes";
+  if (which == Hive::ClassesRoot && !isNtFamily()) return {classes};
+  if (which == Hive::ClassesRoot) return {"HKEY_CURRENT_USER\\Software\\Classes", classes};
+  const std::string branch = which == Hive::CurrentUser ? userBranch() : std::string();
+  return branch.empty() ? std::vector<std::string>() : std::vector{"HKEY_USERS\\" + branch};
 }
 
 }  // namespace zub

@@ -22,6 +22,7 @@ class Win32Registry : public Registry {
   RegistryStatus deleteValue(RegistryKey key, std::string_view name) override;
   RegistryStatus deleteKey(RegistryKey key, std::string_view path) override;
   RegistryStatus close(RegistryKey key) override;
+  std::vector<std::string> shownBy(Hive which) const override;
 };
 
 }  // namespace zub
