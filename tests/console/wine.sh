@@ -83,6 +83,22 @@ says "chkTempFolder=1"
 says "chkNetscape=0"
 says "ZUBStandardPlugin Windows Paint=1"
 
+# A preview of it changes nothing, and what it lists is what the wash then removes.
+whole() {
+  exported 'HKEY_CURRENT_USER\Software' >"$work/keys"
+  cat "$work/exported.reg"
+  find "$pc" -mindepth 1 ! -name exported.reg -printf '%P %s %m %T@\n' | sort
+}
+whole >"$work/before"
+cp "$work/keys" "$work/keys before"
+run 0 preview --list
+mv "$work/out" "$work/listed"
+whole >"$work/after"
+check "a preview changes the PC: $(diff "$work/before" "$work/after" | head -5)" cmp -s "$work/before" "$work/after"
+for path in "${going[@]}"; do
+  grep -Fixq -e "file	C:${path//\//\\}" "$work/listed" || fail "the preview does not list $path"
+done
+
 refused "nobody can be asked here: wash this PC with --yes" wash
 run 0 wash --yes
 for text in "	Deleting file old.tmp" "	Deleting file read-only.tmp" "	Deleting file Diary.lnk" "	Deleting file FILE0000.CHK" \
@@ -98,6 +114,11 @@ done
 
 exported 'HKEY_CURRENT_USER\Software' >"$work/registry"
 for key in "${traces[@]}"; do ! grep -Fxq -e "$key" "$work/registry" || fail "is there: $key"; done
+comm -23 "$work/keys before" "$work/registry" | grep -v '^HKEY_CURRENT_USER\\Software\\ZUB' >"$work/removed"
+sed -nE 's/^key\t//p; s/^value\t(.*)\t/\1 -> /p' "$work/listed" | sort | diff - "$work/removed" >"$work/differs" ||
+  fail "other keys and values go than the preview lists: $(head -5 "$work/differs")"
+sed -nE 's/^(file|folder)\tC://p' "$work/listed" | tr '\\' / >"$work/paths"
+while read -r path; do gone "$pc$path"; done <"$work/paths"
 for key in "${decoys[@]}"; do grep -Fxq -e "$key -> File1" "$work/registry" || fail "is gone: $key"; done
 for line in '"chkTempFolder"="1"' '"chkNetscape"="0"' '"ZUBPlugin Garden"="1"' '"ZUBPath"="C:\\Program Files\\'; do
   grep -Fq -e "$line" "$work/exported.reg" || fail "is not stored: $line"
