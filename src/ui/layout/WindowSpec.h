@@ -162,7 +162,7 @@ inline constexpr Face Progress{"ZUB - Task Removal Status", 440 * TwipsPerPixel,
                                Border::Fixed, colors::ProgressWindow};
 inline constexpr Face Report{"Log Report", 520 * TwipsPerPixel, 400 * TwipsPerPixel, Border::Fixed,
                              colors::Window};
-inline constexpr Face Preview{"ZUB - Preview", 376 * TwipsPerPixel, 134 * TwipsPerPixel, Border::Fixed,
+inline constexpr Face Preview{"ZUB - Preview", 376 * TwipsPerPixel, 138 * TwipsPerPixel, Border::Fixed,
                               colors::ProgressWindow};
 inline constexpr Face PreviewReport{"Preview", 520 * TwipsPerPixel, 400 * TwipsPerPixel, Border::Fixed,
                                     colors::Window};
