@@ -80,14 +80,18 @@ TEST_CASE("a preview looks at the profiles that the program has found, as its wa
   pc.pc.file(profiles, profileRegistry({}));
   pc.options().LstIcons.Check(iconRow::Netscape, 1);
   pc.options().chkNSHistory.Value(1);
+  const std::string before = pc.pc.snapshot();
   pc.main().cmdPreview_Click();
+  CHECK(pc.pc.diffSince(before) == "");  // choosing a profile saves the keep list of the one before
   CHECK(pc.tells("Would go: 1 file of 1 byte,"));
 }
 
-TEST_CASE("Stop ends a preview in its turn, without a report") {
+TEST_CASE("Stop ends a preview in its turn, without a report; until then its animation moves") {
   PreviewPc pc;
   pc.begin();
+  Timers timers(*pc.program);
   pc.pc.onDoEvents = [&](int turn) {
+    timers.serve(pc.pc.ticks += 100);
     if (turn == 1) {
       CHECK(pc.window().form.Visible);
       CHECK_FALSE(pc.main().form.Enabled);
@@ -101,6 +105,7 @@ TEST_CASE("Stop ends a preview in its turn, without a report") {
   CHECK_FALSE(pc.window().form.Visible);
   CHECK_FALSE(pc.window().report.Visible);
   CHECK(pc.main().form.Enabled);
+  CHECK(pc.window().ImgAnimate.picture == Picture::Frame3);
   CHECK_FALSE(pc.window().Timer.Enabled);
 }
 
