@@ -52,9 +52,8 @@ TEST_CASE("a preview is read and closed, and nothing has been removed before the
   pc::putValue(Explorer + "RunMRU", "a", "calc\\1");
   const Zub zub;
   const Window main = zub.main();
-  IconList icons(main);
-  icons.toTheEnd();
-  for (const int row : {6, 8}) icons.clickBox(row);
+  icons::toTheEnd(main);
+  for (const int row : {6, 8}) icons::clickBox(main, row, icons::Scrolled::ToTheEnd);
   main.child("&Preview").click();
   const Window report = zub.window(title::PreviewReport);
   const Window text = report.child("EDIT", 0);
