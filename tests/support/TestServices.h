@@ -133,6 +133,7 @@ class TestGrip : public FileGrip {
            std::string_view path)
       : grip_(std::move(grip)), faults_(faults), log_(log), path_(path) {}
 
+  std::uint32_t attributes() override { return grip_->attributes(); }
   void resetAttributes() override { grip_->resetAttributes(); }
   std::int64_t length(ReadOnlyBit bit) override {
     log_({"  length"});
@@ -143,6 +144,10 @@ class TestGrip : public FileGrip {
     log_({"  open to write over"});
     faults_.strike(Call::Open, path_);
     return std::make_unique<TestChannel>(grip_->open(), faults_, log_, path_);
+  }
+  std::int64_t removable(Removal how) override {
+    faults_.strike(Call::Remove, path_);
+    return grip_->removable(how);
   }
   void remove() override {
     log_({"  remove"});
@@ -195,10 +200,6 @@ class TestFiles : public Files {
     log_({how[static_cast<std::size_t>(mode)], path});
     faults_.strike(Call::Open, path);
     return std::make_unique<TestChannel>(files_.open(path, mode), faults_, log_, path);
-  }
-  std::int64_t removable(std::string_view path, Removal how) override {
-    faults_.strike(Call::Remove, path);
-    return files_.removable(path, how);
   }
   void replace(std::string_view path, std::string_view bytes) override {
     log_({"replace ", path});
