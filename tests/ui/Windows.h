@@ -31,25 +31,6 @@ inline void checkGolden(const std::string& name, const std::string& text) {
   CHECK(text == golden->text());
 }
 
-struct Windows {
-  TestPc pc;
-  Program program{pc.platform()};
-  frmAbout about{program.engine.pc};
-  MessageBox messageBox;
-  std::vector<layout::WindowSpec> all = {layout::mainWindow(program.main),
-                                         layout::progressWindow(program.engine.animated),
-                                         layout::reportWindow(program.engine.clean),
-                                         layout::editorWindow(*program.editor),
-                                         layout::cookieWindow(*program.ieCookies),
-                                         layout::cookieWindow(*program.nsCookies),
-                                         layout::aboutWindow(about),
-                                         layout::messageWindow(messageBox)};
-
-  const layout::WindowSpec& of(const layout::Face& face) const {
-    return *std::ranges::find_if(all, [&face](const layout::WindowSpec& one) { return one.face == face; });
-  }
-};
-
 // Each control before those inside it, with what holds it (null: the window) and the title of its page.
 template <class Visit>
 void walk(const layout::Controls& controls, Visit visit, const layout::ControlSpec* holder = nullptr,
@@ -67,5 +48,26 @@ inline const layout::ControlSpec& find(const layout::WindowSpec& window, std::st
   });
   return found != nullptr ? *found : throw std::out_of_range(std::string(name));
 }
+
+struct Windows {
+  TestPc pc;
+  Program program{pc.platform()};
+  frmAbout about{program.engine.pc};
+  MessageBox messageBox;
+  std::vector<layout::WindowSpec> all = {layout::mainWindow(program.main),
+                                         layout::progressWindow(program.engine.animated),
+                                         layout::reportWindow(program.engine.clean),
+                                         layout::editorWindow(*program.editor),
+                                         layout::cookieWindow(*program.ieCookies),
+                                         layout::cookieWindow(*program.nsCookies),
+                                         layout::aboutWindow(about),
+                                         layout::messageWindow(messageBox)};
+
+  const layout::WindowSpec& of(const layout::Face& face) const {
+    return *std::ranges::find_if(all, [&face](const layout::WindowSpec& one) { return one.face == face; });
+  }
+  // A click on the button of this name.
+  void press(const layout::Face& face, std::string_view name) const { find(of(face), name).click(); }
+};
 
 }  // namespace zub
