@@ -1,7 +1,6 @@
 #include "platform/StoredData.h"
 
 #include "base/Text.h"
-#include "platform/Registry.h"
 
 namespace zub {
 

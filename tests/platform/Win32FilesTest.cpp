@@ -81,7 +81,7 @@ TEST_CASE("a folder that the registry names in another alphabet is found, and it
   Registry& registry = *pc.platform().registry;
   const std::u16string name = u"\u0101\u8868";
   pc.wide(name, true);
-  const std::wstring path = wide(pc.folder()) + L'\\' + std::wstring(name.begin(), name.end());
+  const std::wstring path = wideFromAnsi(pc.folder()) + L'\\' + std::wstring(name.begin(), name.end());
   OpenKey key(registry);
   REQUIRE(key.create(Hive::CurrentUser, pc.key(), access::All) == status::Success);
   const auto handle = reinterpret_cast<HKEY>(key.get());

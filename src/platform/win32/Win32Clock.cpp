@@ -20,7 +20,7 @@ std::string Win32Clock::timeText(const SystemTime& time) {
 }
 
 SystemTime Win32Clock::parse(std::string_view text) {
-  std::wstring wideText = wide(text);
+  std::wstring wideText = wideFromAnsi(text);
   DATE date = 0;
   SYSTEMTIME record;
   if (FAILED(VarDateFromStr(wideText.data(), LOCALE_USER_DEFAULT, 0, &date)) ||

@@ -39,7 +39,7 @@ std::optional<std::string> beyondCodePage(HKEY key, const std::wstring& name) {
   if (RegQueryValueExW(key, name.c_str(), nullptr, nullptr, room, &size) != ERROR_SUCCESS)
     return std::nullopt;
   text.resize(size / sizeof(wchar_t));
-  if (wide(narrow(text)) == text) return std::nullopt;
+  if (wideFromAnsi(ansiFromWide(text)) == text) return std::nullopt;
   return told(text);
 }
 
@@ -85,8 +85,8 @@ RegistryStatus Win32Registry::enumKey(RegistryKey key, std::uint32_t index, char
   return result;
 }
 
-// The wide call tells the name and the ANSI one the data, which is told as the code page's text: only names are asked for
-// so, and data is queried.
+// The wide call tells the name and the ANSI one the data, which is told as the code page's text: only names are asked
+// for so, and data is queried.
 RegistryStatus Win32Registry::enumValue(RegistryKey key, std::uint32_t index, char* name,
                                         std::uint32_t& length, ValueType& type, std::uint8_t* data,
                                         std::uint32_t& dataLength) {
@@ -131,7 +131,7 @@ RegistryStatus Win32Registry::query(RegistryKey key, std::string_view name, Valu
   type = ValueType{kind};
   const std::uint32_t room = std::exchange(dataLength, size);
   if (!isNtFamily() || !isText(type)) return result;
-  const std::optional<std::string> text = beyondCodePage(handleOf(key), wide(name));
+  const std::optional<std::string> text = beyondCodePage(handleOf(key), wideFromAnsi(name));
   if (!text) return result;
   dataLength = static_cast<std::uint32_t>(text->size());
   if (data == nullptr) return ERROR_SUCCESS;
@@ -145,8 +145,8 @@ RegistryStatus Win32Registry::set(RegistryKey key, std::string_view name, ValueT
   const std::string bytes(data.begin(), data.end());
   if (isNtFamily() && isText(type)) {
     const std::wstring text = untoldWide(bytes);
-    if (text != wide(bytes) && told(text) == bytes)
-      return RegSetValueExW(handleOf(key), wide(name).c_str(), 0, static_cast<DWORD>(type),
+    if (text != wideFromAnsi(bytes) && told(text) == bytes)
+      return RegSetValueExW(handleOf(key), wideFromAnsi(name).c_str(), 0, static_cast<DWORD>(type),
                             reinterpret_cast<const BYTE*>(text.c_str()),
                             static_cast<DWORD>(text.size() * sizeof(wchar_t)));
   }

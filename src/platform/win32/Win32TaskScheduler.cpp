@@ -19,7 +19,7 @@ class ComText {
 };
 
 std::string taskName(std::wstring_view stored) {
-  std::string name = narrow(stored);
+  std::string name = ansiFromWide(stored);
   if (name.size() > StoredEnding.size()) {
     const std::size_t length = name.size() - StoredEnding.size();
     if (lstrcmpiA(name.c_str() + length, StoredEnding.data()) == 0) name.resize(length);
@@ -84,7 +84,7 @@ void Win32Trigger::startTime(const SystemTime& time) {
 std::string Win32Trigger::text() {
   ComText described;
   if (SUCCEEDED(trigger_->GetTriggerString(described.out())) && !described.get().empty())
-    return narrow(described.get());
+    return ansiFromWide(described.get());
   const TASK_TRIGGER trigger = record();
   SystemTime time;
   time.wYear = trigger.wBeginYear;
@@ -124,7 +124,7 @@ void Win32Triggers::remove(int position) {
 }
 
 ComPointer<ITask>& Win32Task::task() {
-  if (!task_) mustSucceed(service_->Activate(wide(name_).c_str(), IID_ITask, task_.outUnknown()));
+  if (!task_) mustSucceed(service_->Activate(wideFromAnsi(name_).c_str(), IID_ITask, task_.outUnknown()));
   return task_;
 }
 
@@ -133,11 +133,11 @@ void Win32Task::application(std::string_view path) {
 }
 
 void Win32Task::parameters(std::string_view text) {
-  mustSucceed(task()->SetParameters(wide(text).c_str()));
+  mustSucceed(task()->SetParameters(wideFromAnsi(text).c_str()));
 }
 
 void Win32Task::comment(std::string_view text) {
-  mustSucceed(task()->SetComment(wide(text).c_str()));
+  mustSucceed(task()->SetComment(wideFromAnsi(text).c_str()));
 }
 
 ScheduleTriggers& Win32Task::triggers() {
@@ -182,7 +182,7 @@ ScheduleTask& Win32TaskScheduler::at(int position) {
 
 ScheduleTask& Win32TaskScheduler::add(std::string_view name) {
   ComPointer<ITask> task;
-  mustSucceed(service()->NewWorkItem(wide(name).c_str(), CLSID_CTask, IID_ITask, task.outUnknown()));
+  mustSucceed(service()->NewWorkItem(wideFromAnsi(name).c_str(), CLSID_CTask, IID_ITask, task.outUnknown()));
   runAsThisUser(task);
   tasks_.push_back(std::make_unique<Win32Task>(service(), owner_, std::string(name), std::move(task)));
   return *tasks_.back();

@@ -1,16 +1,15 @@
 #include "ui/win32/KitAccessible.h"
 
 #include "platform/host/win32/LoadedCall.h"
+#include "platform/win32/Text.h"
 #include "ui/controls/CaptionLabel.h"
 
 namespace zub {
 namespace {
 
 BSTR systemText(const std::string& text) {
-  const int size = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');
-  const int length = MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size);
-  return SysAllocStringLen(wide.data(), static_cast<UINT>(length));
+  const std::wstring wide = wideFromAnsi(text);
+  return SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
 }
 
 HRESULT answer(const std::string& text, BSTR* result) {
