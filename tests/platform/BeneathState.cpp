@@ -61,8 +61,7 @@ BeneathState stateOf(const Platform& pc, const std::string& folder, const std::s
   for (int position = 1; position <= pc.tasks->count(); ++position) {
     ScheduleTask& task = pc.tasks->at(position);
     std::string& triggers = state["task " + task.name()];
-    for (int trigger = 1; trigger <= task.triggers().count(); ++trigger)
-      triggers += task.triggers().at(trigger)->text() + CrLf.data();
+    for (const std::string& text : task.triggers().texts()) triggers += text + CrLf.data();
   }
   return state;
 }

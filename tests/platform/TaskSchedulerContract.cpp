@@ -14,13 +14,6 @@ int positionOf(ScheduleTasks& tasks, const std::string& name) {
   return 0;
 }
 
-void addTrigger(ScheduleTask& task, const SystemTime& time) {
-  const auto trigger = task.triggers().add();
-  trigger->type(0);
-  trigger->beginDate(time);
-  trigger->startTime(time);
-}
-
 }  // namespace
 
 TEST_CASE_TEMPLATE("tasks: what was saved is there after a refresh, what was not is not", Pc, CONTRACT_PCS) {
@@ -35,20 +28,20 @@ TEST_CASE_TEMPLATE("tasks: what was saved is there after a refresh, what was not
     CHECK(positionOf(tasks, pc.task()) == before + 1);  // a new task is the last
     task.application("C:\\Program Files\\Zubrane\\zub");
     task.comment("Zubrane");
-    task.save(0);
+    task.save();
   }
   tasks.refresh();
   CHECK(tasks.count() == before + 1);
   const int position = positionOf(tasks, pc.task());
   REQUIRE(position > 0);
   ScheduleTask& task = tasks.at(position);
-  const int none = pc.deviates("no triggers") ? 1 : 0;
-  CHECK(task.triggers().count() == none);
+  const std::size_t none = pc.deviates("no triggers") ? 1 : 0;
+  CHECK(task.triggers().texts().size() == none);
   task.parameters(" /SCHEDULER");
-  addTrigger(task, {2031, 9, 5, 5, 14, 20, 0, 0});
-  CHECK(task.triggers().count() == none + 1);
+  task.triggers().add({0, {2031, 9, 5, 5, 14, 20, 0, 0}});
+  CHECK(task.triggers().texts().size() == none + 1);
   tasks.refresh();
-  CHECK(tasks.at(positionOf(tasks, pc.task())).triggers().count() == none);
+  CHECK(tasks.at(positionOf(tasks, pc.task())).triggers().texts().size() == none);
 }
 
 TEST_CASE_TEMPLATE("tasks: triggers are told in their order and removed by position", Pc, CONTRACT_PCS) {
@@ -60,29 +53,23 @@ TEST_CASE_TEMPLATE("tasks: triggers are told in their order and removed by posit
   tasks.refresh();
   ScheduleTask& made = tasks.add(pc.task());
   made.application("C:\\Program Files\\Zubrane\\zub");
-  for (const SystemTime& time : times) addTrigger(made, time);
-  made.save(0);
+  for (const SystemTime& time : times) made.triggers().add({0, time});
+  made.save();
   tasks.refresh();
   ScheduleTask& task = tasks.at(positionOf(tasks, pc.task()));
   ScheduleTriggers& triggers = task.triggers();
-  REQUIRE(triggers.count() == 3);
-  for (int position = 1; position <= 3; ++position) {
-    const std::string text = triggers.at(position)->text();
-    CAPTURE(text);
-    CHECK(contains(text, clock.dateText(times.at(static_cast<std::size_t>(position) - 1))));
+  const std::vector<std::string> texts = triggers.texts();
+  REQUIRE(texts.size() == 3);
+  for (std::size_t i = 0; i < 3; ++i) {
+    CAPTURE(texts[i]);
+    CHECK(contains(texts[i], clock.dateText(times[i])));
   }
-  for (const int nowhere : {0, -1, 4}) {
-    CHECK(failure([&] { triggers.at(nowhere); }) == 5);
-    CHECK(failure([&] { triggers.remove(nowhere); }) == 5);
-  }
+  for (const int nowhere : {0, -1, 4}) CHECK(failure([&] { triggers.remove(nowhere); }) == 5);
   triggers.remove(2);
-  triggers.update();
-  task.save(0);
+  task.save();
   tasks.refresh();
-  ScheduleTriggers& left = tasks.at(positionOf(tasks, pc.task())).triggers();
-  REQUIRE(left.count() == 2);
-  CHECK(contains(left.at(1)->text(), clock.dateText(times[0])));
-  CHECK(contains(left.at(2)->text(), clock.dateText(times[2])));
+  const std::vector<std::string> left = tasks.at(positionOf(tasks, pc.task())).triggers().texts();
+  CHECK(left == std::vector<std::string>{texts[0], texts[2]});
   CHECK(failure([&] { tasks.at(0); }) == 5);
   CHECK(failure([&] { tasks.at(tasks.count() + 1); }) == 5);
 }

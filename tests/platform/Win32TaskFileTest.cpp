@@ -36,11 +36,8 @@ TEST_CASE("the task file holds what is to be started, as whom and when") {
   made.application("C:\\Program Files\\Zubrane\\zub");
   made.parameters(" /SCHEDULER");
   made.comment("Zubrane");
-  const auto added = made.triggers().add();
-  added->type(0);
-  added->beginDate({2031, 9, 5, 5, 1, 2, 3, 4});
-  added->startTime({1899, 12, 6, 30, 14, 20, 0, 0});
-  made.save(0);
+  made.triggers().add({0, {2031, 9, 5, 5, 14, 20, 3, 4}});
+  made.save();
 
   ComPointer<ITaskScheduler> service;
   REQUIRE(SUCCEEDED(CoCreateInstance(CLSID_CTaskScheduler, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskScheduler,

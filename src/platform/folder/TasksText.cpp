@@ -30,7 +30,7 @@ bool isDigit(char c) {
 }
 
 // "0 2001-09-05 14:20"
-bool readTrigger(std::string_view text, TriggerRecord& trigger) {
+bool readTrigger(std::string_view text, ScheduleTrigger& trigger) {
   constexpr std::string_view form = "9 9999-99-99 99:99";
   if (text.size() != form.size()) return false;
   for (std::size_t i = 0; i < form.size(); ++i) {
@@ -55,7 +55,7 @@ bool readTrigger(std::string_view text, TriggerRecord& trigger) {
   return true;
 }
 
-std::string triggerText(const TriggerRecord& trigger) {
+std::string triggerText(const ScheduleTrigger& trigger) {
   const SystemTime& begin = trigger.begin;
   return std::to_string(trigger.type) + " " + fourDigits(begin.wYear) + "-" + twoDigits(begin.wMonth) + "-" +
          twoDigits(begin.wDay) + " " + twoDigits(begin.wHour) + ":" + twoDigits(begin.wMinute);
@@ -73,7 +73,7 @@ void readEntry(std::vector<TaskRecord>& tasks, std::set<std::string>& names, std
   }
   if (tasks.empty()) throw PcError(file, line, "stands before the first task");
   if (name == "trigger") {
-    TriggerRecord trigger;
+    ScheduleTrigger trigger;
     if (!readTrigger(value, trigger)) {
       throw PcError(file, line, "a trigger is told as \"0 2001-09-05 14:20\"");
     }
@@ -90,7 +90,7 @@ void readEntry(std::vector<TaskRecord>& tasks, std::set<std::string>& names, std
 
 }  // namespace
 
-std::string textOf(const TriggerRecord& trigger) {
+std::string textOf(const ScheduleTrigger& trigger) {
   const std::string time = shortTime(trigger.begin);  // "2:20:00 PM"
   return "At " + time.substr(0, time.size() - 6) + time.substr(time.size() - 3) + " on " +
          shortDate(trigger.begin);
@@ -121,7 +121,7 @@ std::string writeTasksText(const std::vector<TaskRecord>& tasks) {
     if (!text.empty()) text += '\n';
     add("task", utf8FromAnsi(task.name));
     for (const TextField& field : TextFields) add(field.name, utf8FromAnsi(task.*field.member));
-    for (const TriggerRecord& trigger : task.triggers) add("trigger", triggerText(trigger));
+    for (const ScheduleTrigger& trigger : task.triggers) add("trigger", triggerText(trigger));
   }
   return text;
 }
