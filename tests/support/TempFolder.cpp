@@ -1,5 +1,6 @@
 #include "support/TempFolder.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <random>
 #include <stdexcept>
@@ -11,10 +12,12 @@ namespace zub {
 namespace fs = std::filesystem;
 
 TempFolder::TempFolder() {
+  const char* told = std::getenv("ZUB_TEST_FOLDER");
+  const fs::path parent = told != nullptr ? fs::path(told) : fs::temp_directory_path();
   std::random_device random;
   fs::path made;
   do {
-    made = fs::temp_directory_path() / ("zub-test-" + std::to_string(random()) + std::to_string(random()));
+    made = parent / ("zub-test-" + std::to_string(random()) + std::to_string(random()));
   } while (!fs::create_directory(made));
   path_ = made.string();
   dir_ = openHostDir(path_);
