@@ -1,4 +1,5 @@
 // The text that keeps a PC's tasks.
+#include <algorithm>
 #include <array>
 #include <set>
 
@@ -7,7 +8,7 @@
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/DateText.h"
 #include "platform/folder/FolderTasks.h"
-#include "platform/folder/PcError.h"
+#include "platform/folder/PcText.h"
 
 namespace zub {
 namespace {
@@ -62,30 +63,24 @@ std::string triggerText(const ScheduleTrigger& trigger) {
 }
 
 // `names` are those of the tasks so far.
-void readEntry(std::vector<TaskRecord>& tasks, std::set<std::string>& names, std::string_view name,
-               std::string_view value, int line, const std::string& file) {
-  if (name == "task") {
-    if (value.empty()) throw PcError(file, line, "the task has no name");
+void take(std::vector<TaskRecord>& tasks, std::set<std::string>& names, const PcLine& line) {
+  if (line.name == "task") {
+    if (line.value.empty()) throw Refused{"the task has no name"};
     tasks.push_back({});
-    tasks.back().name = ansiFromUtf8(value);
-    if (!names.insert(tasks.back().name).second) throw PcError(file, line, "the task was told before");
+    tasks.back().name = ansiFromUtf8(line.value);
+    if (!names.insert(tasks.back().name).second) throw Refused{"the task was told before"};
     return;
   }
-  if (tasks.empty()) throw PcError(file, line, "stands before the first task");
-  if (name == "trigger") {
+  if (tasks.empty()) throw Refused{"stands before the first task"};
+  if (line.name == "trigger") {
     ScheduleTrigger trigger;
-    if (!readTrigger(value, trigger)) {
-      throw PcError(file, line, "a trigger is told as \"0 2001-09-05 14:20\"");
-    }
+    if (!readTrigger(line.value, trigger)) throw Refused{"a trigger is told as \"0 2001-09-05 14:20\""};
     tasks.back().triggers.push_back(trigger);
     return;
   }
-  for (const TextField& field : TextFields) {
-    if (field.name != name) continue;
-    tasks.back().*field.member = ansiFromUtf8(value);
-    return;
-  }
-  throw PcError(file, line, "unknown name \"" + std::string(name) + "\"");
+  const auto* field = std::ranges::find(TextFields, line.name, &TextField::name);
+  if (field == TextFields.end()) throw Refused{joined({"unknown name \"", line.name, "\""})};
+  tasks.back().*field->member = ansiFromUtf8(line.value);
 }
 
 }  // namespace
@@ -99,16 +94,7 @@ std::string textOf(const ScheduleTrigger& trigger) {
 std::vector<TaskRecord> readTasksText(std::string_view text, const std::string& file) {
   std::vector<TaskRecord> tasks;
   std::set<std::string> names;
-  for (int number = 1; !text.empty(); ++number) {
-    const std::string_view line = takeLine(text);
-    if (line.empty() || line.starts_with('#')) continue;
-    const auto equals = line.find(" =");
-    if (equals == std::string_view::npos) throw PcError(file, number, "is no \"name = value\"");
-    // One blank behind "=" is not the value's.
-    std::string_view value = line.substr(equals + 2);
-    if (value.starts_with(' ')) value.remove_prefix(1);
-    readEntry(tasks, names, line.substr(0, equals), value, number, file);
-  }
+  eachPcLine(text, file, [&](const PcLine& line) { take(tasks, names, line); });
   return tasks;
 }
 
