@@ -76,15 +76,8 @@ void frmMain::wireOptions() {
 }
 
 Label& frmMain::helpLabel(HelpLabel which) {
-  switch (which) {
-    case HelpLabel::Options:
-      return lblOptionsHelp;
-    case HelpLabel::Scheduler:
-      return lblSchedulerHelp;
-    case HelpLabel::Main:
-      break;
-  }
-  return lblHelp;
+  if (which == HelpLabel::Options) return lblOptionsHelp;
+  return which == HelpLabel::Scheduler ? lblSchedulerHelp : lblHelp;
 }
 
 void frmMain::writeStartupEntry() {

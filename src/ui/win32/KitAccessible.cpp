@@ -24,23 +24,10 @@ HRESULT answer(LONG number, VARIANT* result) {
 }
 
 LONG roleOf(controls::Role role) {
-  switch (role) {
-    case controls::Role::Button:
-      return ROLE_SYSTEM_PUSHBUTTON;
-    case controls::Role::CheckBox:
-      return ROLE_SYSTEM_CHECKBUTTON;
-    case controls::Role::Group:
-      return ROLE_SYSTEM_GROUPING;
-    case controls::Role::List:
-      return ROLE_SYSTEM_LIST;
-    case controls::Role::ListItem:
-      return ROLE_SYSTEM_LISTITEM;
-    case controls::Role::Clock:
-      return ROLE_SYSTEM_CLOCK;
-    case controls::Role::Picture:
-      break;
-  }
-  return ROLE_SYSTEM_GRAPHIC;
+  constexpr LONG Roles[] = {ROLE_SYSTEM_GRAPHIC,  ROLE_SYSTEM_PUSHBUTTON, ROLE_SYSTEM_CHECKBUTTON,
+                            ROLE_SYSTEM_GROUPING, ROLE_SYSTEM_LIST,       ROLE_SYSTEM_LISTITEM,
+                            ROLE_SYSTEM_CLOCK};  // by Role
+  return Roles[static_cast<std::size_t>(role)];
 }
 
 }  // namespace
