@@ -42,10 +42,6 @@ KitAccessible* KitAccessible::make(HWND window, controls::Control& control) {
   return new KitAccessible(window, control, static_cast<IAccessible*>(system));
 }
 
-KitAccessible::~KitAccessible() {
-  system_->Release();
-}
-
 LRESULT KitAccessible::handOut(WPARAM wParam) {
   static const auto hand = loadedCall<decltype(&LresultFromObject)>("oleacc.dll", "LresultFromObject");
   return hand == nullptr ? 0 : hand(__uuidof(IAccessible), wParam, this);
@@ -77,26 +73,12 @@ STDMETHODIMP KitAccessible::QueryInterface(REFIID id, void** object) {
   return S_OK;
 }
 
-STDMETHODIMP_(ULONG) KitAccessible::AddRef() {
-  return ++references_;
-}
-
 STDMETHODIMP_(ULONG) KitAccessible::Release() {
   const ULONG left = --references_;
   if (left == 0) delete this;
   return left;
 }
 
-STDMETHODIMP KitAccessible::GetTypeInfoCount(UINT* count) {
-  return system_->GetTypeInfoCount(count);
-}
-STDMETHODIMP KitAccessible::GetTypeInfo(UINT number, LCID language, ITypeInfo** info) {
-  return system_->GetTypeInfo(number, language, info);
-}
-STDMETHODIMP KitAccessible::GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID language,
-                                          DISPID* ids) {
-  return system_->GetIDsOfNames(id, names, count, language, ids);
-}
 STDMETHODIMP KitAccessible::Invoke(DISPID member, REFIID, LCID language, WORD flags, DISPPARAMS* parameters,
                                    VARIANT* result, EXCEPINFO* failure, UINT* argument) {
   ITypeInfo* info = nullptr;
@@ -106,10 +88,6 @@ STDMETHODIMP KitAccessible::Invoke(DISPID member, REFIID, LCID language, WORD fl
       info->Invoke(static_cast<IAccessible*>(this), member, flags, parameters, result, failure, argument);
   info->Release();
   return done;
-}
-
-STDMETHODIMP KitAccessible::get_accParent(IDispatch** parent) {
-  return system_->get_accParent(parent);
 }
 
 STDMETHODIMP KitAccessible::get_accChildCount(LONG* count) {
@@ -239,29 +217,6 @@ STDMETHODIMP KitAccessible::accHitTest(LONG left, LONG top, VARIANT* child) {
     if (control_->partPlace(part).contains(static_cast<float>(at.x), static_cast<float>(at.y)))
       return answer(part + 1, child);
   return system_->accHitTest(left, top, child);
-}
-
-STDMETHODIMP KitAccessible::get_accValue(VARIANT, BSTR* value) {
-  *value = nullptr;
-  return S_FALSE;
-}
-STDMETHODIMP KitAccessible::get_accDescription(VARIANT, BSTR* description) {
-  *description = nullptr;
-  return S_FALSE;
-}
-STDMETHODIMP KitAccessible::get_accHelp(VARIANT, BSTR* help) {
-  *help = nullptr;
-  return S_FALSE;
-}
-STDMETHODIMP KitAccessible::get_accHelpTopic(BSTR* file, VARIANT, LONG*) {
-  *file = nullptr;
-  return S_FALSE;
-}
-STDMETHODIMP KitAccessible::put_accName(VARIANT, BSTR) {
-  return S_FALSE;
-}
-STDMETHODIMP KitAccessible::put_accValue(VARIANT, BSTR) {
-  return S_FALSE;
 }
 
 void tellAccessible(DWORD event, HWND window, LONG child) {
