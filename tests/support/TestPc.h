@@ -69,7 +69,7 @@ class TestPc {
   std::function<void(int turn)> onDoEvents;
   int turns = 0;
 
-  // Hears each call to the PC before it is made, in words such as "remove C:\\a.tmp". What only computes (texts of
+  // Hears each call to the PC before it is made, in words such as "remove folder C:\\a". What only computes (texts of
   // dates, upper case) and the steady clock are not told.
   std::function<void(const std::string& call)> onCall;
 

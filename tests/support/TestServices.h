@@ -133,19 +133,24 @@ class TestGrip : public FileGrip {
            std::string_view path)
       : grip_(std::move(grip)), faults_(faults), log_(log), path_(path) {}
 
+  std::uint32_t attributes() override { return grip_->attributes(); }
   void resetAttributes() override { grip_->resetAttributes(); }
   std::int64_t length(ReadOnlyBit bit) override {
-    log_({"length of ", path_});
+    log_({"  length"});
     faults_.strike(Call::OpenedLength, path_);
     return grip_->length(bit);
   }
   std::unique_ptr<FileChannel> open() override {
-    log_({"open to write over ", path_});
+    log_({"  open to write over"});
     faults_.strike(Call::Open, path_);
     return std::make_unique<TestChannel>(grip_->open(), faults_, log_, path_);
   }
+  std::int64_t removable(Removal how) override {
+    faults_.strike(Call::Remove, path_);
+    return grip_->removable(how);
+  }
   void remove() override {
-    log_({"remove ", path_});
+    log_({"  remove"});
     faults_.strike(Call::Remove, path_);
     grip_->remove();
   }
@@ -195,10 +200,6 @@ class TestFiles : public Files {
     log_({how[static_cast<std::size_t>(mode)], path});
     faults_.strike(Call::Open, path);
     return std::make_unique<TestChannel>(files_.open(path, mode), faults_, log_, path);
-  }
-  std::int64_t removable(std::string_view path, Removal how) override {
-    faults_.strike(Call::Remove, path);
-    return files_.removable(path, how);
   }
   void replace(std::string_view path, std::string_view bytes) override {
     log_({"replace ", path});

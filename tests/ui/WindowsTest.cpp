@@ -12,11 +12,23 @@ using namespace zub::layout;
 
 namespace {
 
-#define MEMBER(object, name) \
-  { &(object).name, #name }
+// Members of the forms by their addresses, each under its name as the source tells it: "&form.lblKeep[0], &form.lstKeep".
+using Members = std::map<const void*, std::string>;
 
-// The members of the forms by their addresses.
-std::map<const void*, std::string> membersOf(Windows& windows) {
+void add(Members& members, std::string words, std::initializer_list<const void*> addresses) {
+  std::ranges::replace(words, '[', '(');
+  std::ranges::replace(words, ']', ')');
+  std::istringstream list(words);
+  std::string word;
+  for (const void* address : addresses) {
+    std::getline(list, word, ',');
+    members[address] = word.substr(word.find_last_of(".&") + 1);
+  }
+}
+
+#define ADD(...) add(members, #__VA_ARGS__, {__VA_ARGS__})
+
+Members membersOf(Windows& windows) {
   Options& options = windows.program.options;
   frmMain& main = windows.program.main;
   const frmAnimated::State& wash = windows.program.engine.animated.peek().state;
@@ -24,125 +36,39 @@ std::map<const void*, std::string> membersOf(Windows& windows) {
   frmIECookieKeep& ie = *windows.program.ieCookies;
   frmNSCookieKeep& ns = *windows.program.nsCookies;
   MessageBox& box = windows.messageBox;
-  return {
-      MEMBER(options, chkIECache),
-      MEMBER(options, chkIECookies),
-      MEMBER(options, chkIEProgram),
-      MEMBER(options, chkIEIndex),
-      MEMBER(options, chkIEAutocomplete),
-      MEMBER(options, chkNSCache),
-      MEMBER(options, chkNSCookies),
-      MEMBER(options, chkNSMail),
-      MEMBER(options, chkNSHistory),
-      MEMBER(options, chkLoadStartUp),
-      MEMBER(options, chkCloseAfterWash),
-      MEMBER(options, chkBleach),
-      MEMBER(options, chkSkipPlugins),
-      MEMBER(options, chkSkipMessages),
-      MEMBER(options, chkRunStarted),
-      MEMBER(options, chkRunShutDown),
-      MEMBER(options, chkRunAuto),
-      MEMBER(options, cmbShredder),
-      MEMBER(options, ComboInterval),
-      MEMBER(options, lstFiles),
-      MEMBER(options, standardlist),
-      MEMBER(options, lblLastRemoval),
-      MEMBER(options, LstIcons),
-      MEMBER(main, lblHelp),
-      MEMBER(main, lblOptionsHelp),
-      MEMBER(main, lblSchedulerHelp),
-      MEMBER(main, lblStandardPluginDescription),
-      MEMBER(main, grpIE),
-      MEMBER(main, grpNS),
-      MEMBER(main, cmdViewLog),
-      MEMBER(main, chkSelectAll),
-      MEMBER(main, StandardPluginsSelectAll),
-      MEMBER(main.automatic, lblTimerRemove),
-      {&main.automatic.display, "Clock"},
-      MEMBER(main.dated, lstSchedule),
-      MEMBER(main.dated, txtDate),
-      MEMBER(main.dated, txtTime),
-      MEMBER(wash, Label1),
-      MEMBER(wash, Label2),
-      MEMBER(wash, Label3),
-      MEMBER(wash, Label4),
-      MEMBER(wash, Label5),
-      MEMBER(wash, Label6),
-      MEMBER(wash, Label7),
-      MEMBER(wash, Label8),
-      MEMBER(wash, Label9),
-      MEMBER(wash, Label10),
-      MEMBER(wash, Label11),
-      MEMBER(wash, Label14),
-      MEMBER(wash, Image3),
-      MEMBER(wash, Image4),
-      MEMBER(wash, Image5),
-      MEMBER(wash, Image6),
-      MEMBER(wash, Image7),
-      MEMBER(wash, Image8),
-      MEMBER(wash, Image9),
-      MEMBER(wash, Image10),
-      MEMBER(wash, Image11),
-      MEMBER(wash, Image12),
-      MEMBER(wash, Image13),
-      MEMBER(wash, Image14),
-      MEMBER(wash, ImgAnimate),
-      MEMBER(wash, ImgEntries),
-      MEMBER(wash, lblApplication),
-      MEMBER(wash, lblCurrent),
-      MEMBER(wash, lblRemove),
-      MEMBER(wash, StatusBar1),
-      MEMBER(wash, cmdFinish),
-      MEMBER(wash, cmdLog),
-      MEMBER(windows.program.engine.clean, txtResult),
-      MEMBER(editor, txtName),
-      MEMBER(editor, cmdOK),
-      MEMBER(editor, cmdApply),
-      MEMBER(editor, cmdCancel),
-      MEMBER(editor, lstRegistry),
-      MEMBER(editor, cmdRegNew),
-      MEMBER(editor, cmdRegRemove),
-      MEMBER(editor, cmdRegistryAdd),
-      MEMBER(editor, cmbPathRegistry),
-      MEMBER(editor, txtPath),
-      MEMBER(editor, cmbRegistry),
-      MEMBER(editor, txtKeyValue),
-      MEMBER(editor, lstFileFolder),
-      MEMBER(editor, cmdFFNew),
-      MEMBER(editor, cmdFFRemove),
-      MEMBER(editor, cmdAddFF),
-      MEMBER(editor, txtPathFF),
-      MEMBER(editor, cmdPathBrowse),
-      MEMBER(editor, optFileName),
-      MEMBER(editor, optFilePattern),
-      MEMBER(editor, txtFileName),
-      MEMBER(editor, txtFilePattern),
-      MEMBER(editor, chkSubfolders),
-      MEMBER(editor, txtInfoPlugin),
-      MEMBER(editor, txtComments),
-      MEMBER(ie, lstDelete),
-      MEMBER(ie, txtKeep),
-      MEMBER(ie, chkSelectAll),
-      MEMBER(ns, lstDelete),
-      MEMBER(ns, txtKeep),
-      MEMBER(ns, chkSelectAll),
-      MEMBER(ns, cmbProfile),
-      {&ns.lblKeep[0], "lblKeep(0)"},
-      {&ns.lblKeep[1], "lblKeep(1)"},
-      MEMBER(windows.about, lblTitle),
-      MEMBER(windows.about, lblVersion),
-      MEMBER(box, lblTitle),
-      MEMBER(box, lblMessage),
-      MEMBER(box, imginformation),
-      MEMBER(box, imgquestion),
-      MEMBER(box, imgcritical),
-      MEMBER(box, imgexclamation),
-      MEMBER(box, cmdYes),
-      MEMBER(box, cmdNo),
-  };
+  const ClockDisplay& Clock = main.automatic.display;
+  Members members;
+  ADD(&options.chkIECache, &options.chkIECookies, &options.chkIEProgram, &options.chkIEIndex,
+      &options.chkIEAutocomplete, &options.chkNSCache, &options.chkNSCookies, &options.chkNSMail,
+      &options.chkNSHistory, &options.chkLoadStartUp, &options.chkCloseAfterWash, &options.chkBleach,
+      &options.chkSkipPlugins, &options.chkSkipMessages, &options.chkRunStarted, &options.chkRunShutDown,
+      &options.chkRunAuto, &options.cmbShredder, &options.ComboInterval, &options.lstFiles,
+      &options.standardlist, &options.lblLastRemoval, &options.LstIcons);
+  ADD(&main.lblHelp, &main.lblOptionsHelp, &main.lblSchedulerHelp, &main.lblStandardPluginDescription,
+      &main.grpIE, &main.grpNS, &main.cmdViewLog, &main.chkSelectAll, &main.StandardPluginsSelectAll,
+      &main.automatic.lblTimerRemove, &main.dated.lstSchedule, &main.dated.txtDate, &main.dated.txtTime,
+      &Clock);
+  ADD(&wash.Label1, &wash.Label2, &wash.Label3, &wash.Label4, &wash.Label5, &wash.Label6, &wash.Label7,
+      &wash.Label8, &wash.Label9, &wash.Label10, &wash.Label11, &wash.Label14, &wash.Image3, &wash.Image4,
+      &wash.Image5, &wash.Image6, &wash.Image7, &wash.Image8, &wash.Image9, &wash.Image10, &wash.Image11,
+      &wash.Image12, &wash.Image13, &wash.Image14, &wash.ImgAnimate, &wash.ImgEntries, &wash.lblApplication,
+      &wash.lblCurrent, &wash.lblRemove, &wash.StatusBar1, &wash.cmdFinish, &wash.cmdLog);
+  ADD(&windows.program.engine.clean.txtResult);
+  ADD(&editor.txtName, &editor.cmdOK, &editor.cmdApply, &editor.cmdCancel, &editor.lstRegistry,
+      &editor.cmdRegNew, &editor.cmdRegRemove, &editor.cmdRegistryAdd, &editor.cmbPathRegistry,
+      &editor.txtPath, &editor.cmbRegistry, &editor.txtKeyValue, &editor.lstFileFolder, &editor.cmdFFNew,
+      &editor.cmdFFRemove, &editor.cmdAddFF, &editor.txtPathFF, &editor.cmdPathBrowse, &editor.optFileName,
+      &editor.optFilePattern, &editor.txtFileName, &editor.txtFilePattern, &editor.chkSubfolders,
+      &editor.txtInfoPlugin, &editor.txtComments);
+  ADD(&ie.lstDelete, &ie.txtKeep, &ie.chkSelectAll);
+  ADD(&ns.lstDelete, &ns.txtKeep, &ns.chkSelectAll, &ns.cmbProfile, &ns.lblKeep[0], &ns.lblKeep[1]);
+  ADD(&windows.about.lblTitle, &windows.about.lblVersion);
+  ADD(&box.lblTitle, &box.lblMessage, &box.imginformation, &box.imgquestion, &box.imgcritical,
+      &box.imgexclamation, &box.cmdYes, &box.cmdNo);
+  return members;
 }
 
-#undef MEMBER
+#undef ADD
 
 const void* addressOf(const Shown& shown) {
   const auto of = []<class State>(const State& state) -> const void* {
@@ -220,7 +146,7 @@ TEST_CASE("every window is as its text tells, and shows the members that its con
   for (std::size_t at = 0; at < windows.all.size(); ++at) {
     checkGolden(names[at] + ".txt", textOf(windows.all[at]));
   }
-  std::map<const void*, std::string> members = membersOf(windows);
+  Members members = membersOf(windows);
   for (const WindowSpec& window : windows.all) {
     walk(window.controls, [&](const ControlSpec& control, const auto*, std::string_view) {
       const void* shown = addressOf(control.shown);

@@ -1,5 +1,6 @@
 #include "app/console/FoundPc.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "app/console/RegistryLook.h"
@@ -14,8 +15,13 @@ constexpr std::string_view NtUser = "S-1-5-";
 constexpr std::string_view Person = "S-1-5-21-";
 constexpr std::string_view Default = ".DEFAULT";
 
+// A text that holds a line end would be several facts of pc.txt.
+bool hasControls(std::string_view text) {
+  return std::ranges::any_of(text, [](char c) { return static_cast<unsigned char>(c) < 32; });
+}
+
 bool isPath(std::string_view text) {
-  return text.size() > 2 && text[1] == ':' && text[2] == '\\';
+  return text.size() > 2 && text[1] == ':' && text[2] == '\\' && !hasControls(text);
 }
 
 bool namesCookies(Registry& registry, const std::string& branch) {
@@ -50,7 +56,7 @@ FoundFact userOf(Registry& registry, const std::string& chosen) {
   std::vector<std::string> found;
   for (const std::string& branch : keysOf(registry, Hive::Users, "")) {
     const bool isPerson = branch.starts_with(Person) || (!branch.starts_with(NtUser) && branch != Default);
-    if (isPerson && namesCookies(registry, branch)) found.push_back(branch);
+    if (isPerson && !hasControls(branch) && namesCookies(registry, branch)) found.push_back(branch);
   }
   if (found.empty() && namesCookies(registry, std::string(Default))) found.emplace_back(Default);
   if (found.size() == 1) return {found.front(), "the only one whose folders the registry tells"};

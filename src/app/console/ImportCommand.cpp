@@ -3,11 +3,11 @@
 #include <unistd.h>
 
 #include <array>
-#include <cstdio>
 
 #include "app/console/Commands.h"
 #include "app/console/FoundPc.h"
 #include "app/console/Printable.h"
+#include "app/console/Terminal.h"
 #include "platform/folder/FolderPc.h"
 #include "platform/folder/HostText.h"
 #include "platform/folder/NewPc.h"
@@ -22,7 +22,7 @@ constexpr std::size_t LongestFolder = 4096;
 constexpr const char* Usage = "import takes --registry EXPORT... and the folder to make";
 
 void print(const std::string& text) {
-  std::printf("%s\n", printable(text).c_str());
+  terminal::write(terminal::Stream::Output, printable(text) + "\n");
 }
 
 std::size_t keysIn(const RegistryNode& node) {
@@ -134,7 +134,7 @@ int importCommand(const std::vector<std::string>& arguments) {
   const auto root = openEmptyFolder(wanted.folder);
   replaceHostText(*root, FolderPc::RegistryName, writeRegistryText(tree, form));
   replaceHostText(*root, PcFacts::FileName, facts);
-  std::printf("%s\n", printableLines(facts).c_str());
+  terminal::write(terminal::Stream::Output, printableLines(facts) + "\n");
 
   FolderPc pc(wanted.folder);
   for (const std::string& line : pc.driveFolders().oddities()) print(line);

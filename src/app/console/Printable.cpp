@@ -1,10 +1,13 @@
 #include "app/console/Printable.h"
 
+#include <string_view>
+#include <utility>
+
 namespace zub {
 namespace {
 
 bool isControl(char c) {
-  return (static_cast<unsigned char>(c) < 32 && c != '\t') || c == 127;
+  return static_cast<unsigned char>(c) < 32 || c == 127;
 }
 
 // U+0080 to U+009F are 80 to 9F behind a C2.
@@ -16,21 +19,22 @@ void replaceHighControls(std::string& text) {
   }
 }
 
-}  // namespace
-
-std::string printable(std::string text) {
+std::string replaced(std::string text, std::string_view kept) {
   for (char& c : text) {
-    if (isControl(c)) c = '?';
+    if (isControl(c) && kept.find(c) == std::string_view::npos) c = '?';
   }
   replaceHighControls(text);
   return text;
 }
 
+}  // namespace
+
+std::string printable(std::string text) {
+  return replaced(std::move(text), "\t");
+}
+
 std::string printableLines(std::string text) {
-  for (char& c : text) {
-    if (isControl(c) && c != '\n') c = '?';
-  }
-  return text;
+  return replaced(std::move(text), "\t\n");
 }
 
 }  // namespace zub

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/ToldName.h"
+#include "platform/folder/FolderPath.h"
 
 namespace zub {
 namespace {
@@ -70,8 +71,9 @@ std::string ansiOfUnit(char16_t unit) {
   return byte < 0 ? std::string() : std::string(1, static_cast<char>(byte));
 }
 
-bool isAscii(std::string_view text) {
-  return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+// The same in all three forms: no byte beyond ASCII, no stand-in.
+bool isTheSame(std::string_view text) {
+  return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80 && c != '<'; });
 }
 
 }  // namespace
@@ -147,6 +149,7 @@ std::u16string folded(std::u16string text) {
 }
 
 std::string utf8FromAnsi(std::string_view text) {
+  if (isTheSame(text)) return std::string(text);
   std::string result;
   result.reserve(text.size());
   const std::u16string units = utf16FromAnsi(text);
@@ -165,13 +168,12 @@ std::string utf8FromAnsi(std::string_view text) {
 }
 
 std::string ansiFromUtf8(std::string_view utf8) {
-  return isAscii(utf8) && utf8.find('<') == std::string_view::npos
-             ? std::string(utf8)
-             : toldText(utf16FromUtf8(utf8), ansiOfUnit);
+  return isTheSame(utf8) ? std::string(utf8) : toldText(utf16FromUtf8(utf8), ansiOfUnit);
 }
 
 std::string toldNameFromUtf8(std::string_view utf8) {
-  return toldFileName(utf16FromUtf8(utf8), ansiOfUnit);
+  const bool same = isTheSame(utf8) && isPlainPart(utf8);
+  return same ? std::string(utf8) : toldFileName(utf16FromUtf8(utf8), ansiOfUnit);
 }
 
 }  // namespace zub

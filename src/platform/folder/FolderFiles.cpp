@@ -158,6 +158,10 @@ class FolderFiles::Grip : public FileGrip {
  public:
   Grip(FolderFiles& files, Found found) : files_(files), found_(std::move(found)) {}
 
+  std::uint32_t attributes() override {
+    const PcFacts& facts = files_.facts_;
+    return attributesOf(found_.place.stat, facts.anyAttributes() ? found_.path.key() : std::string(), facts);
+  }
   void resetAttributes() override {
     files_.checkDrive(found_.path.drive);
     HostStat& stat = found_.place.stat;
@@ -174,6 +178,16 @@ class FolderFiles::Grip : public FileGrip {
     std::unique_ptr<HostFile> file;
     check(found_.place.parent->openFile(found_.place.name, HostOpen::ReadWrite, file));
     return std::make_unique<FolderChannel>(std::move(file), true);
+  }
+  std::int64_t removable(Removal how) override {
+    const auto& [place, path] = found_;
+    files_.checkDrive(path.drive);
+    if (isFolder(place.stat) != (how == Removal::EmptyFolder))
+      throw RuntimeError(ErrorNumber::PathFileAccess);
+    if (files_.isLocked(path)) throw RuntimeError(ErrorNumber::PermissionDenied);
+    if (place.stat.readOnly && how == Removal::File) throw RuntimeError(ErrorNumber::PathFileAccess);
+    check(place.parent->mayRemove(place.name));
+    return static_cast<std::int64_t>(place.stat.size);
   }
   void remove() override {
     files_.checkWritable(found_);
@@ -223,17 +237,6 @@ void FolderFiles::replace(std::string_view path, std::string_view bytes) {
   if (place.exists && place.stat.kind != HostKind::File) throw RuntimeError(ErrorNumber::PathFileAccess);
   check(replaceHostFile(*place.parent, place.name, bytes));
   if (!place.exists) disk_.forgetNames();
-}
-
-std::int64_t FolderFiles::removable(std::string_view path, Removal how) {
-  const auto [place, told] = locateFile(path);
-  if (!place.exists) throw RuntimeError(ErrorNumber::FileNotFound);
-  checkDrive(told.drive);
-  if (isFolder(place.stat) != (how == Removal::EmptyFolder)) throw RuntimeError(ErrorNumber::PathFileAccess);
-  if (isLocked(told)) throw RuntimeError(ErrorNumber::PermissionDenied);
-  if (place.stat.readOnly && how == Removal::File) throw RuntimeError(ErrorNumber::PathFileAccess);
-  check(place.parent->mayRemove(place.name));
-  return static_cast<std::int64_t>(place.stat.size);
 }
 
 bool FolderFiles::fileExists(std::string_view path) {

@@ -105,7 +105,7 @@ class HostDir {
 
   // Removes anything but a folder (NotAFile for one). A read-only file goes too where the host allows it.
   virtual HostError removeFile(const std::string& name) = 0;
-  // Whether this user may remove the entry; changes nothing.
+  // Whether this user may remove the entry; changes nothing. Rights that change while the folder is open may not count.
   virtual HostError mayRemove(const std::string& name) = 0;
   // Removes an empty folder; NotAFolder for a link.
   virtual HostError removeDir(const std::string& name) = 0;

@@ -196,67 +196,73 @@ std::uint32_t PretendFiles::attributes(std::string_view path) {
   if (spot.own != nullptr) return spot.own->content ? spot.own->attributes : attribute::Directory;
   if (!spot.asksBeneath()) return attribute::Invalid;
   const std::uint32_t bits = beneath_.attributes(path);
-  const bool reset = spot.folder != nullptr && spot.folder->reset.contains(spot.name);
-  return reset && bits != attribute::Invalid ? cleared(bits) : bits;
+  return spot.isReset() && bits != attribute::Invalid ? cleared(bits) : bits;
 }
 
+// The steps of a removal, by the grip of what lies beneath. Nothing goes there, so the path leads where it led.
 class PretendFiles::Grip : public FileGrip {
  public:
-  Grip(PretendFiles& files, std::string_view path) : files_(files), path_(path) {}
-  void resetAttributes() override { files_.resetAttributes(path_); }
-  std::int64_t length(ReadOnlyBit bit) override { return files_.openedLength(path_, bit); }
-  std::unique_ptr<FileChannel> open() override { return files_.open(path_, OpenMode::Binary); }
-  void remove() override { files_.remove(path_); }
+  // `beneath` is null where nothing is there.
+  Grip(PretendFiles& files, std::string_view path, std::unique_ptr<FileGrip> beneath)
+      : files_(files), path_(path), beneath_(std::move(beneath)) {}
 
- private:
-  PretendFiles& files_;
-  std::string path_;
-};
-
-std::unique_ptr<FileGrip> PretendFiles::grip(std::string_view path) {
-  const Spot spot = locate(path);
-  if (spot.own == nullptr && spot.asksBeneath())
-    beneath_.grip(path);
-  else if (spot.own == nullptr)
-    throw RuntimeError(ErrorNumber::FileNotFound);
-  return std::make_unique<Grip>(*this, path);
-}
-
-void PretendFiles::resetAttributes(std::string_view path) {
-  const Spot spot = locate(path);
-  if (spot.own != nullptr) {
-    spot.own->attributes = attribute::Normal;
-    return;
+  std::uint32_t attributes() override { return files_.attributes(path_); }
+  void resetAttributes() override {
+    const Spot spot = files_.locate(path_);
+    if (spot.own != nullptr) {
+      spot.own->attributes = attribute::Normal;
+      return;
+    }
+    const std::uint32_t kept =
+        attribute::Normal | attribute::Archive | attribute::Directory | attribute::Link;
+    const std::uint32_t bits = beneath(spot).attributes();
+    if (bits == attribute::Invalid) throw RuntimeError(ErrorNumber::FileNotFound);
+    if ((bits & ~kept) != 0) files_.changed(spot).reset.insert(spot.name);
   }
-  const std::uint32_t bits = spot.asksBeneath() ? beneath_.attributes(path) : attribute::Invalid;
-  if (bits == attribute::Invalid) throw RuntimeError(ErrorNumber::FileNotFound);
-  const std::uint32_t kept = attribute::Normal | attribute::Archive | attribute::Directory | attribute::Link;
-  if ((bits & ~kept) != 0) changed(spot).reset.insert(spot.name);
-}
-
-std::int64_t PretendFiles::removable(std::string_view path, Removal how) {
-  const Spot spot = locate(path);
-  if (spot.own != nullptr) {
+  std::int64_t length(ReadOnlyBit bit) override {
+    const Spot spot = files_.locate(path_);
+    if (spot.own != nullptr)
+      return removable(bit == ReadOnlyBit::Counts ? Removal::File : Removal::EvenReadOnly);
+    return beneath(spot).length(spot.isReset() ? ReadOnlyBit::Ignored : bit);
+  }
+  std::unique_ptr<FileChannel> open() override { return files_.open(path_, OpenMode::Binary); }
+  std::int64_t removable(Removal how) override {
+    const Spot spot = files_.locate(path_);
+    if (spot.own == nullptr)
+      return beneath(spot).removable(spot.isReset() && how == Removal::File ? Removal::EvenReadOnly : how);
     const bool isFolder = !spot.own->content;
     const bool isReadOnly = (spot.own->attributes & attribute::ReadOnly) != 0;
     if (isFolder != (how == Removal::EmptyFolder) || (isReadOnly && how == Removal::File))
       throw RuntimeError(ErrorNumber::PathFileAccess);
-    if (spot.own->overBeneath) beneath_.removable(path, Removal::EvenReadOnly);
+    if (spot.own->overBeneath && beneath_) beneath_->removable(Removal::EvenReadOnly);
     return isFolder ? 0 : spot.own->content->length();
   }
-  if (!spot.asksBeneath()) throwMissing(spot);
-  const bool reset = spot.folder != nullptr && spot.folder->reset.contains(spot.name);
-  return beneath_.removable(path, reset && how == Removal::File ? Removal::EvenReadOnly : how);
+  void remove() override { take(Removal::File); }
+  void take(Removal how) {
+    const std::int64_t length = removable(how);
+    files_.takeOut(files_.locate(path_), how == Removal::EmptyFolder, length);
+  }
+
+ private:
+  FileGrip& beneath(const Spot& spot) {
+    if (!spot.asksBeneath() || !beneath_) throw RuntimeError(ErrorNumber::FileNotFound);
+    return *beneath_;
+  }
+
+  PretendFiles& files_;
+  std::string path_;
+  std::unique_ptr<FileGrip> beneath_;
+};
+
+std::unique_ptr<FileGrip> PretendFiles::grip(std::string_view path) {
+  return std::make_unique<Grip>(gripOf(path));
 }
 
-std::int64_t PretendFiles::openedLength(std::string_view path, ReadOnlyBit bit) {
+PretendFiles::Grip PretendFiles::gripOf(std::string_view path) {
   const Spot spot = locate(path);
-  if (spot.own != nullptr) {
-    return removable(path, bit == ReadOnlyBit::Counts ? Removal::File : Removal::EvenReadOnly);
-  }
-  if (!spot.asksBeneath()) throwMissing(spot);
-  const bool reset = spot.folder != nullptr && spot.folder->reset.contains(spot.name);
-  return beneath_.grip(path)->length(reset ? ReadOnlyBit::Ignored : bit);
+  if (spot.own == nullptr && !spot.asksBeneath()) throw RuntimeError(ErrorNumber::FileNotFound);
+  const bool isBeneath = spot.own == nullptr || spot.own->overBeneath;
+  return {*this, path, isBeneath ? beneath_.grip(path) : nullptr};
 }
 
 // The file's own form, made for the first change of its content.
@@ -272,13 +278,14 @@ PretendFiles::Own& PretendFiles::writable(std::string_view path, const Spot& spo
   own.attributes = attributes(path);
   if (own.attributes != attribute::Invalid) {
     if ((own.attributes & attribute::ReadOnly) != 0) throw RuntimeError(ErrorNumber::PathFileAccess);
-    const std::int64_t length = openedLength(path, ReadOnlyBit::Counts);
+    const std::int64_t length =
+        beneath_.grip(path)->length(spot.isReset() ? ReadOnlyBit::Ignored : ReadOnlyBit::Counts);
     FoundFile found;
     if (const auto search = beneath_.find(path); search && search->next(found)) own.name = found.name;
     own.overBeneath = true;
     own.content = std::make_shared<PretendContent>(beneath_, std::string(path), length);
   } else {
-    checkMakeable(path, spot, Removal::File);
+    checkMakeable(path, spot);
     own.attributes = attribute::Archive;
   }
   return changed(spot).own[spot.name] = own;
@@ -317,11 +324,6 @@ void PretendFiles::takeOut(const Spot& spot, bool folder, std::int64_t length) {
   removed_.bytes += length;
 }
 
-void PretendFiles::remove(std::string_view path) {
-  const std::int64_t length = removable(path, Removal::File);
-  takeOut(locate(path), false, length);
-}
-
 bool PretendFiles::fileExists(std::string_view path) {
   const Spot spot = locate(path);
   if (spot.own != nullptr) return spot.own->content != nullptr;
@@ -335,13 +337,13 @@ bool PretendFiles::folderExists(std::string_view path) {
 }
 
 // Fails where nothing can be made at the path, which leads nowhere so far.
-void PretendFiles::checkMakeable(std::string_view path, const Spot& spot, Removal kind) {
+void PretendFiles::checkMakeable(std::string_view path, const Spot& spot) {
   if (!spot.folderThere) throwMissing(spot);
   const std::string_view holder = path.substr(0, behindFolder(withoutEnd(path)));
   if (!holder.empty() && !folderExists(holder)) throw RuntimeError(ErrorNumber::PathNotFound);
   if (!spot.asksBeneath()) return;
   try {
-    beneath_.removable(path, kind);
+    beneath_.open(path, OpenMode::Input);
   } catch (const RuntimeError& failure) {
     const bool onlyHere = failure.number() == ErrorNumber::PathNotFound && !beneath_.folderExists(holder);
     if (failure.number() != ErrorNumber::FileNotFound && !onlyHere) throw;  // no name or place for a file
@@ -354,7 +356,7 @@ void PretendFiles::createFolder(std::string_view path) {
   const bool there =
       spot.own != nullptr || (spot.asksBeneath() && beneath_.attributes(path) != attribute::Invalid);
   if (there) throw RuntimeError(ErrorNumber::PathFileAccess);
-  checkMakeable(path, spot, Removal::EmptyFolder);
+  checkMakeable(path, spot);
   changed(spot).own[spot.name].name = path.substr(behindFolder(path));
   entered_.clear();
 }
@@ -390,17 +392,15 @@ void PretendFiles::removeTree(const std::string& path, std::unique_ptr<RuntimeEr
           removeTree(child, below);
           if (below) throw RuntimeError(*below);
         } else {
-          const std::int64_t length = removable(child, Removal::EvenReadOnly);
-          takeOut(locate(child), false, length);
+          gripOf(child).take(Removal::EvenReadOnly);
         }
       });
     }
   });
   if (!whole) return;
   attempt([&] {
-    removable(path, Removal::EmptyFolder);
+    gripOf(path).take(Removal::EmptyFolder);
     const Spot spot = locate(path);
-    takeOut(spot, true, 0);
     const std::string key = spot.key + '\\' + spot.name;
     folders_.erase(key);
     folders_.erase(folders_.lower_bound(key + '\\'), folders_.lower_bound(key + ']'));

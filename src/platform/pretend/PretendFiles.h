@@ -24,7 +24,6 @@ class PretendFiles : public Files {
   std::uint32_t attributes(std::string_view path) override;
   std::unique_ptr<FileGrip> grip(std::string_view path) override;
   std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override;
-  std::int64_t removable(std::string_view path, Removal how) override;
   void replace(std::string_view path, std::string_view bytes) override;
   bool fileExists(std::string_view path) override;
   bool folderExists(std::string_view path) override;
@@ -70,23 +69,20 @@ class PretendFiles : public Files {
     bool gone = false;
 
     bool asksBeneath() const { return own == nullptr && !gone && beneath; }
+    bool isReset() const { return folder != nullptr && folder->reset.contains(name); }
   };
 
   class Search;
   class Grip;
 
-  // The steps of a removal. Nothing goes beneath, so the path leads where it led.
-  void resetAttributes(std::string_view path);
-  std::int64_t openedLength(std::string_view path, ReadOnlyBit bit);
-  void remove(std::string_view path);
-
+  Grip gripOf(std::string_view path);
   Spot locate(std::string_view path);
   void enter(std::string_view folder);
   std::string longName(std::string_view path, std::string_view name);
   Folder& changed(const Spot& spot);
   Own& writable(std::string_view path, const Spot& spot);
   [[noreturn]] static void throwMissing(const Spot& spot);
-  void checkMakeable(std::string_view path, const Spot& spot, Removal kind);
+  void checkMakeable(std::string_view path, const Spot& spot);
   void takeOut(const Spot& spot, bool folder, std::int64_t length);
   void removeTree(const std::string& path, std::unique_ptr<RuntimeError>& failure);
   void tellGone(const std::string& path, const Folder* some, const Tell& tell);

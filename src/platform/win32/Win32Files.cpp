@@ -80,11 +80,14 @@ auto withMissingFile(Step step) {
   }
 }
 
-// By the path as the system wants it, which is worked out once.
+// By the path as the system wants it, which is worked out once. It holds no handle: one with the right to remove would
+// have to be opened at the first step, and would fail there for what fails at a later one, before the lines that the
+// report has in between. The 9x family removes nothing by a handle.
 class Win32Grip : public FileGrip {
  public:
   explicit Win32Grip(SystemPath path) : path_(std::move(path)) {}
 
+  std::uint32_t attributes() override { return attributesOf(path_); }
   void resetAttributes() override {
     withMissingFile([&] {
       if (!path_.setAttributes(FILE_ATTRIBUTE_NORMAL)) throwLastError();
@@ -96,6 +99,24 @@ class Win32Grip : public FileGrip {
   }
   std::unique_ptr<FileChannel> open() override {
     return std::make_unique<Win32FileChannel>(openFile(path_, FileUse::Write));
+  }
+  // The 9x family asks for no right to remove, and opens no folder.
+  std::int64_t removable(Removal how) override {
+    const bool asFolder = how == Removal::EmptyFolder;
+    const std::uint32_t bits = attributesOf(path_);
+    if (bits == attribute::Invalid) throwLastError();
+    const bool readOnly = (bits & attribute::ReadOnly) != 0 && how == Removal::File;
+    if (isFolder(bits) != asFolder || readOnly) throw RuntimeError(ErrorNumber::PathFileAccess);
+    const bool nt = isNtFamily();
+    if (asFolder && !nt) return 0;
+    constexpr DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const DWORD sharing = nt ? everything : 0;
+    const DWORD rights = nt ? DELETE | FILE_READ_ATTRIBUTES : GENERIC_READ;
+    const DWORD flags = nt ? FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS : 0;
+    const HANDLE opened = isFolderLink(bits) ? openFolderLink(path_, rights, sharing)
+                                             : path_.open(rights, sharing, OPEN_EXISTING, flags);
+    if (opened == INVALID_HANDLE_VALUE) throwLastError();
+    return asFolder ? (CloseHandle(opened), 0) : Win32FileChannel(opened).length();
   }
   void remove() override { removeEntry(path_); }
 
@@ -178,26 +199,6 @@ std::unique_ptr<FileGrip> Win32Files::grip(std::string_view path) {
 std::unique_ptr<FileChannel> Win32Files::open(std::string_view path, OpenMode mode) {
   return std::make_unique<Win32FileChannel>(
       openFile(filePath(path), mode == OpenMode::Binary ? FileUse::Make : FileUse::Read));
-}
-
-// The 9x family asks for no right to remove, and opens no folder.
-std::int64_t Win32Files::removable(std::string_view path, Removal how) {
-  const bool asFolder = how == Removal::EmptyFolder;
-  const SystemPath place = asFolder ? SystemPath(path) : filePath(path);
-  const std::uint32_t bits = attributesOf(place);
-  if (bits == attribute::Invalid) throwLastError();
-  const bool readOnly = (bits & attribute::ReadOnly) != 0 && how == Removal::File;
-  if (isFolder(bits) != asFolder || readOnly) throw RuntimeError(ErrorNumber::PathFileAccess);
-  const bool nt = isNtFamily();
-  if (asFolder && !nt) return 0;
-  constexpr DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const DWORD sharing = nt ? everything : 0;
-  const DWORD rights = nt ? DELETE | FILE_READ_ATTRIBUTES : GENERIC_READ;
-  const DWORD flags = nt ? FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS : 0;
-  const HANDLE opened = isFolderLink(bits) ? openFolderLink(place, rights, sharing)
-                                           : place.open(rights, sharing, OPEN_EXISTING, flags);
-  if (opened == INVALID_HANDLE_VALUE) throwLastError();
-  return asFolder ? (CloseHandle(opened), 0) : Win32FileChannel(opened).length();
 }
 
 void Win32Files::replace(std::string_view path, std::string_view bytes) {

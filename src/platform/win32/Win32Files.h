@@ -11,7 +11,6 @@ class Win32Files : public Files {
   std::uint32_t attributes(std::string_view path) override;
   std::unique_ptr<FileGrip> grip(std::string_view path) override;
   std::unique_ptr<FileChannel> open(std::string_view path, OpenMode mode) override;
-  std::int64_t removable(std::string_view path, Removal how) override;
   void replace(std::string_view path, std::string_view bytes) override;
   bool fileExists(std::string_view path) override;
   bool folderExists(std::string_view path) override;

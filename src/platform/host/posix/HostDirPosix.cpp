@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <optional>
 #include <utility>
 
 #include "platform/host/HostDir.h"
@@ -257,13 +258,9 @@ class PosixDir : public HostDir {
 
   HostError mayRemove(const std::string& name) override {
     if (!isPart(name)) return HostError::BadName;
-    if (::faccessat(handle_.get(), ".", W_OK | X_OK, AT_EACCESS) < 0) return errorOf(errno);
-    struct stat folder {};
+    if (!removal_) removal_ = rightsHere();
+    if (!removal_->onlyOwn) return removal_->error;
     struct stat entry {};
-    if (::fstat(handle_.get(), &folder) < 0) return errorOf(errno);
-    if ((folder.st_mode & S_ISVTX) == 0 || ::geteuid() == 0 || ::geteuid() == folder.st_uid)
-      return HostError::None;
-    // In such a folder everybody removes only what is his.
     if (::fstatat(handle_.get(), name.c_str(), &entry, AT_SYMLINK_NOFOLLOW) < 0) return errorOf(errno);
     return entry.st_uid == ::geteuid() ? HostError::None : HostError::NoRights;
   }
@@ -310,6 +307,19 @@ class PosixDir : public HostDir {
   }
 
  private:
+  // What this user may remove in the folder, asked once while it is open.
+  struct RemovalRights {
+    HostError error = HostError::None;
+    bool onlyOwn = false;  // everybody only what is his
+  };
+  RemovalRights rightsHere() const {
+    struct stat folder {};
+    if (::faccessat(handle_.get(), ".", W_OK | X_OK, AT_EACCESS) < 0 || ::fstat(handle_.get(), &folder) < 0)
+      return {errorOf(errno)};
+    const bool mayAll = ::geteuid() == 0 || ::geteuid() == folder.st_uid;
+    return {HostError::None, (folder.st_mode & S_ISVTX) != 0 && !mayAll};
+  }
+
   // The permissions of a file that is replaced, and its owner. Not all disks and users can.
   void handOn(const std::string& name, const struct stat& old) {
     const mode_t mode = old.st_mode & 0777;
@@ -324,6 +334,7 @@ class PosixDir : public HostDir {
   }
 
   Handle handle_;
+  std::optional<RemovalRights> removal_;
 };
 
 }  // namespace
