@@ -2,7 +2,6 @@
 #include <fstream>
 
 #include "cleaners/BrowserFiles.h"
-#include "windows/IconList.h"
 #include "windows/Story.h"
 
 using namespace zub;
@@ -47,7 +46,7 @@ TEST_CASE("a cookie of Netscape that is kept outlives the wash") {
   pc::put(pc::appData() / "Mozilla" / "Registry.dat", profileRegistry({folder.string()}));
   const Zub zub;
   const Window main = zub.main();
-  IconList(main).clickPicture(5);
+  icons::clickPicture(main, 5);
   main.child("Mail");  // the choices of Netscape have come
   main.child("Manage").click();
   const Window keep = zub.window(title::NSCookies);

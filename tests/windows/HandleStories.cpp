@@ -1,7 +1,6 @@
 // What the windows take of the system.
 #include <cstdlib>
 
-#include "windows/IconList.h"
 #include "windows/Story.h"
 
 using namespace zub::drive;
@@ -32,7 +31,7 @@ std::vector<Opening> allOpenings(const Zub& zub) {
   std::vector<Opening> all = {{title::Progress, main.child("&Start Cleaning")},
                               {title::About, main.child("About")},
                               {title::IECookies, main.child("Manage")}};
-  IconList(main).clickPicture(5);
+  icons::clickPicture(main, 5);
   main.child("Mail");
   all.push_back({title::NSCookies, main.child("Manage")});
   openTab(main, "Custom Plugins");
