@@ -87,7 +87,7 @@ TEST_CASE_TEMPLATE("files: a search tells sizes and attributes, and files may go
   CHECK_FALSE(one->next(entry));
   CHECK_FALSE(one->next(entry));
 
-  for (int number = 0; number < 300; ++number) pc.file(base + std::to_string(number) + ".dat", "x");
+  for (int number = 0; number < 100; ++number) pc.file(base + std::to_string(number) + ".dat", "x");
   const auto search = files.find(base + "*.dat");
   REQUIRE(search);
   while (search->next(entry)) files.grip(base + entry.name)->remove();

@@ -1,5 +1,6 @@
 // What only a Windows of its own has: its error numbers, its kinds of reparse points, what it reads into a name.
 #ifdef _WIN32
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <map>
@@ -110,6 +111,17 @@ TEST_CASE("a folder that the registry names in another alphabet is found, and it
                            &room) == 0);
   CHECK(room == size);
   CHECK(std::wstring(stored.data()) == path);
+}
+
+TEST_CASE("the recycle bins are told by their folders: one for all, and on the NT family the user's") {
+  Win32ContractPc pc;
+  const std::vector<std::string> bins = pc.platform().shell->recycleBins();
+  for (const char* begin : {"\\Recycled", "\\Recycler\\S-1-5-", "\\$Recycle.Bin\\S-1-5-"}) {
+    CAPTURE(std::string(begin));
+    const bool told = std::ranges::any_of(
+        bins, [&](const std::string& bin) { return bin.starts_with(pc.folder().substr(0, 2) + begin); });
+    CHECK(told == (isNt(pc) || begin == std::string_view("\\Recycled")));
+  }
 }
 
 TEST_CASE("where nothing names a folder for temporary files there is none") {

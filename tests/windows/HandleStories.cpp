@@ -10,7 +10,7 @@ namespace {
 // How often each window is opened: the environment may ask for more than a test run has time for.
 int openings() {
   const char* asked = std::getenv("ZUB_OPENINGS");
-  return asked != nullptr ? std::atoi(asked) : 5;
+  return asked != nullptr ? std::atoi(asked) : 2;
 }
 
 struct Opening {

@@ -11,6 +11,8 @@ namespace title {
 inline constexpr std::string_view Main = "Zubrane";
 inline constexpr std::string_view Progress = "ZUB - Task Removal Status";
 inline constexpr std::string_view Report = "Log Report";
+inline constexpr std::string_view Preview = "ZUB - Preview";
+inline constexpr std::string_view PreviewReport = "Preview";
 inline constexpr std::string_view Editor = "ZUB Plugin Editor";
 inline constexpr std::string_view IECookies = "Internet Explorer Cookie Manger";
 inline constexpr std::string_view NSCookies = "Netscape Cookie Manger";
@@ -46,6 +48,9 @@ class Zub {
     int graphics, windows;
   };
   Handles handles() const;
+
+  // What the process has had of the processor, in milliseconds.
+  ULONGLONG busyTime() const;
 
   // Waits for the end of the process.
   bool ends(int seconds = Patience) const;

@@ -1,4 +1,4 @@
-#include "app/Preview.h"
+#include "app/PreviewText.h"
 #include "app/console/Commands.h"
 #include "app/console/Report.h"
 #include "app/console/Terminal.h"
@@ -6,16 +6,6 @@
 
 namespace zub {
 namespace {
-
-void printSums(const CommandContext& context, const Preview::Sums& sums) {
-  context.print("");
-  context.print("Would go: " + sumsText(sums));
-  std::string nothing;
-  for (const std::string& name : sums.foundNothing) nothing += (nothing.empty() ? "" : ", ") + name;
-  if (!nothing.empty()) context.print("Nothing to remove for: " + nothing);
-  context.print(
-      "Nothing has been removed. What other programs open, write or remove until the wash is not foretold.");
-}
 
 void printList(const CommandContext& context, Preview& preview) {
   preview.each([&](Preview::Kind kind, const std::string& path, const std::string& valueName) {
@@ -54,10 +44,11 @@ int previewCommand(CommandContext& context) {
   if (list) {
     printList(context, preview);
   } else {
-    context.print("PREVIEW: nothing has been removed. A wash would report:");
+    context.print(PreviewHeading);
     context.print("");
     terminal::write(terminal::Stream::Output, reportText(context, program));
-    printSums(context, preview.sums());
+    context.print("");
+    for (const std::string& line : closingLines(preview.sums())) context.print(line);
   }
   return tellLeftBehind(context, program, "would stay");
 }

@@ -9,10 +9,6 @@
 namespace zub {
 namespace {
 
-std::string counted(std::int64_t count, const char* one, const char* several) {
-  return std::to_string(count) + ' ' + (count == 1 ? one : several);
-}
-
 // The report lies in memory with CR LF behind each line; a terminal wants no blank line at its end.
 std::string linesOf(const CommandContext& context, std::string_view text) {
   text = trimRight(text, CrLf);
@@ -36,12 +32,6 @@ std::string reportText(const CommandContext& context, Program& program) {
   return report + context.pc.toTerminal(shown.lblRemove.Caption) + "\n" +
          context.pc.toTerminal(shown.StatusBar1[1]) + "\n" +
          context.pc.toTerminal(program.options.lblLastRemoval.Caption) + "\n";
-}
-
-std::string sumsText(const Preview::Sums& sums) {
-  return counted(sums.files, "file", "files") + " of " + counted(sums.bytes, "byte", "bytes") + ", " +
-         counted(sums.folders, "folder", "folders") + ", " +
-         counted(sums.keys, "registry key", "registry keys") + ", " + counted(sums.values, "value", "values");
 }
 
 void tellOddFolders(const CommandContext& context) {

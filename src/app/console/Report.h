@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "app/Preview.h"
 #include "app/Program.h"
 #include "app/console/Commands.h"
 
@@ -21,8 +20,6 @@ struct Attached {
 
 // The report and the closing figures, for the terminal; empty where there was no wash.
 std::string reportText(const CommandContext& context, Program& program);
-// "2 files of 14 bytes, 1 folder, 0 registry keys, 1 value"
-std::string sumsText(const Preview::Sums& sums);
 // Tells the folders that a wash takes for others than the registry means.
 void tellOddFolders(const CommandContext& context);
 // Tells what, how much was tried and `happened`, such as "could not be removed"; the exit status of that.
