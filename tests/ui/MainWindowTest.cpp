@@ -57,7 +57,7 @@ TEST_CASE("every option, on or off, and every row explains itself on its own tab
   }
   for (int row = 0; row < IconChecks::Count; ++row) {
     window.main.LstIcons_ClickSelect(row);
-    const std::string name(iconNames[static_cast<std::size_t>(row)]);
+    const std::string name(iconNames[static_cast<std::size_t>(row)].stored);
     tell(name + " picked");
     window.main.LstIcons_ClickCheck(row);
     tell(name + " checked");
