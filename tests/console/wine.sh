@@ -33,7 +33,8 @@ exported "$explorer\\Shell Folders" >/dev/null
 # folder NAME: the path below C: of a folder of the user.
 folder() { sed -n "s/^\"$1\"=\"C:\\(.*\\)\"\$/\\1/p" "$work/exported.reg" | sed 's/\\\\/\//g'; }
 recent=$(folder Recent) cookies=$(folder Cookies) appData=$(folder AppData)
-for path in "$recent" "$cookies" "$appData"; do check "a folder of the user is not known" [ -n "$path" ]; done
+# None of them may be empty: what is removed below would be the drive.
+for path in "$recent" "$cookies" "$appData"; do [ -n "$path" ] || { fail "a folder of the user is not known"; exit 1; }; done
 temp=${appData%/AppData/*}/Temp
 
 # What is to go, and what is to stay.
