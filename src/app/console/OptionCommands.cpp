@@ -3,6 +3,7 @@
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "app/console/Json.h"
 #include "app/console/NearMiss.h"
 #include "app/console/OptionText.h"
 #include "app/console/Store.h"
@@ -95,6 +96,23 @@ void readSettings(Program& program) {
   store.GetInfo2();
 }
 
+void printJson(const CommandContext& context, Options& options) {
+  Json json(context, "options");
+  json.text("lastRemoval", options.lblLastRemoval.Caption);
+  json.array("options", [&] {
+    for (const Setting& setting : settingsOf(options)) {
+      json.object([&] {
+        json.text("name", setting.name);
+        json.number("value", setting.value);
+        json.number("lowest", setting.lowest);
+        json.number("highest", setting.highest);
+        json.utf8("does", optionText(setting.name));
+      });
+    }
+  });
+  json.write();
+}
+
 }  // namespace
 
 void checkSet(const Given& given) {
@@ -110,6 +128,10 @@ void checkGet(const Given& given) {
 
 int optionsCommand(CommandContext& context) {
   Store store(context.pc.platform());
+  if (context.given.has("--json")) {
+    printJson(context, store.options);
+    return exitStatus::Done;
+  }
   context.print("lblLastRemoval=" + store.options.lblLastRemoval.Caption);
   for (const Setting& setting : settingsOf(store.options)) {
     context.print(setting.name + "=" + std::to_string(setting.value));

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "app/console/Commands.h"
+#include "app/console/Json.h"
 #include "app/console/NearMiss.h"
 #include "app/console/Store.h"
 #include "base/RuntimeError.h"
@@ -16,6 +17,17 @@ void listRows(const CommandContext& context, const ListRows& rows) {
   for (int row = 0; row < rows.ListCount(); ++row) {
     context.print((rows.Selected(row) ? "  [x] " : "  [ ] ") + rows.List(row));
   }
+}
+
+void addRows(Json& json, std::string_view name, const ListRows& rows) {
+  json.array(name, [&] {
+    for (int row = 0; row < rows.ListCount(); ++row) {
+      json.object([&] {
+        json.text("name", rows.List(row));
+        json.flag("ticked", rows.Selected(row));
+      });
+    }
+  });
 }
 
 void printMeaning(const CommandContext& context, std::string_view text, Meaning::Verdict verdict) {
@@ -108,6 +120,14 @@ void checkPluginCheck(const Given& given) {
 
 int pluginsCommand(CommandContext& context) {
   Store store(context.pc.platform());
+  if (context.given.has("--json")) {
+    Json json(context, "plugins");
+    json.text("folder", store.plugins.CurPath());
+    addRows(json, "custom", store.options.lstFiles);
+    addRows(json, "standard", store.options.standardlist);
+    json.write();
+    return exitStatus::Done;
+  }
   context.print("Custom plugins in " + store.plugins.CurPath() + ":");
   listRows(context, store.options.lstFiles);
   context.print("Standard plugins:");

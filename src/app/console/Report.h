@@ -7,6 +7,7 @@
 #include "app/Preview.h"
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "app/console/Json.h"
 
 namespace zub {
 
@@ -21,6 +22,8 @@ struct Attached {
 
 // The report and the closing figures, for the terminal; empty where there was no wash.
 std::string reportText(const CommandContext& context, Program& program);
+// The same as members of a document, with what stayed behind and what failed.
+void addReport(Json& json, const CommandContext& context, const Program& program);
 // "2 files of 14 bytes, 1 folder, 0 registry keys, 1 value"
 std::string sumsText(const Preview::Sums& sums);
 // Tells the folders that a wash takes for others than the registry means.
