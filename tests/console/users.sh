@@ -45,6 +45,7 @@ here "$pc/C/RECYCLER/S-1-5-21-8/Dc1.txt"
 gone "$pc/C/RECYCLER/S-1-5-21-7/Dc1.txt"
 gone "$pc/C/Cookies/a.txt"
 check "the trace stays" [ "$(grep -c RunMRU "$pc/registry.reg")" -eq 0 ]
+check "what changed is told, and the program's own settings with it" [ "$(grep -cE 'RunMRU|ZUB' "$pc/changes.reg")" -eq 1 ]
 
 # Drives: what looks like one is told, and a drive may lie elsewhere.
 mv "$pc/C" "$work/elsewhere"

@@ -1,4 +1,4 @@
-// What a PC holds below the scratch folder and the scratch key of the contract suite, and its tasks: by path, as text.
+// What a PC holds below the scratch folder and the scratch key of the contract suite, and its tasks.
 #pragma once
 
 #include <functional>
@@ -9,15 +9,28 @@
 
 namespace zub {
 
-using BeneathState = std::map<std::string, std::string>;
-// The times of a file or folder, as text.
-using TimesOf = std::function<std::string(const std::string& path)>;
+class BeneathState {
+ public:
+  // The times of a file or folder, as text.
+  using TimesOf = std::function<std::string(const std::string& path)>;
+  BeneathState(Platform& pc, std::string folder, std::string key, TimesOf times);
 
-// Of one file or folder: attributes, times and bytes.
-std::string stateOf(Files& files, const std::string& path, const TimesOf& times);
-BeneathState stateOf(const Platform& pc, const std::string& folder, const std::string& key,
-                     const TimesOf& times);
-// The entries that differ, as text.
-std::string differences(const BeneathState& before, const BeneathState& after);
+  void take() { taken_ = look(); }
+  void take(const std::string& path);  // one file or folder anew
+  std::string changes() const;         // what differs from what was taken; empty for nothing
+
+ private:
+  using Entries = std::map<std::string, std::string>;  // by path
+  Entries look() const;
+  std::string describe(const std::string& path) const;
+  void addFolder(Entries& entries, const std::string& path) const;
+  void addKey(Entries& entries, RegistryKey parent, const std::string& name, const std::string& path) const;
+
+  Platform& pc_;
+  std::string folder_;
+  std::string key_;
+  TimesOf times_;
+  Entries taken_;
+};
 
 }  // namespace zub

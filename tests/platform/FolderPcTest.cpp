@@ -1,5 +1,6 @@
 // The texts of a PC folder, their refusals and their saves.
 #include <algorithm>
+#include <ctime>
 #include <numeric>
 
 #include "base/Text.h"
@@ -59,6 +60,10 @@ TEST_CASE("a new PC is valid, and only an empty folder becomes one") {
   FolderPc pc(folder);
   CHECK(pc.files.folderExists("C:\\WINDOWS\\TEMP"));
   CHECK(pc.folders.programFolder() == "C:\\Program Files\\Zubrane");
+  const std::time_t seconds = std::time(nullptr);
+  const SystemTime now = pc.clock.local();
+  CHECK(now.wYear == std::localtime(&seconds)->tm_year + 1900);
+  CHECK(now.wHour == std::localtime(&seconds)->tm_hour);
   CHECK(pc.drives.list() == std::vector<std::string>{"C:"});
   CHECK_THROWS_AS(createPc(folder), PcError);
   CHECK_THROWS_AS(createPc(temp.path() + "/missing/new"), PcError);
@@ -67,35 +72,18 @@ TEST_CASE("a new PC is valid, and only an empty folder becomes one") {
 }
 
 TEST_CASE("bad facts are refused with their line") {
-  struct Row {
-    const char* text;
-    int line;
-  };
-  const Row rows[] = {
-      {"famly = 9x\n", 1},
-      {"family = me\n", 1},
-      {"family = nt\nfamily = 9x\n", 2},
-      {"# comment\r\n\r\nwindows = WINDOWS\r\n", 3},
-      {"windows = \\\\server\\x\n", 1},
-      {"temp = C:\\a|b\n", 1},
-      {"current\n", 1},
-      {"drive CD = fixed\n", 1},
-      {"drive C = floppy\n", 1},
-      {"drive C = fixed at \n", 1},
-      {"user = Software\\x\n", 1},
-      {"drive C = fixed\nDRIVE c = fixed\n", 2},
-      {"read only = C:\n", 1},
-      {"no rights = HKLM\\Software\n", 1},
-      {"no rights =\n", 1},
-      {"= x\n", 1},
-  };
   NewPc folder;
-  for (const Row& row : rows) {
-    CAPTURE(row.text);
-    folder.write("pc.txt", row.text);
+  for (const std::string text :  // whose last line is the bad one
+       {"famly = 9x\n", "family = me\n", "family = nt\nfamily = 9x\n",
+        "# comment\r\n\r\nwindows = WINDOWS\r\n", "windows = \\\\server\\x\n", "temp = C:\\a|b\n",
+        "current\n", "drive CD = fixed\n", "drive C = floppy\n", "drive C = fixed at \n",
+        "user = Software\\x\n", "drive C = fixed\nDRIVE c = fixed\n", "read only = C:\n",
+        "no rights = HKLM\\Software\n", "no rights =\n", "= x\n"}) {
+    CAPTURE(text);
+    folder.write("pc.txt", text);
     const PcError error = errorOf(folder.path());
     CHECK(error.file() == "pc.txt");
-    CHECK(error.line() == row.line);
+    CHECK(error.line() == std::ranges::count(text, '\n'));
   }
 }
 
@@ -119,14 +107,15 @@ TEST_CASE("drives lie in folders of the PC's folder, or where the facts tell") {
   for (const char* folder : {"E", "not a drive"}) REQUIRE(root->makeDir(folder) == HostError::None);
   writeHostFile(*root, "pc.txt",
                 "drive C = fixed at ../disk\ndrive D = removable at " + temp.path() +
-                    "/disk\ndrive F = fixed at gone\n");
+                    "/disk\ndrive F = fixed at gone\ndrive G = cdrom\n");
   FolderPc pc(temp.path() + "/pc");
   CHECK(pc.files.fileExists("C:\\f"));
   CHECK(pc.files.fileExists("d:\\F"));
   CHECK(pc.drives.type("D:") == DriveType::Removable);
-  CHECK(pc.driveFolders().letters() == std::vector<char>{'C', 'D', 'E', 'F'});
+  CHECK(pc.driveFolders().letters() == std::vector<char>{'C', 'D', 'E', 'F', 'G'});
   CHECK(pc.driveFolders().withDisk() == std::vector<char>{'C', 'D', 'E'});
-  CHECK(failure([&] { pc.files.open("F:\\f", OpenMode::Input); }) == 71);
+  for (const char* path : {"F:\\f", "G:\\f"})
+    CHECK(failure([&] { pc.files.open(path, OpenMode::Input); }) == 71);
   const std::vector<std::string> oddities = pc.driveFolders().oddities();
   REQUIRE(oddities.size() == 2);
   CHECK(contains(oddities[0], "drive F: holds no disk"));
@@ -141,23 +130,20 @@ TEST_CASE("a hive shows the part of another one that it is on a running PC, and 
       "[HKEY_LOCAL_MACHINE\\Software\\Classes\\txt]\n[HKEY_LOCAL_MACHINE\\Config\\0001\\x]\n";
   const std::string users = "[HKEY_USERS\\.DEFAULT\\Of default]\n[HKEY_USERS\\S-1\\Of one\\Below]\n";
   folder.write("registry.reg", "REGEDIT4\n[HKEY_CURRENT_USER\\Own]\n" + machine + users);
-  struct Row {
-    const char* user;
-    const char* key;
-  };
-  for (const Row& row : {Row{"", "Own"}, {".default", "Of default"}, {"S-1", "Of one"}}) {
-    CAPTURE(row.user);
-    FolderPc pc(folder.path(), {}, DamagedTasks::Refused, row.user);
+  for (const auto& [user, own] :
+       {std::pair{"", "Own"}, std::pair{".default", "Of default"}, std::pair{"S-1", "Of one"}}) {
+    CAPTURE(std::string(user));
+    FolderPc pc(folder.path(), {}, DamagedTasks::Refused, user);
     Registry& registry = pc.registry;
     const auto opens = [&](Hive hive, const char* path) {
       return OpenKey(registry).open(hive, path, access::Read) == status::Success;
     };
-    CHECK(opens(Hive::CurrentUser, row.key));
+    CHECK(opens(Hive::CurrentUser, own));
     CHECK(opens(Hive::ClassesRoot, "txt"));
     CHECK(opens(Hive::CurrentConfig, "x"));
     CHECK(registry.deleteKey(registry.hive(Hive::LocalMachine), "Software") == status::AccessDenied);
     CHECK(registry.deleteKey(registry.hive(Hive::CurrentUser), "") == status::AccessDenied);
-    CHECK(registry.deleteKey(registry.hive(Hive::CurrentUser), row.key) == status::Success);
+    CHECK(registry.deleteKey(registry.hive(Hive::CurrentUser), own) == status::Success);
   }
   folder.write("pc.txt", "user = S-1\nno rights = HKEY_CURRENT_USER\\Of one\n");
   FolderPc pc(folder.path());
@@ -169,6 +155,12 @@ TEST_CASE("a hive shows the part of another one that it is on a running PC, and 
   folder.write("registry.reg", "REGEDIT4\n[HKEY_CLASSES_ROOT\\own]\n" + machine);
   FolderPc own(folder.path());
   CHECK(OpenKey(own.registry).open(Hive::ClassesRoot, "txt", access::Read) == status::FileNotFound);
+  for (const std::string profiles : {"CurrentControlSet", "ControlSet001"}) {
+    folder.write("registry.reg",
+                 "REGEDIT4\n[HKEY_LOCAL_MACHINE\\System\\" + profiles + "\\Hardware Profiles\\0001\\x]\n");
+    FolderPc nt(folder.path());
+    CHECK(OpenKey(nt.registry).open(Hive::CurrentConfig, "x", access::Read) == status::Success);
+  }
 }
 
 TEST_CASE("a save changes only what the program changed") {
@@ -239,7 +231,8 @@ TEST_CASE("a registry that could not be saved is not taken") {
   // A key writes the path of each key above it, a control character makes bytes of a text.
   std::string deep = "[HKEY_USERS";
   for (int level = 0; level < 500; ++level) deep += "\\" + std::string(200, 'k');
-  RegistryTree tree = readRegistryText("REGEDIT4\n" + deep + "]\n\"v\"=\"a\x01\\\\\"\n", "x");
+  RegistryTree tree =
+      readRegistryText("REGEDIT4\n" + deep + "]\n\"v\"=\"a\x01" + std::string(300, 'x') + "\\\\\"\n", "x");
   const std::uint64_t length = writeRegistryText(tree).size();
   CHECK(canBeWritten(tree, length));
   CHECK_FALSE(canBeWritten(tree, length - 1));
@@ -295,17 +288,16 @@ TEST_CASE("a profile key is set and all other lines stay") {
 }
 
 TEST_CASE("the common bins of fixed drives are emptied and stay; of the others the bin of the PC's user is") {
-  struct Row {
+  const struct {
     const Family* family;
     const char* user;
     bool userBinEmptied;
-  };
-  const Row rows[] = {{&family9x, "S-1-5-21-7", false},
-                      {&familyNt, "", false},
-                      {&familyNt, "s-1-5-21-7", true},
-                      {&familyNt, "..", false}};
-  for (const Row& row : rows) {
-    CAPTURE(row.user);
+  } rows[] = {{&family9x, "S-1-5-21-7", false},
+              {&familyNt, "", false},
+              {&familyNt, "s-1-5-21-7", true},
+              {&familyNt, "..", false}};
+  for (const auto& row : rows) {
+    CAPTURE(std::string(row.user));
     TestPc pc({"drive D = removable"});
     const std::vector<std::string> ofUser{"C:\\Recycler\\S-1-5-21-7\\Dc0\\x",
                                           "C:\\$Recycle.Bin\\S-1-5-21-7\\x"};
@@ -365,11 +357,10 @@ TEST_CASE("dates and times as text") {
   CHECK(shortTime({2001, 1, 1, 1, 0, 0, 7, 0}) == "12:00:07 AM");
   CHECK(shortTime({2001, 1, 1, 1, 12, 30, 0, 0}) == "12:30:00 PM");
 
-  struct Row {
+  const struct {
     const char* text;
     SystemTime time;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {"09-05-01", {2001, 9, 3, 5, 0, 0, 0, 0}},
       {"25.12.1999", {1999, 12, 6, 25, 0, 0, 0, 0}},
       {"2001-09-05", {2001, 9, 3, 5, 0, 0, 0, 0}},
@@ -382,8 +373,8 @@ TEST_CASE("dates and times as text") {
       {" 2:20:30 pm ", {1899, 12, 6, 30, 14, 20, 30, 0}},
       {"2:20PM 9/5/2001", {2001, 9, 3, 5, 14, 20, 0, 0}},
   };
-  for (const Row& row : rows) {
-    CAPTURE(row.text);
+  for (const auto& row : rows) {
+    CAPTURE(std::string(row.text));
     CHECK(parseDateTime(row.text, today) == row.time);
   }
   for (const char* text : {"5", "13 PM", "9/5/2001 1/1/2001", "1:00 2:00", "9/", "99999/1/1", "0/5/2001"}) {

@@ -13,19 +13,8 @@ namespace {
 struct Host {
   Host() : dir(openHostDir(temp.path())) { REQUIRE(dir); }
 
-  void write(const std::string& name, std::string_view bytes) {
-    std::unique_ptr<HostFile> file;
-    REQUIRE(dir->openFile(name, HostOpen::Empty, file) == HostError::None);
-    REQUIRE(file->write(0, bytes) == HostError::None);
-  }
-  std::string read(const std::string& name, std::uint64_t offset = 0) {
-    std::unique_ptr<HostFile> file;
-    REQUIRE(dir->openFile(name, HostOpen::Read, file) == HostError::None);
-    std::string buffer(1000, '\0');
-    std::size_t done = 0;
-    REQUIRE(file->read(offset, buffer, done) == HostError::None);
-    return buffer.substr(0, done);
-  }
+  void write(const std::string& name, std::string_view bytes) { writeHostFile(*dir, name, bytes); }
+  std::string read(const std::string& name) { return readHostFile(*dir, name); }
   HostError open(const std::string& name, HostOpen mode) {
     std::unique_ptr<HostFile> file;
     const HostError error = dir->openFile(name, mode, file);
@@ -105,24 +94,6 @@ TEST_CASE("host folder: what each way of opening needs and makes") {
   }
 }
 
-TEST_CASE("host folder: a file is read and written at any place") {
-  Host host;
-  std::unique_ptr<HostFile> file;
-  REQUIRE(host.dir->openFile("file", HostOpen::New, file) == HostError::None);
-  CHECK(file->write(0, "0123456789") == HostError::None);
-  CHECK(file->write(12, "CD") == HostError::None);
-  CHECK(file->write(3, "xy") == HostError::None);
-  CHECK(file->sync() == HostError::None);
-  std::uint64_t length = 0;
-  CHECK(file->length(length) == HostError::None);
-  CHECK(length == 14);
-  CHECK(host.read("file") == std::string("012xy56789\0\0CD", 14));
-  CHECK(host.read("file", 12) == "CD");
-  CHECK(host.read("file", 14).empty());
-  CHECK(host.read("file", 1000).empty());
-  CHECK(host.dir->removeFile("file") == HostError::None);  // others may remove what is open
-}
-
 TEST_CASE("host folder: names come and go") {
   Host host;
   CHECK(host.dir->makeDir("folder") == HostError::None);
@@ -179,16 +150,6 @@ TEST_CASE("host folder: many names are all told, and two listings do not meet") 
   };
   CHECK(left(*one) == 700);
   CHECK(left(*two) == 699);
-}
-
-TEST_CASE("host folder: one at a time takes it") {
-  Host host;
-  const auto other = openHostDir(host.temp.path());
-  REQUIRE(other);
-  CHECK(host.dir->take() == HostError::None);
-  CHECK(other->take() == HostError::InUse);
-  host.dir.reset();
-  CHECK(other->take() == HostError::None);
 }
 
 }  // namespace zub

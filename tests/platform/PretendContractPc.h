@@ -3,7 +3,6 @@
 // each case every file, folder, key, value and task of the PC beneath is as it was set up, with its times.
 #pragma once
 
-#include <map>
 #include <set>
 #include <string>
 #include <string_view>
@@ -19,12 +18,12 @@ namespace zub {
 template <class Base>
 class Pretending : public Base {
  public:
-  Pretending() { setUp(); }
+  Pretending() = default;
   Pretending(const Pretending&) = delete;
   Pretending& operator=(const Pretending&) = delete;
   ~Pretending() {
     for (const std::string& path : held_) Base::unlock(path);
-    CHECK(differences(state_, now()) == "");
+    CHECK(state_.changes() == "");
     tidyUp();
   }
   Platform& platform() { return platform_; }
@@ -35,16 +34,16 @@ class Pretending : public Base {
     makeBeneath(folder);
     Base::file(path, bytes);
     if (!path.starts_with(Base::folder())) elsewhere_.insert(path);
-    setUp(path);
-    setUp(folder);
+    state_.take(path);
+    state_.take(folder);
   }
   void readOnly(const std::string& path) {
     Base::readOnly(path);
-    setUp(path);
+    state_.take(path);
   }
   void hide(const std::string& path) {
     Base::hide(path);
-    setUp(path);
+    state_.take(path);
   }
   void lock(const std::string& path) {
     Base::lock(path);
@@ -61,25 +60,24 @@ class Pretending : public Base {
   }
   void wide(std::u16string_view name, bool folder) {
     Base::wide(name, folder);
-    setUp();
+    state_.take();
   }
   void wideKey(std::u16string_view name) {
     Base::wideKey(name);
-    setUp();
+    state_.take();
   }
   bool link(const std::string& path, const std::string& target) {
     makeBeneath(path.substr(0, path.rfind('\\')));
     makeBeneath(target);
     const bool made = Base::link(path, target);
-    setUp();
+    state_.take();
     return made;
   }
 
   std::string bytes(const std::string& path) {
     const auto channel = platform_.files->open(path, OpenMode::Input);
     std::string bytes(static_cast<std::size_t>(channel->length()), '\0');
-    bytes.resize(channel->read(bytes));
-    return bytes;
+    return bytes.substr(0, channel->read(bytes));
   }
   // Beneath it stays; here a told name leads to it or not.
   bool hasWide(std::u16string_view name) const {
@@ -111,23 +109,14 @@ class Pretending : public Base {
     if (beneath().files->folderExists(folder)) return;
     makeBeneath(folder.substr(0, folder.rfind('\\')));
     beneath().files->createFolder(folder);
-    setUp(folder);
-    setUp(folder.substr(0, folder.rfind('\\')));
-  }
-
-  BeneathState now() {
-    return stateOf(beneath(), Base::folder(), Base::key(),
-                   [this](const std::string& path) { return Base::times(path); });
-  }
-  void setUp() { state_ = now(); }
-  void setUp(const std::string& path) {
-    if (!path.starts_with(Base::folder())) return;
-    state_[path] = stateOf(*beneath().files, path, [this](const std::string& at) { return Base::times(at); });
+    state_.take(folder);
+    state_.take(folder.substr(0, folder.rfind('\\')));
   }
 
   PretendPc pretend_{Base::platform()};
   Platform platform_{pretend_.platform(*Base::platform().events, *Base::platform().messages)};
-  BeneathState state_;               // as it was set up
+  BeneathState state_{Base::platform(), Base::folder(), Base::key(),  // as it was set up
+                      [this](const std::string& path) { return Base::times(path); }};
   std::set<std::string> held_;       // open for others
   std::set<std::string> elsewhere_;  // files that were set up outside the scratch folder
 };

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "platform/ContractPc.h"
@@ -13,55 +14,34 @@ struct Scratch {
     REQUIRE(key.create(Hive::CurrentUser, path, access::All) == status::Success);
   }
 
-  RegistryStatus set(std::string_view name, ValueType of, std::string_view data) {
-    return registry.set(key.get(), name, of,
+  RegistryStatus set(std::string_view which, ValueType of, std::string_view data) {
+    return registry.set(key.get(), which, of,
                         {reinterpret_cast<const std::uint8_t*>(data.data()), data.size()});
   }
-  RegistryStatus make(std::string_view below) {
-    OpenKey made(registry);
-    return made.create(Hive::CurrentUser, path + '\\' + std::string(below), access::All);
+  RegistryStatus make(const std::string& below) {
+    return OpenKey(registry).create(Hive::CurrentUser, path + '\\' + below, access::All);
   }
-  bool has(std::string_view below) {
-    OpenKey opened(registry);
-    return opened.open(Hive::CurrentUser, path + '\\' + std::string(below), access::All) == status::Success;
+  bool has(const std::string& below) {
+    return OpenKey(registry).open(Hive::CurrentUser, path + '\\' + below, access::All) == status::Success;
   }
-  RegistryStatus query(std::string_view name, std::uint32_t room = 1024) {
+  RegistryStatus query(std::string_view which, std::uint32_t room = 1024) {
     length = room;
-    return registry.query(key.get(), name, type, buffer, length);
+    return registry.query(key.get(), which, type, buffer, length);
+  }
+  RegistryStatus subkey(std::uint32_t index, std::uint32_t room = 256) {
+    return registry.enumKey(key.get(), index, name, room);
+  }
+  RegistryStatus value(std::uint32_t index, std::uint32_t nameRoom = 256, std::uint32_t dataRoom = 1024) {
+    length = dataRoom;
+    return registry.enumValue(key.get(), index, name, nameRoom, type, buffer, length);
   }
   std::string data() const { return {reinterpret_cast<const char*>(buffer), length}; }
-  std::vector<RegistryStatus> deleteValues(std::vector<std::string> names) {
-    std::vector<RegistryStatus> results;
-    for (const std::string& name : names) results.push_back(registry.deleteValue(key.get(), name));
-    return results;
+  // The names of the subkeys, or those of the values with their data, sorted; and that they stand in one order.
+  std::string subkeys() {
+    return told([&](std::uint32_t index) { return subkey(index); }, [] { return std::string(); });
   }
-  // All that `next` tells by index, until there is no more; its status, the name and its length are checked.
-  template <class Next>
-  std::vector<std::string> told(Next next) {
-    std::vector<std::string> entries;
-    char name[256];
-    for (std::uint32_t index = 0; index < 100; ++index) {
-      std::uint32_t size = sizeof name;
-      length = 0;
-      const RegistryStatus result = next(index, name, size);
-      if (result == status::NoMoreItems) break;
-      REQUIRE(result == status::Success);
-      CHECK(std::string(name).size() == size);
-      entries.push_back(name + data());
-    }
-    return entries;
-  }
-  std::vector<std::string> subkeys() {
-    return told([&](std::uint32_t index, char* name, std::uint32_t& size) {
-      return registry.enumKey(key.get(), index, name, size);
-    });
-  }
-  // "NameDATA"
-  std::vector<std::string> values() {
-    return told([&](std::uint32_t index, char* name, std::uint32_t& size) {
-      length = sizeof buffer;
-      return registry.enumValue(key.get(), index, name, size, type, buffer, length);
-    });
+  std::string values() {
+    return told([&](std::uint32_t index) { return value(index); }, [&] { return '=' + data(); });
   }
 
   Registry& registry;
@@ -70,12 +50,25 @@ struct Scratch {
   ValueType type{};
   std::uint32_t length = 0;
   std::uint8_t buffer[1024] = {};
-};
+  char name[256] = "";
 
-std::vector<std::string> sorted(std::vector<std::string> names) {
-  std::ranges::sort(names);
-  return names;
-}
+ private:
+  template <class Next, class Detail>
+  std::string told(Next next, Detail detail) {
+    std::vector<std::string> entries, again;
+    for (std::vector<std::string>* all : {&entries, &again}) {
+      while (next(static_cast<std::uint32_t>(all->size())) == status::Success)
+        all->push_back(name + detail());
+      CHECK(next(static_cast<std::uint32_t>(all->size())) == status::NoMoreItems);
+      CHECK(next(16000) == status::NoMoreItems);
+    }
+    CHECK(entries == again);
+    std::ranges::sort(entries);
+    std::string text;
+    for (const std::string& entry : entries) text += entry + "; ";
+    return text;
+  }
+};
 
 }  // namespace
 
@@ -110,25 +103,17 @@ TEST_CASE_TEMPLATE("registry: subkeys are told as written, in a standing order, 
                    CONTRACT_PCS) {
   Pc pc;
   Scratch scratch(pc);
-  const std::vector<std::string> written = {"Alpha", "beta", "gAMMA", "delta x"};
-  for (const std::string& name : written) CHECK(scratch.make(name) == status::Success);
-  CHECK(scratch.make("ALPHA\\below") == status::Success);  // found, not made anew
-  const std::vector<std::string> names = scratch.subkeys();
-  CHECK(sorted(names) == sorted(written));
-  CHECK(scratch.subkeys() == names);
-
-  char name[256] = "untouched";
-  for (const std::uint32_t index : {4u, 16000u}) {
-    std::uint32_t length = sizeof name;
-    CHECK(scratch.registry.enumKey(scratch.key.get(), index, name, length) == status::NoMoreItems);
-  }
+  for (const char* name : {"Alpha", "beta", "gAMMA", "delta x", "ALPHA\\below"})
+    CHECK(scratch.make(name) == status::Success);
+  CHECK(scratch.subkeys() == "Alpha; beta; delta x; gAMMA; ");
   // The room counts the NUL: one less than the name needs is refused, and nothing is written.
-  std::uint32_t length = static_cast<std::uint32_t>(names[0].size());
-  CHECK(scratch.registry.enumKey(scratch.key.get(), 0, name, length) == status::MoreData);
-  CHECK(std::string(name) == "untouched");
-  length = static_cast<std::uint32_t>(names[0].size() + 1);
-  CHECK(scratch.registry.enumKey(scratch.key.get(), 0, name, length) == status::Success);
-  CHECK(std::string(name) == names[0]);
+  REQUIRE(scratch.subkey(0) == status::Success);
+  const std::string first = std::exchange(scratch.name[0], '?') + std::string(scratch.name + 1);
+  const auto length = static_cast<std::uint32_t>(first.size());
+  CHECK(scratch.subkey(0, length) == status::MoreData);
+  CHECK(scratch.name[0] == '?');
+  CHECK(scratch.subkey(0, length + 1) == status::Success);
+  CHECK(scratch.name == first);
 }
 
 TEST_CASE_TEMPLATE("registry: a value keeps its type and its bytes, a text as its family stores it", Pc,
@@ -175,87 +160,52 @@ TEST_CASE_TEMPLATE("registry: a value keeps its type and its bytes, a text as it
 TEST_CASE_TEMPLATE("registry: values are found without case, replaced, told and deleted", Pc, CONTRACT_PCS) {
   Pc pc;
   Scratch scratch(pc);
-  CHECK(scratch.values().empty());
-  CHECK(scratch.set("Name", ValueType::Binary, "old") == status::Success);
-  CHECK(scratch.set("NAME", ValueType::Binary, "NEW") == status::Success);
-  CHECK(scratch.set("", ValueType::Binary, "unnamed") == status::Success);
-  CHECK(scratch.set(" blank", ValueType::Binary, "B") == status::Success);
-  const std::vector<std::string> told = scratch.values();
-  CHECK(sorted(told) == sorted({"NameNEW", "unnamed", " blankB"}));
-  CHECK(scratch.values() == told);
+  CHECK(scratch.values() == "");
+  for (const auto& [name, data] :
+       {std::pair{"Name", "old"}, {"NAME", "12345678"}, {"", "unnamed"}, {" blank", "B"}})
+    CHECK(scratch.set(name, ValueType::Binary, data) == status::Success);
+  CHECK(scratch.values() == " blank=B; =unnamed; Name=12345678; ");
   CHECK(scratch.query("name") == status::Success);
-  CHECK(scratch.deleteValues({"nAME", ""}) == std::vector<RegistryStatus>{status::Success, status::Success});
-  CHECK(scratch.deleteValues({"Name", "", "[Default]"}) ==
-        std::vector<RegistryStatus>(3, status::FileNotFound));
-  CHECK(scratch.values() == std::vector<std::string>{" blankB"});
-}
-
-TEST_CASE_TEMPLATE("registry: a value that does not fit is told as such", Pc, CONTRACT_PCS) {
-  Pc pc;
-  Scratch scratch(pc);
-  REQUIRE(scratch.set("abcd", ValueType::Binary, "12345678") == status::Success);
-  const auto result = [&scratch](std::uint32_t nameRoom, std::uint32_t dataRoom) {
-    char name[16];
-    return scratch.registry.enumValue(scratch.key.get(), 0, name, nameRoom, scratch.type, scratch.buffer,
-                                      dataRoom);
-  };
-  CHECK(result(5, 8) == status::Success);
-  CHECK(result(4, 8) == status::MoreData);
-  CHECK(result(5, 7) == status::MoreData);
+  const auto remove = [&](const char* name) { return scratch.registry.deleteValue(scratch.key.get(), name); };
+  for (const char* name : {"", " BLANK"}) CHECK(remove(name) == status::Success);
+  for (const char* name : {"", " blank", "[Default]"}) CHECK(remove(name) == status::FileNotFound);
+  CHECK(scratch.values() == "Name=12345678; ");
+  // What does not fit is told as such.
+  CHECK(scratch.value(0, 5, 8) == status::Success);
+  CHECK(scratch.value(0, 4, 8) == status::MoreData);
+  CHECK(scratch.value(0, 5, 7) == status::MoreData);
 }
 
 TEST_CASE_TEMPLATE("registry: a key with subkeys goes on the 9x family and stays on NT", Pc, CONTRACT_PCS) {
   Pc pc;
   Scratch scratch(pc);
   const bool nt = isNt(pc);
+  const RegistryKey key = scratch.key.get();
   REQUIRE(scratch.make("Parent\\Child\\Grandchild") == status::Success);
-  REQUIRE(scratch.make("Empty") == status::Success);
-  CHECK(scratch.registry.deleteKey(scratch.key.get(), "Missing") == status::FileNotFound);
-  CHECK(scratch.registry.deleteKey(scratch.key.get(), "empty") == status::Success);
-  CHECK_FALSE(scratch.has("Empty"));
-  const RegistryStatus refused = nt ? status::AccessDenied : status::Success;
-  CHECK(scratch.registry.deleteKey(scratch.key.get(), "Parent") == refused);
-  CHECK(scratch.has("Parent\\Child\\Grandchild") == nt);
-  CHECK(scratch.registry.deleteKey(scratch.key.get(), "") == refused);
-  CHECK(scratch.has("Parent") == nt);
-}
-
-TEST_CASE_TEMPLATE("registry: the empty path deletes the open key itself", Pc, CONTRACT_PCS) {
-  Pc pc;
-  Scratch scratch(pc);
-  REQUIRE(scratch.make("Inner") == status::Success);
+  for (const char* name : {"Empty", "Inner"}) REQUIRE(scratch.make(name) == status::Success);
   OpenKey inner(scratch.registry);
   REQUIRE(inner.open(Hive::CurrentUser, scratch.path + "\\Inner", access::All) == status::Success);
-  CHECK(scratch.registry.deleteKey(inner.get(), "") == status::Success);
-  CHECK(scratch.subkeys().empty());
-  CHECK_FALSE(scratch.has("Inner"));
+  CHECK(scratch.registry.deleteKey(inner.get(), "") == status::Success);  // the key itself
+  CHECK(scratch.registry.deleteKey(key, "Missing") == status::FileNotFound);
+  CHECK(scratch.registry.deleteKey(key, "empty") == status::Success);
+  CHECK(scratch.subkeys() == "Parent; ");
+  const RegistryStatus refused = nt ? status::AccessDenied : status::Success;
+  CHECK(scratch.registry.deleteKey(key, "Parent") == refused);
+  CHECK(scratch.has("Parent\\Child\\Grandchild") == nt);
+  CHECK(scratch.registry.deleteKey(key, "") == refused);
+  CHECK(scratch.has("Parent") == nt);
 }
 
 TEST_CASE_TEMPLATE("registry: each told name leads back to its own key", Pc, CONTRACT_PCS) {
   Pc pc;
   // A real Windows of the 9x family has no calls that reach such names.
   if (pc.followsLinks() && !isNt(pc)) return;
-  Registry& registry = *pc.platform().registry;
   for (const char16_t* name : {u"a", u"\u0101", u"\uFF0E\uFF3C", u"<0101>"}) pc.wideKey(name);
-  OpenKey key(registry);
-  REQUIRE(key.open(Hive::CurrentUser, pc.key(), access::All) == status::Success);
-  std::vector<std::string> names;
-  std::array<char, 256> name;
-  auto length = static_cast<std::uint32_t>(name.size());
-  while (registry.enumKey(key.get(), static_cast<std::uint32_t>(names.size()), name.data(), length) ==
-         status::Success) {
-    names.emplace_back(name.data());
-    length = static_cast<std::uint32_t>(name.size());
-  }
-  std::ranges::sort(names);
-  const std::vector<std::string> expected = {"<003C>0101>", "<0101>", "<FF0EFF3C>", "a"};
-  CHECK(names == expected);
+  Scratch scratch(pc);
+  CHECK(scratch.subkeys() == "<003C>0101>; <0101>; <FF0EFF3C>; a; ");
   for (const char* gone : {"<0101>", "<FF0EFF3C>", "<003C>0101>"})
-    CHECK(registry.deleteKey(key.get(), gone) == status::Success);
-  RegistryKey left = 0;
-  CHECK(registry.open(key.get(), "a", access::Read, left) == status::Success);
-  registry.close(left);
-  CHECK(registry.enumKey(key.get(), 1, name.data(), length) == status::NoMoreItems);
+    CHECK(scratch.registry.deleteKey(scratch.key.get(), gone) == status::Success);
+  CHECK(scratch.subkeys() == "a; ");
 }
 
 }  // namespace zub

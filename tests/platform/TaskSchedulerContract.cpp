@@ -6,13 +6,28 @@
 namespace zub {
 namespace {
 
-// The position of the task, 0 where it is not there.
-int positionOf(ScheduleTasks& tasks, const std::string& name) {
-  for (int position = 1; position <= tasks.count(); ++position) {
-    if (tasks.at(position).name() == name) return position;
+// The tasks, of which one is the test's.
+struct Scheduled {
+  template <class Pc>
+  explicit Scheduled(Pc& pc) : tasks(*pc.platform().tasks), name(pc.task()) {
+    tasks.refresh();
   }
-  return 0;
-}
+  // 0 where it is not there.
+  int position() {
+    for (int position = 1; position <= tasks.count(); ++position) {
+      if (tasks.at(position).name() == name) return position;
+    }
+    return 0;
+  }
+  ScheduleTask& refreshed() {
+    tasks.refresh();
+    REQUIRE(position() > 0);
+    return tasks.at(position());
+  }
+
+  ScheduleTasks& tasks;
+  std::string name;
+};
 
 void addTrigger(ScheduleTask& task, const SystemTime& time) {
   const auto trigger = task.triggers().add();
@@ -25,52 +40,41 @@ void addTrigger(ScheduleTask& task, const SystemTime& time) {
 
 TEST_CASE_TEMPLATE("tasks: what was saved is there after a refresh, what was not is not", Pc, CONTRACT_PCS) {
   Pc pc;
-  ScheduleTasks& tasks = *pc.platform().tasks;
-  tasks.refresh();
-  REQUIRE(positionOf(tasks, pc.task()) == 0);
-  const int before = tasks.count();
-  {
-    ScheduleTask& task = tasks.add(pc.task());
-    CHECK(tasks.count() == before + 1);
-    CHECK(positionOf(tasks, pc.task()) == before + 1);  // a new task is the last
-    task.application("C:\\Program Files\\Zubrane\\zub");
-    task.comment("Zubrane");
-    task.save(0);
-  }
-  tasks.refresh();
-  CHECK(tasks.count() == before + 1);
-  const int position = positionOf(tasks, pc.task());
-  REQUIRE(position > 0);
-  ScheduleTask& task = tasks.at(position);
+  Scheduled mine(pc);
+  REQUIRE(mine.position() == 0);
+  const int before = mine.tasks.count();
+  ScheduleTask& made = mine.tasks.add(pc.task());
+  CHECK(mine.tasks.count() == before + 1);
+  CHECK(mine.position() == before + 1);  // a new task is the last
+  made.application("C:\\Program Files\\Zubrane\\zub");
+  made.save(0);
   const int none = pc.deviates("no triggers") ? 1 : 0;
+  ScheduleTask& task = mine.refreshed();
+  CHECK(mine.tasks.count() == before + 1);
   CHECK(task.triggers().count() == none);
-  task.parameters(" /SCHEDULER");
   addTrigger(task, {2031, 9, 5, 5, 14, 20, 0, 0});
   CHECK(task.triggers().count() == none + 1);
-  tasks.refresh();
-  CHECK(tasks.at(positionOf(tasks, pc.task())).triggers().count() == none);
+  CHECK(mine.refreshed().triggers().count() == none);
 }
 
 TEST_CASE_TEMPLATE("tasks: triggers are told in their order and removed by position", Pc, CONTRACT_PCS) {
   Pc pc;
-  ScheduleTasks& tasks = *pc.platform().tasks;
-  Clock& clock = *pc.platform().clock;
-  const std::vector<SystemTime> times = {
-      {2031, 9, 5, 5, 14, 20, 0, 0}, {1999, 12, 5, 31, 9, 5, 0, 0}, {2032, 2, 0, 29, 23, 59, 0, 0}};
-  tasks.refresh();
-  ScheduleTask& made = tasks.add(pc.task());
+  Scheduled mine(pc);
+  const SystemTime first{2031, 9, 5, 5, 14, 20, 0, 0}, second{1999, 12, 5, 31, 9, 5, 0, 0},
+      third{2032, 2, 0, 29, 23, 59, 0, 0};
+  ScheduleTask& made = mine.tasks.add(pc.task());
   made.application("C:\\Program Files\\Zubrane\\zub");
-  for (const SystemTime& time : times) addTrigger(made, time);
+  for (const SystemTime& time : {first, second, third}) addTrigger(made, time);
   made.save(0);
-  tasks.refresh();
-  ScheduleTask& task = tasks.at(positionOf(tasks, pc.task()));
+  const auto tells = [&](ScheduleTriggers& triggers, const std::vector<SystemTime>& times) {
+    REQUIRE(triggers.count() == static_cast<int>(times.size()));
+    for (int position = 1; position <= triggers.count(); ++position)
+      CHECK(contains(triggers.at(position)->text(),
+                     pc.platform().clock->dateText(times[static_cast<std::size_t>(position) - 1])));
+  };
+  ScheduleTask& task = mine.refreshed();
   ScheduleTriggers& triggers = task.triggers();
-  REQUIRE(triggers.count() == 3);
-  for (int position = 1; position <= 3; ++position) {
-    const std::string text = triggers.at(position)->text();
-    CAPTURE(text);
-    CHECK(contains(text, clock.dateText(times.at(static_cast<std::size_t>(position) - 1))));
-  }
+  tells(triggers, {first, second, third});
   for (const int nowhere : {0, -1, 4}) {
     CHECK(failure([&] { triggers.at(nowhere); }) == 5);
     CHECK(failure([&] { triggers.remove(nowhere); }) == 5);
@@ -78,13 +82,9 @@ TEST_CASE_TEMPLATE("tasks: triggers are told in their order and removed by posit
   triggers.remove(2);
   triggers.update();
   task.save(0);
-  tasks.refresh();
-  ScheduleTriggers& left = tasks.at(positionOf(tasks, pc.task())).triggers();
-  REQUIRE(left.count() == 2);
-  CHECK(contains(left.at(1)->text(), clock.dateText(times[0])));
-  CHECK(contains(left.at(2)->text(), clock.dateText(times[2])));
-  CHECK(failure([&] { tasks.at(0); }) == 5);
-  CHECK(failure([&] { tasks.at(tasks.count() + 1); }) == 5);
+  tells(mine.refreshed().triggers(), {first, third});
+  CHECK(failure([&] { mine.tasks.at(0); }) == 5);
+  CHECK(failure([&] { mine.tasks.at(mine.tasks.count() + 1); }) == 5);
 }
 
 }  // namespace zub

@@ -2,6 +2,7 @@
 #include "platform/Win32ContractPc.h"
 
 #include <doctest/doctest.h>
+#include <shlwapi.h>
 
 #include <cstdlib>
 #include <fstream>
@@ -45,13 +46,6 @@ void onHost(const std::string& command, const std::string& path, bool linkAfterw
   while (isLinkAt(path) != linkAfterwards && GetTickCount() - begin < 10000) SwitchToThread();
 }
 
-void deleteTask(const std::string& name) {
-  ComPointer<ITaskScheduler> service;
-  if (SUCCEEDED(CoCreateInstance(CLSID_CTaskScheduler, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskScheduler,
-                                 service.outVoid())))
-    service->Delete(wide(name).c_str());
-}
-
 }  // namespace
 
 Win32ContractPc::Win32ContractPc() {
@@ -60,39 +54,30 @@ Win32ContractPc::Win32ContractPc() {
   folder_ = text + ("zubtest" + std::to_string(GetCurrentProcessId()));
   GetCurrentDirectoryA(MAX_PATH, text);
   before_ = text;
+  clean();  // what a run that was killed has left
   CreateDirectoryA(folder_.c_str(), nullptr);
   SetCurrentDirectoryA(folder_.c_str());
-  removeKey();
-  deleteTask(task());
 }
 
 Win32ContractPc::~Win32ContractPc() {
   for (const auto& [path, handle] : locks_) CloseHandle(handle);
   for (const std::string& link : hostLinks_) onHost("/bin/rm -f " + hostPath(link), link, false);
   SetCurrentDirectoryA(before_.c_str());
+  clean();
+}
+
+void Win32ContractPc::clean() {
+  Files& files = *platform().files;
   try {
-    platform().files->deleteFolder(folder_);
+    if (files.folderExists(folder_)) files.deleteFolder(folder_);
   } catch (const RuntimeError& error) {
     MESSAGE("the scratch folder stays: " << error.description());
   }
-  removeKey();
-  deleteTask(task());
-}
-
-// By told names, which lead to every key.
-void Win32ContractPc::removeKey() {
-  Registry& registry = *platform().registry;
-  const auto removeTree = [&registry](const auto& self, RegistryKey parent, const std::string& path) -> bool {
-    RegistryKey opened = 0;
-    if (registry.open(parent, path, access::All, opened) != status::Success) return false;
-    char name[256];
-    std::uint32_t length = sizeof name;
-    while (registry.enumKey(opened, 0, name, length) == status::Success && self(self, opened, name))
-      length = sizeof name;
-    registry.close(opened);
-    return registry.deleteKey(parent, path) == status::Success;
-  };
-  removeTree(removeTree, registry.hive(Hive::CurrentUser), key());
+  SHDeleteKeyW(HKEY_CURRENT_USER, zub::wide(key()).c_str());
+  ComPointer<ITaskScheduler> service;
+  if (SUCCEEDED(CoCreateInstance(CLSID_CTaskScheduler, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskScheduler,
+                                 service.outVoid())))
+    service->Delete(zub::wide(task()).c_str());
 }
 
 void Win32ContractPc::file(const std::string& path, std::string_view bytes) {

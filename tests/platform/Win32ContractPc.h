@@ -41,7 +41,7 @@ class Win32ContractPc {
   bool deviates(std::string_view name) const;
 
  private:
-  void removeKey();
+  void clean();
   void openAs(const std::string& path, unsigned long access, unsigned long sharing);
 
   struct NoEvents : EventLoop {

@@ -1,5 +1,6 @@
 // What only a Windows of its own has: its error numbers, its kinds of reparse points, what it reads into a name.
 #ifdef _WIN32
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <map>
@@ -79,38 +80,48 @@ TEST_CASE("a folder that the registry names in another alphabet is found, and it
   Win32ContractPc pc;
   if (!isNt(pc)) return;
   Registry& registry = *pc.platform().registry;
-  const std::u16string name = u"\u0101\u8868";
-  pc.wide(name, true);
-  const std::wstring path = wide(pc.folder()) + L'\\' + std::wstring(name.begin(), name.end());
+  pc.wide(u"\u0101\u8868", true);
+  const std::wstring path = wide(pc.folder()) + L"\\\u0101\u8868";
+  const auto size = static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t));
   OpenKey key(registry);
   REQUIRE(key.create(Hive::CurrentUser, pc.key(), access::All) == status::Success);
   const auto handle = reinterpret_cast<HKEY>(key.get());
-  const auto size = static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t));
   REQUIRE(RegSetValueExW(handle, L"Cache", 0, REG_SZ, reinterpret_cast<const BYTE*>(path.c_str()), size) ==
           0);
 
   std::array<std::uint8_t, 1024> data;
   ValueType type{};
-  std::uint32_t length = data.size();
-  REQUIRE(registry.query(key.get(), "Cache", type, data.data(), length) == status::Success);
-  const std::string told(reinterpret_cast<const char*>(data.data()), length - 1);
-  CHECK(told == pc.folder() + "\\<01018868>");
-  CHECK(data[length - 1] == 0);
-  CHECK(pc.platform().files->folderExists(told));
-  std::uint32_t needed = 0;
-  CHECK(registry.query(key.get(), "Cache", type, nullptr, needed) == status::Success);
+  const auto query = [&](std::uint8_t* room, std::uint32_t& length) {
+    return registry.query(key.get(), "Cache", type, room, length);
+  };
+  std::uint32_t needed = 0, length = data.size();
+  CHECK(query(nullptr, needed) == status::Success);
+  REQUIRE(query(data.data(), length) == status::Success);
   CHECK(needed == length);
-  --needed;
-  CHECK(registry.query(key.get(), "Cache", type, data.data(), needed) == status::MoreData);
+  const std::string told(reinterpret_cast<const char*>(data.data()), length);
+  CHECK(query(data.data(), --needed) == status::MoreData);
+  CHECK(told == pc.folder() + "\\<01018868>" + '\0');
+  CHECK(pc.platform().files->folderExists(told.substr(0, length - 1)));
 
   const auto* bytes = reinterpret_cast<const std::uint8_t*>(told.data());
-  REQUIRE(registry.set(key.get(), "Copy", ValueType::Text, {bytes, told.size()}) == status::Success);
+  REQUIRE(registry.set(key.get(), "Copy", ValueType::Text, {bytes, length - 1}) == status::Success);
   std::array<wchar_t, 512> stored;
   DWORD room = sizeof stored;
   REQUIRE(RegQueryValueExW(handle, L"Copy", nullptr, nullptr, reinterpret_cast<BYTE*>(stored.data()),
                            &room) == 0);
   CHECK(room == size);
   CHECK(std::wstring(stored.data()) == path);
+}
+
+TEST_CASE("the recycle bins are told by their folders: one for all, and on the NT family the user's") {
+  Win32ContractPc pc;
+  const std::vector<std::string> bins = pc.platform().shell->recycleBins();
+  for (const char* begin : {"\\Recycled", "\\Recycler\\S-1-5-", "\\$Recycle.Bin\\S-1-5-"}) {
+    CAPTURE(std::string(begin));
+    const bool told = std::ranges::any_of(
+        bins, [&](const std::string& bin) { return bin.starts_with(pc.folder().substr(0, 2) + begin); });
+    CHECK(told == (isNt(pc) || begin == std::string_view("\\Recycled")));
+  }
 }
 
 TEST_CASE("where nothing names a folder for temporary files there is none") {

@@ -7,6 +7,7 @@
 
 #include "platform/ContractPc.h"
 #include "platform/win32/ComPointer.h"
+#include "platform/win32/Text.h"
 
 namespace zub {
 namespace {
@@ -21,9 +22,34 @@ std::wstring told(Get get) {
   return copy;
 }
 
-std::wstring variable(const wchar_t* name) {
-  const wchar_t* text = _wgetenv(name);
-  return text != nullptr ? text : L"";
+// What stands in the task's file.
+std::wstring stored(const std::string& name, bool withAccount) {
+  ComPointer<ITaskScheduler> service;
+  REQUIRE(SUCCEEDED(CoCreateInstance(CLSID_CTaskScheduler, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskScheduler,
+                                     service.outVoid())));
+  ComPointer<ITask> task;
+  REQUIRE(SUCCEEDED(service->Activate(wide(name).c_str(), IID_ITask, task.outUnknown())));
+  WORD count = 0;
+  REQUIRE(SUCCEEDED(task->GetTriggerCount(&count)));
+  REQUIRE(count == 1);
+  DWORD flags = 0;
+  REQUIRE(SUCCEEDED(task->GetFlags(&flags)));
+  ComPointer<ITaskTrigger> trigger;
+  REQUIRE(SUCCEEDED(task->GetTrigger(0, trigger.out())));
+  TASK_TRIGGER when{};
+  when.cbTriggerSize = sizeof when;
+  REQUIRE(SUCCEEDED(trigger->GetTrigger(&when)));
+  CHECK(flags == TASK_FLAG_RUN_ONLY_IF_LOGGED_ON);
+  CHECK(when.TriggerType == TASK_TIME_TRIGGER_ONCE);
+  CHECK(when.rgFlags == 0);
+  std::wstring text = told([&](LPWSTR* out) { return task->GetApplicationName(out); }) + L';' +
+                      told([&](LPWSTR* out) { return task->GetParameters(out); }) + L';' +
+                      told([&](LPWSTR* out) { return task->GetComment(out); });
+  for (const WORD part :
+       {when.wBeginYear, when.wBeginMonth, when.wBeginDay, when.wStartHour, when.wStartMinute})
+    text += L' ' + std::to_wstring(part);
+  if (withAccount) text += L' ' + told([&](LPWSTR* out) { return task->GetAccountInformation(out); });
+  return text;
 }
 
 }  // namespace
@@ -41,40 +67,11 @@ TEST_CASE("the task file holds what is to be started, as whom and when") {
   added->beginDate({2031, 9, 5, 5, 1, 2, 3, 4});
   added->startTime({1899, 12, 6, 30, 14, 20, 0, 0});
   made.save(0);
-
-  ComPointer<ITaskScheduler> service;
-  REQUIRE(SUCCEEDED(CoCreateInstance(CLSID_CTaskScheduler, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskScheduler,
-                                     service.outVoid())));
-  const std::string name = pc.task();
-  ComPointer<ITask> task;
-  REQUIRE(SUCCEEDED(
-      service->Activate(std::wstring(name.begin(), name.end()).c_str(), IID_ITask, task.outUnknown())));
-  CHECK(told([&](LPWSTR* text) { return task->GetApplicationName(text); }) ==
-        L"C:\\Program Files\\Zubrane\\zub");
-  CHECK(told([&](LPWSTR* text) { return task->GetParameters(text); }) == L" /SCHEDULER");
-  CHECK(told([&](LPWSTR* text) { return task->GetComment(text); }) == L"Zubrane");
-  if (!pc.deviates("no account"))
-    CHECK(told([&](LPWSTR* text) { return task->GetAccountInformation(text); }) ==
-          variable(L"USERDOMAIN") + L"\\" + variable(L"USERNAME"));
-  DWORD flags = 0;
-  REQUIRE(SUCCEEDED(task->GetFlags(&flags)));
-  CHECK(flags == TASK_FLAG_RUN_ONLY_IF_LOGGED_ON);
-
-  WORD count = 0;
-  REQUIRE(SUCCEEDED(task->GetTriggerCount(&count)));
-  REQUIRE(count == 1);
-  ComPointer<ITaskTrigger> trigger;
-  REQUIRE(SUCCEEDED(task->GetTrigger(0, trigger.out())));
-  TASK_TRIGGER when{};
-  when.cbTriggerSize = sizeof when;
-  REQUIRE(SUCCEEDED(trigger->GetTrigger(&when)));
-  CHECK(when.TriggerType == TASK_TIME_TRIGGER_ONCE);
-  CHECK(when.rgFlags == 0);
-  CHECK(when.wBeginYear == 2031);
-  CHECK(when.wBeginMonth == 9);
-  CHECK(when.wBeginDay == 5);
-  CHECK(when.wStartHour == 14);
-  CHECK(when.wStartMinute == 20);
+  const bool forgotten = pc.deviates("no account");
+  const std::wstring account =
+      forgotten ? L"" : std::wstring(L" ") + _wgetenv(L"USERDOMAIN") + L"\\" + _wgetenv(L"USERNAME");
+  CHECK(stored(pc.task(), !forgotten) ==
+        L"C:\\Program Files\\Zubrane\\zub; /SCHEDULER;Zubrane 2031 9 5 14 20" + account);
 }
 
 }  // namespace zub

@@ -2,16 +2,14 @@
 #include <fstream>
 
 #include "cleaners/BrowserFiles.h"
-#include "windows/IconList.h"
 #include "windows/Story.h"
 
 using namespace zub;
 using namespace zub::drive;
 
-TEST_CASE("a cookie of Internet Explorer that is kept outlives the wash") {
+TEST_CASE("the cookies that are kept outlive the wash, of either browser") {
   const Story story;
-  pc::option("chkIE");
-  pc::option("chkIECookies");
+  for (const char* chosen : {"chkIE", "chkIECookies", "chkNetscape", "chkNSCookie"}) pc::option(chosen);
   const pc::fs::path folder = pc::cookies();
   const pc::fs::path kept = folder / "ann@shop[1].txt", gone = folder / "ann@ads[1].txt";
   pc::put(kept, "basket\nfull\nshop.example/\n");
@@ -20,10 +18,19 @@ TEST_CASE("a cookie of Internet Explorer that is kept outlives the wash") {
                                            cookieRecord("ann", "ads.example/", gone.filename().string())}));
   const std::fstream held(folder / "index.dat");  // as the shell has it all the session
   REQUIRE(held.is_open());
+  const pc::fs::path profile = pc::appData() / "Mozilla" / "Profiles" / "ann" / "abc.slt";
+  const std::string line = cookieLine("shop.example", "basket", "full");
+  pc::put(profile / "Cookies.txt", "# cookies\n" + cookieLine("ads.example", "id", "4711") + line);
+  pc::put(pc::appData() / "Mozilla" / "Registry.dat", profileRegistry({profile.string()}));
+
   const Zub zub;
-  zub.main().child("Manage").click();
-  const Window keep = zub.window(title::IECookies);
-  const Window list = keep.child("SysListView32", 0);
+  const Window main = zub.main();
+  const auto opened = [&](std::string_view title) {
+    main.child("Manage").click();
+    return zub.window(title);
+  };
+  Window keep = opened(title::IECookies);
+  Window list = keep.child("SysListView32", 0);
   const int row = rows::find(list, "http://shop.example/ ");
   CHECK(rows::count(list) == 2);
   rows::clickCheck(list, row);
@@ -32,30 +39,18 @@ TEST_CASE("a cookie of Internet Explorer that is kept outlives the wash") {
   keep.child("&Ok").click();
   CHECK(zub.hides(title::IECookies));
   CHECK(pc::bytesOf(folder / "ZUBKeep.inf") == "http://shop.example/ \r\n");
-  wash(zub);
-  CHECK(pc::exists(kept));
-  CHECK_FALSE(pc::exists(gone));
-}
 
-TEST_CASE("a cookie of Netscape that is kept outlives the wash") {
-  const Story story;
-  pc::option("chkNetscape");
-  pc::option("chkNSCookie");
-  const pc::fs::path folder = pc::appData() / "Mozilla" / "Profiles" / "ann" / "abc.slt";
-  const std::string kept = cookieLine("shop.example", "basket", "full");
-  pc::put(folder / "Cookies.txt", "# cookies\n" + cookieLine("ads.example", "id", "4711") + kept);
-  pc::put(pc::appData() / "Mozilla" / "Registry.dat", profileRegistry({folder.string()}));
-  const Zub zub;
-  const Window main = zub.main();
-  IconList(main).clickPicture(5);
+  icons::clickPicture(main, 5);
   main.child("Mail");  // the choices of Netscape have come
-  main.child("Manage").click();
-  const Window keep = zub.window(title::NSCookies);
+  keep = opened(title::NSCookies);
   CHECK(keep.child("COMBOBOX", 0).comesToSay("ann"));
-  const Window list = keep.child("SysListView32", 0);
+  list = keep.child("SysListView32", 0);
   rows::clickCheck(list, rows::find(list, "shop.example"));
   keep.child("&Ok").click();
   CHECK(zub.hides(title::NSCookies));
+
   wash(zub);
-  CHECK(pc::bytesOf(folder / "Cookies.txt") == kept);
+  CHECK(pc::exists(kept));
+  CHECK_FALSE(pc::exists(gone));
+  CHECK(pc::bytesOf(profile / "Cookies.txt") == line);
 }

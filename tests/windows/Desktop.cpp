@@ -14,28 +14,8 @@ const BOOL countsTruePixels = [] {
       reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("user32"), "SetProcessDPIAware")))();
 }();
 
-BOOL CALLBACK addVisible(HWND child, LPARAM list) {
-  if (IsWindowVisible(child) != 0) reinterpret_cast<std::vector<Window>*>(list)->emplace_back(child);
-  return TRUE;
-}
-
-std::vector<Window> childrenOf(HWND parent) {
-  std::vector<Window> found;
-  EnumChildWindows(parent, addVisible, reinterpret_cast<LPARAM>(&found));
-  return found;
-}
-
-struct Search {
-  DWORD process;
-  std::vector<Window> found;
-};
-
-BOOL CALLBACK addOfProcess(HWND window, LPARAM search) {
-  auto& wanted = *reinterpret_cast<Search*>(search);
-  DWORD owner = 0;
-  GetWindowThreadProcessId(window, &owner);
-  if ((wanted.process == 0 || owner == wanted.process) && IsWindowVisible(window) != 0)
-    wanted.found.emplace_back(window);
+BOOL CALLBACK addTo(HWND window, LPARAM list) {
+  reinterpret_cast<std::vector<Window>*>(list)->emplace_back(window);
   return TRUE;
 }
 
@@ -127,17 +107,16 @@ RECT Window::place() const {
 }
 
 bool Window::hasChild(std::string_view text) const {
-  return std::ranges::any_of(childrenOf(handle_),
-                             [&](const Window& child) { return child.caption() == text; });
+  return std::ranges::any_of(
+      windowsBelow(*this), [&](const Window& child) { return child.isVisible() && child.caption() == text; });
 }
 
 Window Window::child(std::string_view text) const {
   Window found;
   soon([&] {
-    const std::vector<Window> children = childrenOf(handle_);
-    const auto place =
-        std::ranges::find_if(children, [&](const Window& one) { return one.caption() == text; });
-    if (place != children.end()) found = *place;
+    for (const Window& one : windowsBelow(*this)) {
+      if (found.handle_ == nullptr && one.isVisible() && one.caption() == text) found = one;
+    }
     return found.handle_ != nullptr;
   });
   REQUIRE_MESSAGE(found.handle_ != nullptr, "no control says \"" << std::string(text) << "\"");
@@ -145,8 +124,9 @@ Window Window::child(std::string_view text) const {
 }
 
 Window Window::child(std::string_view className, int index) const {
-  for (const Window& one : childrenOf(handle_)) {
-    if (lstrcmpiA(one.className().c_str(), std::string(className).c_str()) == 0 && index-- == 0) return one;
+  for (const Window& one : windowsBelow(*this)) {
+    const bool fits = lstrcmpiA(one.className().c_str(), std::string(className).c_str()) == 0;
+    if (fits && one.isVisible() && index-- == 0) return one;
   }
   FAIL("no further control of the class " << std::string(className));
   return Window();
@@ -188,9 +168,20 @@ void Window::tick() const {
 }
 
 std::vector<Window> windowsOf(DWORD process) {
-  Search search{process, {}};
-  EnumWindows(addOfProcess, reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  std::vector<Window> all;
+  EnumWindows(addTo, reinterpret_cast<LPARAM>(&all));
+  std::erase_if(all, [&](const Window& window) {
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window.handle(), &owner);
+    return owner != process;
+  });
+  return all;
+}
+
+std::vector<Window> windowsBelow(const Window& parent) {
+  std::vector<Window> all;
+  EnumChildWindows(parent.handle(), addTo, reinterpret_cast<LPARAM>(&all));
+  return all;
 }
 
 Window focus() {

@@ -5,7 +5,6 @@
 #include <doctest/doctest.h>
 #include <windows.h>
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -63,8 +62,9 @@ class Window {
 // From pixels of 96 an inch to those of this screen.
 int scaled(int pixels);
 
-// The windows on the desktop that can be seen, of one process or (0) of all.
+// All windows of a process, and all below a window, hidden ones included.
 std::vector<Window> windowsOf(DWORD process);
+std::vector<Window> windowsBelow(const Window& parent);
 // The control that has the keyboard.
 Window focus();
 
@@ -98,5 +98,17 @@ void clickCheck(const Window& list, int row);
 }  // namespace rows
 
 void openTab(const Window& window, std::string_view caption);
+
+// The panel of ten pictures with boxes on the main tab. Rows 0 to 5 lie in view; 6 to 9 do behind toTheEnd, which runs
+// it to its lower end with the arrow of its scroll bar.
+namespace icons {
+
+enum class Scrolled { No, ToTheEnd };
+Window list(const Window& main);
+void clickBox(const Window& main, int row, Scrolled scrolled = Scrolled::No);
+void clickPicture(const Window& main, int row);
+void toTheEnd(const Window& main);
+
+}  // namespace icons
 
 }  // namespace zub::drive

@@ -1,7 +1,6 @@
 // What the windows take of the system.
 #include <cstdlib>
 
-#include "windows/IconList.h"
 #include "windows/Story.h"
 
 using namespace zub::drive;
@@ -11,7 +10,7 @@ namespace {
 // How often each window is opened: the environment may ask for more than a test run has time for.
 int openings() {
   const char* asked = std::getenv("ZUB_OPENINGS");
-  return asked != nullptr ? std::atoi(asked) : 5;
+  return asked != nullptr ? std::atoi(asked) : 2;
 }
 
 struct Opening {
@@ -32,7 +31,7 @@ std::vector<Opening> allOpenings(const Zub& zub) {
   std::vector<Opening> all = {{title::Progress, main.child("&Start Cleaning")},
                               {title::About, main.child("About")},
                               {title::IECookies, main.child("Manage")}};
-  IconList(main).clickPicture(5);
+  icons::clickPicture(main, 5);
   main.child("Mail");
   all.push_back({title::NSCookies, main.child("Manage")});
   openTab(main, "Custom Plugins");

@@ -3,7 +3,6 @@
 // Behind it.
 #include <commctrl.h>
 
-#include "windows/IconList.h"
 #include "windows/Story.h"
 
 using namespace zub::drive;
@@ -66,15 +65,6 @@ TEST_CASE("space ticks a box, arrows turn the tabs, access keys press") {
   CHECK(pc::storedOption("chkIECache") == "1");
 }
 
-TEST_CASE("a list of boxes that has just got the keyboard shows it on its first row") {
-  const Story story;
-  const Zub zub;
-  openTab(zub.main(), "Custom Plugins");
-  key(VK_TAB);
-  REQUIRE(soon([] { return focus().className() == WC_LISTVIEWA; }));
-  CHECK(soon([] { return focus().send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED) == 0; }));
-}
-
 TEST_CASE("a letter without Alt is no access key, and the icon list goes back to its first item at any key") {
   const Story story;
   const Zub zub;
@@ -86,7 +76,7 @@ TEST_CASE("a letter without Alt is no access key, and the icon list goes back to
   CHECK(focus().caption() == "Cache");
   for (const int one : {int{'S'}, VK_RETURN, VK_ESCAPE, VK_F10}) {
     CAPTURE(one);
-    IconList(main).clickPicture(5);
+    icons::clickPicture(main, 5);
     main.child("Mail");
     key(one);
     main.child("Downloaded Programs");  // the choices of the first item have come
@@ -102,6 +92,10 @@ TEST_CASE("Ctrl and Tab turn the pages, and the headers can be clicked as before
   main.child("Cache").tick();  // the keyboard is in the page, not on the headers
   chord({VK_CONTROL, VK_TAB});
   main.child("Create A New Plugin");
+  openTab(main, "Custom Plugins");
+  key(VK_TAB);  // a list of boxes that has just got the keyboard shows it on its first row
+  REQUIRE(soon([] { return focus().className() == WC_LISTVIEWA; }));
+  CHECK(soon([] { return focus().send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED) == 0; }));
   openTab(main, "Main");
   main.child("Cache").tick();
   chord({VK_CONTROL, VK_TAB});

@@ -1,4 +1,4 @@
-// List boxes, lists with checks and tab headers of another process.
+// List boxes, lists with checks, tab headers and the panel of pictures.
 #include <windows.h>
 // Behind it.
 #include <commctrl.h>
@@ -8,73 +8,44 @@
 namespace zub::drive {
 namespace {
 
-// A piece of the other process's memory, for messages that hand over a record.
+// A record that a message hands over, with room for a text.
 template <class Record>
-class Shared {
- public:
-  explicit Shared(const Window& owner) {
-    DWORD process = 0;
-    GetWindowThreadProcessId(owner.handle(), &process);
-    process_ = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, process);
-    record_ = VirtualAllocEx(process_, nullptr, sizeof(Room), MEM_COMMIT, PAGE_READWRITE);
-    REQUIRE(record_ != nullptr);
-  }
-  Shared(const Shared&) = delete;
-  Shared& operator=(const Shared&) = delete;
-  ~Shared() {
-    VirtualFreeEx(process_, record_, 0, MEM_RELEASE);
-    CloseHandle(process_);
-  }
-
-  static constexpr int TextSize = 512;
-  char* text() const { return static_cast<Room*>(record_)->text; }  // an address over there
-  LPARAM address() const { return reinterpret_cast<LPARAM>(record_); }
-  void put(const Record& record) { WriteProcessMemory(process_, record_, &record, sizeof record, nullptr); }
-  Record get() const {
-    Record record{};
-    ReadProcessMemory(process_, record_, &record, sizeof record, nullptr);
-    return record;
-  }
-  std::string getText() const {
-    char here[TextSize] = "";
-    ReadProcessMemory(process_, text(), here, sizeof here, nullptr);
-    return here;
-  }
-
- private:
-  struct Room {
-    Record record;
-    char text[TextSize];
-  };
-  HANDLE process_;
-  void* record_;
+struct Asked {
+  Record record{};
+  char text[512] = "";
 };
+
+// Asks with a record that lies in the other process's memory, and brings it back. `text` is the member that leads to the
+// room for a text.
+template <class Record>
+void ask(const Window& owner, UINT message, int index, Asked<Record>& asked, char* Record::*text = nullptr) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(owner.handle(), &process);
+  const HANDLE other = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, process);
+  auto* there =
+      static_cast<Asked<Record>*>(VirtualAllocEx(other, nullptr, sizeof asked, MEM_COMMIT, PAGE_READWRITE));
+  REQUIRE(there != nullptr);
+  if (text != nullptr) asked.record.*text = there->text;
+  WriteProcessMemory(other, there, &asked, sizeof asked, nullptr);
+  owner.send(message, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(there));
+  ReadProcessMemory(other, there, &asked, sizeof asked, nullptr);
+  VirtualFreeEx(other, there, 0, MEM_RELEASE);
+  CloseHandle(other);
+}
 
 bool isListBox(const Window& list) {
   return lstrcmpiA(list.className().c_str(), "LISTBOX") == 0;
 }
 
-RECT placeOf(const Window& list, int row, int part) {
-  Shared<RECT> place(list);
-  place.put({part, 0, 0, 0});
-  const auto index = static_cast<WPARAM>(row);
-  if (isListBox(list))
-    list.send(LB_GETITEMRECT, index, place.address());
+// In the row of a list, so far from the beginning of its text.
+void clickRow(const Window& list, int row, int fromText) {
+  Asked<RECT> place{{LVIR_LABEL, 0, 0, 0}};
+  if (isListBox(list))  // whose record the system itself carries over
+    list.send(LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place.record));
   else
-    list.send(LVM_GETITEMRECT, index, place.address());
-  return place.get();
-}
-
-// The place is counted from the corner of the list's inner part.
-void clickInside(const Window& list, int x, int y) {
-  POINT corner{0, 0};
-  ClientToScreen(list.handle(), &corner);
-  const RECT all = list.place();
-  list.clickAt(static_cast<int>(corner.x - all.left) + x, static_cast<int>(corner.y - all.top) + y);
-}
-
-int middle(LONG one, LONG other) {
-  return static_cast<int>(one + other) / 2;
+    ask(list, LVM_GETITEMRECT, row, place);
+  const RECT& found = place.record;
+  list.clickAt(static_cast<int>(found.left) + fromText, static_cast<int>(found.top + found.bottom) / 2);
 }
 
 }  // namespace
@@ -86,38 +57,31 @@ int count(const Window& list) {
 }
 
 std::string text(const Window& list, int row) {
-  const auto index = static_cast<WPARAM>(row);
-  if (isListBox(list)) {
-    // In wide letters: asked for narrow ones, Wine overruns what is smaller than its own room.
-    constexpr int WineRoom = 512;
-    wchar_t wide[WineRoom] = L"";
-    DWORD_PTR length = 0;
-    SendMessageTimeoutW(list.handle(), LB_GETTEXT, index, reinterpret_cast<LPARAM>(wide), SMTO_NORMAL, 5000,
-                        &length);
-    char text[WineRoom] = "";
-    WideCharToMultiByte(CP_ACP, 0, wide, -1, text, sizeof text, nullptr, nullptr);
-    return text;
+  if (!isListBox(list)) {
+    Asked<LVITEMA> item;
+    item.record.cchTextMax = sizeof item.text;
+    ask(list, LVM_GETITEMTEXTA, row, item, &LVITEMA::pszText);
+    return item.text;
   }
-  Shared<LVITEMA> item(list);
-  LVITEMA asked{};
-  asked.pszText = item.text();
-  asked.cchTextMax = Shared<LVITEMA>::TextSize;
-  item.put(asked);
-  list.send(LVM_GETITEMTEXTA, index, item.address());
-  return item.getText();
+  // In wide letters: asked for narrow ones, Wine overruns what is smaller than its own room.
+  wchar_t wide[512] = L"";
+  DWORD_PTR length = 0;
+  SendMessageTimeoutW(list.handle(), LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(wide),
+                      SMTO_NORMAL, Patience * 1000, &length);
+  char text[sizeof wide] = "";
+  WideCharToMultiByte(CP_ACP, 0, wide, -1, text, sizeof text, nullptr, nullptr);
+  return text;
 }
 
 int find(const Window& list, std::string_view wanted) {
-  int found = -1;
-  soon([&] {
+  int row = 0;
+  const bool found = soon([&] {
     const int rows = count(list);
-    for (int row = 0; row < rows && found == -1; ++row) {
-      if (text(list, row) == wanted) found = row;
-    }
-    return found != -1;
+    for (row = 0; row < rows && text(list, row) != wanted;) ++row;
+    return row < rows;
   });
-  REQUIRE_MESSAGE(found != -1, "no row says \"" << std::string(wanted) << "\"");
-  return found;
+  REQUIRE_MESSAGE(found, "no row says \"" << std::string(wanted) << "\"");
+  return row;
 }
 
 bool isChecked(const Window& list, int row) {
@@ -130,17 +94,14 @@ bool isHighlighted(const Window& list, int row) {
 }
 
 void click(const Window& list, int row) {
-  const RECT place = placeOf(list, row, LVIR_LABEL);
-  constexpr int FromTheLeft = 30;
-  clickInside(list, static_cast<int>(place.left) + FromTheLeft, middle(place.top, place.bottom));
+  constexpr int IntoTheText = 30;
+  clickRow(list, row, IntoTheText);
 }
 
-// The box stands left of the row's text.
 void clickCheck(const Window& list, int row) {
+  constexpr int ToTheBox = -10;
   list.send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
-  const RECT place = placeOf(list, row, LVIR_LABEL);
-  constexpr int ToTheBox = 10;
-  clickInside(list, static_cast<int>(place.left) - ToTheBox, middle(place.top, place.bottom));
+  clickRow(list, row, ToTheBox);
 }
 
 }  // namespace rows
@@ -149,23 +110,64 @@ void openTab(const Window& window, std::string_view caption) {
   const Window tabs = window.child(WC_TABCONTROLA, 0);
   const auto pages = static_cast<int>(tabs.send(TCM_GETITEMCOUNT));
   for (int page = 0; page < pages; ++page) {
-    const auto index = static_cast<WPARAM>(page);
-    Shared<TCITEMA> item(tabs);
-    TCITEMA asked{};
-    asked.mask = TCIF_TEXT;
-    asked.pszText = item.text();
-    asked.cchTextMax = Shared<TCITEMA>::TextSize;
-    item.put(asked);
-    tabs.send(TCM_GETITEMA, index, item.address());
-    if (item.getText() != caption) continue;
-    Shared<RECT> place(tabs);
-    tabs.send(TCM_GETITEMRECT, index, place.address());
-    const RECT header = place.get();
-    tabs.clickAt(middle(header.left, header.right), middle(header.top, header.bottom));
+    Asked<TCITEMA> item;
+    item.record.mask = TCIF_TEXT;
+    item.record.cchTextMax = sizeof item.text;
+    ask(tabs, TCM_GETITEMA, page, item, &TCITEMA::pszText);
+    if (item.text != caption) continue;
+    Asked<RECT> header;
+    ask(tabs, TCM_GETITEMRECT, page, header);
+    const RECT& place = header.record;
+    tabs.clickAt(static_cast<int>(place.left + place.right) / 2,
+                 static_cast<int>(place.top + place.bottom) / 2);
     REQUIRE(soon([&] { return tabs.send(TCM_GETCURSEL) == page; }));
     return;
   }
   FAIL("no tab says " << std::string(caption));
 }
+
+namespace icons {
+namespace {
+
+constexpr int AllTheWay = 80;  // pixels
+
+// From the middle of the row's box, in pixels of 96 an inch.
+void clickIn(const Window& main, int row, int right, int down) {
+  constexpr int BoxX[] = {13, 69, 136, 192, 258, 314, 15, 71, 139, 195};
+  constexpr int UpperRow = 17, LowerRow = 98, RowsAbove = 6;
+  list(main).clickAt(scaled(BoxX[row] + right), scaled((row < RowsAbove ? UpperRow : LowerRow) + down));
+}
+
+}  // namespace
+
+// The first control of the kit in its page.
+Window list(const Window& main) {
+  return main.child("ZubraneControl", 0);
+}
+
+void clickBox(const Window& main, int row, Scrolled scrolled) {
+  clickIn(main, row, 0, scrolled == Scrolled::ToTheEnd ? -AllTheWay : 0);
+}
+
+void clickPicture(const Window& main, int row) {
+  constexpr int Right = 28, Down = 12;
+  clickIn(main, row, Right, Down);
+}
+
+// Each movement over the arrow that is held down is one step; steps that find the end do nothing.
+void toTheEnd(const Window& main) {
+  constexpr int Steps = 310, ArrowX = 398, ArrowY = 66;
+  const Window panel = list(main);
+  const RECT all = panel.place();
+  movePointer(static_cast<int>(all.left) + ArrowX, static_cast<int>(all.top) + ArrowY);
+  pressButton();
+  panel.settle();
+  for (int step = 0; step < Steps; ++step)
+    panel.send(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(ArrowX + step % 2, ArrowY));
+  releaseButton();
+  panel.settle();
+}
+
+}  // namespace icons
 
 }  // namespace zub::drive

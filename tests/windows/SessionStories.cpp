@@ -49,16 +49,14 @@ TEST_CASE("at the end of the session the settings are saved, and a wash runs onl
     CAPTURE(row.chkRunShutDown);
     CAPTURE(row.how);
     const Story story;
-    pc::option("chkTempFolder");
+    const Trace trace;
     pc::option("chkRunShutDown", row.chkRunShutDown);
-    const pc::fs::path trace = pc::temp() / "trace.tmp";
-    pc::put(trace, "trace");
     const Zub zub;
     const Window main = zub.main();
     openTab(main, "Options");
     main.child("Do not use plugins").tick();
     CHECK(main.send(WM_QUERYENDSESSION, 0, row.how) != 0);
-    CHECK(pc::exists(trace) != row.washes);
+    CHECK(trace.isThere() != row.washes);
     PostMessageA(main.handle(), WM_ENDSESSION, TRUE, row.how);
     CHECK(zub.ends());
     CHECK(pc::storedOption("chkSkipPlugins") == "1");

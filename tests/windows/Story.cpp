@@ -37,8 +37,7 @@ int graphicHandlesOf(HANDLE process) {
   const auto query = reinterpret_cast<Query>(
       reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("ntdll"), "NtQueryInformationProcess")));
   char* information[6] = {};
-  REQUIRE(query(process, BasicInformation, static_cast<void*>(information), sizeof information, nullptr) ==
-          0);
+  REQUIRE(query(process, BasicInformation, information, sizeof information, nullptr) == 0);
   char* table = nullptr;
   std::string records(Records * RecordSize, '\0');
   REQUIRE(ReadProcessMemory(process, information[BlockWord] + TableOfBlock, static_cast<void*>(&table),
@@ -48,30 +47,6 @@ int graphicHandlesOf(HANDLE process) {
   for (std::size_t record = 0; record < Records; ++record)
     used += records[record * RecordSize + KindOfRecord] != 0 ? 1 : 0;
   return used;
-}
-
-struct Count {
-  DWORD process;
-  int windows = 0;
-};
-
-BOOL CALLBACK countChild(HWND, LPARAM count) {
-  ++reinterpret_cast<Count*>(count)->windows;
-  return TRUE;
-}
-
-BOOL CALLBACK countOfProcess(HWND window, LPARAM count) {
-  DWORD owner = 0;
-  GetWindowThreadProcessId(window, &owner);
-  if (owner != reinterpret_cast<Count*>(count)->process) return TRUE;
-  EnumChildWindows(window, countChild, count);
-  return countChild(window, count);
-}
-
-int windowsIn(DWORD process) {
-  Count count{process};
-  EnumWindows(countOfProcess, reinterpret_cast<LPARAM>(&count));
-  return count.windows;
 }
 
 }  // namespace
@@ -111,26 +86,19 @@ Zub::~Zub() {
 
 bool Zub::shows(std::string_view title) const {
   return std::ranges::any_of(windowsOf(process_.dwProcessId),
-                             [&](const Window& one) { return one.caption() == title; });
+                             [&](const Window& one) { return one.isVisible() && one.caption() == title; });
 }
 
 bool Zub::hides(std::string_view title) const {
   return soon([&] { return !shows(title); });
 }
 
-Window Zub::window(std::string_view title) const {
-  return find(title, false);
-}
-
-Window Zub::dialog(std::string_view title) const {
-  return find(title, true);
-}
-
 Window Zub::find(std::string_view title, bool isDialog) const {
   Window found;
   soon([&] {
     for (const Window& one : windowsOf(process_.dwProcessId)) {
-      if (one.caption() == title && (one.className() == "#32770") == isDialog) found = one;
+      const bool fits = one.caption() == title && (one.className() == "#32770") == isDialog;
+      if (fits && one.isVisible()) found = one;
     }
     return found.handle() != nullptr || !runs();
   });
@@ -155,8 +123,19 @@ void Zub::trayMessage(UINT mouseMessage) const {
   PostMessageA(trayWindow().handle(), WM_MOUSEMOVE, 0, static_cast<LPARAM>(mouseMessage));
 }
 
+// The icon lies at the right end of the taskbar.
+void Zub::clickTray(bool right) const {
+  trayWindow();
+  const RECT taskbar = Window(FindWindowA("Shell_TrayWnd", nullptr)).place();
+  constexpr int FromTheEnd = 11;
+  movePointer(static_cast<int>(taskbar.right) - FromTheEnd,
+              static_cast<int>(taskbar.top + taskbar.bottom) / 2);
+  pressButton(right);
+  releaseButton(right);
+}
+
 void Zub::trayEntry(char letter) const {
-  trayMessage(WM_RBUTTONDOWN);
+  clickTray(true);
   REQUIRE(soon([] { return Window(FindWindowA("#32768", nullptr)).isVisible(); }));
   key(letter);
 }
@@ -164,7 +143,16 @@ void Zub::trayEntry(char letter) const {
 Zub::Handles Zub::handles() const {
   main().settle();
   const auto counted = static_cast<int>(GetGuiResources(process_.hProcess, GR_GDIOBJECTS));
-  return {counted != 0 ? counted : graphicHandlesOf(process_.hProcess), windowsIn(process_.dwProcessId)};
+  std::size_t windows = 0;
+  for (const Window& window : windowsOf(process_.dwProcessId)) windows += 1 + windowsBelow(window).size();
+  return {counted != 0 ? counted : graphicHandlesOf(process_.hProcess), static_cast<int>(windows)};
+}
+
+ULONGLONG Zub::busyTime() const {
+  FILETIME begin, end, kernel, user;
+  REQUIRE(GetProcessTimes(process_.hProcess, &begin, &end, &kernel, &user) != 0);
+  constexpr ULONGLONG InAMillisecond = 10000;
+  return (ULONGLONG{kernel.dwLowDateTime} + user.dwLowDateTime) / InAMillisecond;
 }
 
 bool Zub::ends(int seconds) const {
@@ -181,6 +169,10 @@ void Zub::close() const {
 
 Window wash(const Zub& zub) {
   zub.main().child("&Start Cleaning").click();
+  return washed(zub);
+}
+
+Window washed(const Zub& zub) {
   const Window progress = zub.window(title::Progress);
   progress.child("&Finish");
   return progress;
@@ -197,8 +189,18 @@ std::string answer(const Zub& zub, std::string_view title) {
 }
 
 void finish(const Zub& zub) {
-  zub.window(title::Progress).child("&Finish").click();
+  washed(zub).child("&Finish").click();
   REQUIRE(zub.hides(title::Progress));
+}
+
+Trace::Trace() {
+  pc::option("chkTempFolder");
+  pc::put(file_, "trace");
+}
+
+Holder::Holder(const pc::fs::path& file)
+    : file_(CreateFileA(file.string().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr)) {
+  REQUIRE(file_ != INVALID_HANDLE_VALUE);
 }
 
 }  // namespace zub::drive

@@ -26,16 +26,18 @@ class Zub {
   ~Zub();
 
   // The window with this title, when it has come.
-  Window window(std::string_view title) const;
+  Window window(std::string_view title) const { return find(title, false); }
   // The same of the system's own: a message box, the folder picker.
-  Window dialog(std::string_view title) const;
+  Window dialog(std::string_view title) const { return find(title, true); }
   Window main() const { return window(title::Main); }
   bool shows(std::string_view title) const;
   bool hides(std::string_view title) const;  // waits until it is gone
-  // The window behind the tray icon, and a message as the taskbar sends it.
+
+  // The icon in the tray: the window behind it, a message as the taskbar sends it, the pointer on it, and the menu's
+  // entry with this access key.
   Window trayWindow() const;
   void trayMessage(UINT mouseMessage) const;
-  // From the menu of the icon, by the access key of the entry.
+  void clickTray(bool right = false) const;
   void trayEntry(char letter) const;
 
   // What the process holds of the system: pens, brushes, fonts, bitmaps, device contexts; windows, hidden ones
@@ -44,6 +46,9 @@ class Zub {
     int graphics, windows;
   };
   Handles handles() const;
+
+  // What the process has had of the processor, in milliseconds.
+  ULONGLONG busyTime() const;
 
   // Waits for the end of the process.
   bool ends(int seconds = Patience) const;
@@ -64,8 +69,32 @@ class Story {
 
 // Presses "Start Cleaning", waits for the end of the wash and leaves its window open.
 Window wash(const Zub& zub);
+// The window of a wash that somebody else began, at its end.
+Window washed(const Zub& zub);
 void finish(const Zub& zub);
 // Reads a message of the system and presses its button.
 std::string answer(const Zub& zub, std::string_view title);
+
+// A file that only the washes of the temporary folder remove.
+class Trace {
+ public:
+  Trace();
+  bool isThere() const { return pc::exists(file_); }
+
+ private:
+  pc::fs::path file_ = pc::temp() / "trace.tmp";
+};
+
+// Holds a file open as a program that shares nothing.
+class Holder {
+ public:
+  explicit Holder(const pc::fs::path& file);
+  Holder(const Holder&) = delete;
+  Holder& operator=(const Holder&) = delete;
+  ~Holder() { CloseHandle(file_); }
+
+ private:
+  HANDLE file_;
+};
 
 }  // namespace zub::drive

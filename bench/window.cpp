@@ -1,5 +1,6 @@
 // What a wash takes with its progress window open, against the console program and the system's own command on
-// the same files. No check of the program: it runs only where it is asked for by name, and prints milliseconds.
+// the same files. It is a case of the program that drives the desktop, runs only where it is asked for by name, and prints
+// milliseconds.
 #include <algorithm>
 #include <functional>
 #include <string>

@@ -1,10 +1,8 @@
-// Takes the pictures of the guide: every window and tab, on a PC that has been lived with. No check of the
-// program: it runs only where it is asked for by name, and leaves bitmaps in the folder ZUB_PICTURES.
+// Takes the pictures of the guide: every window and tab, on a PC that has been lived with. It is a case of the program
+// that drives the desktop and runs only where it is asked for by name; it leaves bitmaps in the folder ZUB_PICTURES.
 #include <cstdlib>
 
 #include "cleaners/BrowserFiles.h"
-#include "windows/IconList.h"
-#include "windows/Screen.h"
 #include "windows/Story.h"
 
 using namespace zub;
@@ -14,6 +12,39 @@ namespace {
 
 // In milliseconds: what windows and effects under the pointer take, and what they take at least.
 constexpr DWORD ToSettle = 700, ToPaint = 300;
+
+// Writes a part of the screen as a bitmap file of 24 bits a pixel.
+void savePicture(const pc::fs::path& file, const RECT& part) {
+  const LONG width = part.right - part.left, height = part.bottom - part.top;
+  const HDC screen = GetDC(nullptr);
+  const HDC memory = CreateCompatibleDC(screen);
+  const HBITMAP bitmap = CreateCompatibleBitmap(screen, static_cast<int>(width), static_cast<int>(height));
+  const HGDIOBJ before = SelectObject(memory, bitmap);
+  BitBlt(memory, 0, 0, static_cast<int>(width), static_cast<int>(height), screen, static_cast<int>(part.left),
+         static_cast<int>(part.top), SRCCOPY);
+  SelectObject(memory, before);
+
+  BITMAPINFOHEADER info{};
+  info.biSize = sizeof info;
+  info.biWidth = width;
+  info.biHeight = height;
+  info.biPlanes = 1;
+  info.biBitCount = 24;
+  std::vector<char> pixels(static_cast<std::size_t>((width * 3 + 3) / 4 * 4 * height));
+  GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), pixels.data(), reinterpret_cast<BITMAPINFO*>(&info),
+            DIB_RGB_COLORS);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  ReleaseDC(nullptr, screen);
+
+  BITMAPFILEHEADER header{};
+  header.bfType = 0x4D42;  // "BM"
+  header.bfOffBits = sizeof header + sizeof info;
+  header.bfSize = header.bfOffBits + static_cast<DWORD>(pixels.size());
+  std::string bytes(reinterpret_cast<const char*>(&header), sizeof header);
+  bytes.append(reinterpret_cast<const char*>(&info), sizeof info).append(pixels.data(), pixels.size());
+  pc::put(file, bytes);
+}
 
 void takeArea(const std::string& name, const RECT& area, DWORD pause = ToSettle) {
   Sleep(pause);
@@ -166,13 +197,13 @@ TEST_CASE("pictures" * doctest::skip()) {
   seedFiles();
   const Zub zub;
   const Window main = zub.main();
-  IconList(main).clickPicture(0);
+  icons::clickPicture(main, 0);
   takeTabs(main);
   takeEditor(zub, "Card Shop Deluxe", {{"Registry", "editor"}});
   takeEditor(zub, "Home Photo Album", {{"Files & Folders", "editor-files"}, {"Comments", "editor-comments"}});
   openTab(main, "Main");
   takeCookies(zub, title::IECookies, "ie-cookies");
-  IconList(main).clickPicture(5);
+  icons::clickPicture(main, 5);
   main.child("Mail");
   takeCookies(zub, title::NSCookies, "ns-cookies");
   main.child("About").click();
