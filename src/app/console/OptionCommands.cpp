@@ -127,7 +127,8 @@ void checkGet(const Given& given) {
 }
 
 int optionsCommand(CommandContext& context) {
-  Store store(context.pc.platform());
+  StoreToRead read(context.pc.platform(), context.loop, context.loop);
+  Store& store = read.store;
   if (context.given.has("--json")) {
     printJson(context, store.options);
     return exitStatus::Done;
@@ -142,7 +143,8 @@ int optionsCommand(CommandContext& context) {
 }
 
 int getCommand(CommandContext& context) {
-  Store store(context.pc.platform());
+  StoreToRead read(context.pc.platform(), context.loop, context.loop);
+  Store& store = read.store;
   context.print(
       std::to_string(settingNamed(context, settingsOf(store.options), context.given.arguments[0]).value));
   return exitStatus::Done;

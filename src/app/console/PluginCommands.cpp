@@ -119,7 +119,8 @@ void checkPluginCheck(const Given& given) {
 }
 
 int pluginsCommand(CommandContext& context) {
-  Store store(context.pc.platform());
+  StoreToRead read(context.pc.platform(), context.loop, context.loop);
+  Store& store = read.store;
   if (context.given.has("--json")) {
     Json json(context, "plugins");
     json.text("folder", store.plugins.CurPath());
@@ -137,7 +138,8 @@ int pluginsCommand(CommandContext& context) {
 
 int pluginShowCommand(CommandContext& context) {
   const std::string& name = context.given.arguments[0];
-  Store store(context.pc.platform());
+  StoreToRead read(context.pc.platform(), context.loop, context.loop);
+  Store& store = read.store;
   const CatalogueRow* standard = store.catalogue.find(name);
   const bool custom = isRow(store.options.lstFiles, name);
   if (standard == nullptr && !custom)
@@ -149,7 +151,8 @@ int pluginShowCommand(CommandContext& context) {
 
 // Files of one plugin that stand side by side are read as one plugin's.
 int pluginCheckCommand(CommandContext& context) {
-  Store store(context.pc.platform());
+  StoreToRead read(context.pc.platform(), context.loop, context.loop);
+  Store& store = read.store;
   std::string plugin;
   PluginCheck check(store.engine);
   bool neverWorks = false;
