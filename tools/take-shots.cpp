@@ -159,6 +159,16 @@ void takeCookies(const Zub& zub, std::string_view title, const std::string& name
   REQUIRE(zub.hides(title));
 }
 
+void takePreview(const Zub& zub) {
+  zub.main().child("&Preview").click();
+  const Window looking = zub.window(title::Preview);
+  takeArea("looking", looking.place(), ToPaint);
+  const Window report = zub.window(title::PreviewReport);
+  take("preview", report);
+  key(VK_ESCAPE);
+  REQUIRE(zub.hides(title::PreviewReport));
+}
+
 void takeWash(const Zub& zub) {
   zub.main().child("&Start Cleaning").click();
   const Window progress = zub.window(title::Progress);
@@ -210,6 +220,7 @@ TEST_CASE("pictures" * doctest::skip()) {
   take("about", zub.window(title::About));
   key(VK_ESCAPE);
   REQUIRE(zub.hides(title::About));
+  takePreview(zub);
   takeWash(zub);
   takeTray(zub);
 }

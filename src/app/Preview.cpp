@@ -1,12 +1,10 @@
 #include "app/Preview.h"
 
-#include "base/RuntimeError.h"
-
 namespace zub {
 
 void Preview::Turns::DoEvents() {
   events_.DoEvents();
-  if (stopped && stopped()) throw EndOfProcess{};
+  if (stopped && stopped()) throw EndOfPretence{};
 }
 
 Preview::Preview(Platform& beneath, EventLoop& events, Messages& messages)
@@ -28,17 +26,25 @@ void Preview::watchTasks() {
   }
 }
 
+// Work on the registry gives no turns of its own.
 void Preview::watched(const std::string& name, const std::function<void()>& work) {
   const std::uint64_t before = pc_.removals();
   work();
   if (pc_.removals() == before) foundNothing_.push_back(name);
+  turns_.DoEvents();
+}
+
+void Preview::takeOver(Program& other) {
+  program.options = other.options;
+  program.engine.registryHelper.takeOver(other.engine.registryHelper);
+  program.nsCookies->takeOver(*other.nsCookies);
 }
 
 bool Preview::wash(const std::function<bool()>& stopped) {
   turns_.stopped = stopped;
   try {
     program.main.cmdRemove_Click();
-  } catch (const EndOfProcess&) {
+  } catch (const EndOfPretence&) {
     return false;
   }
   turns_.stopped = {};

@@ -17,8 +17,11 @@ class Preview {
   // All three outlive the preview.
   Preview(Platform& beneath, EventLoop& events, Messages& messages);
 
+  // What another program has come to: its choices as they stand, the traces that it has in force, the cookies that are
+  // ticked to be kept. A wash then does what it would do there.
+  void takeOver(Program& other);
   // Runs one wash of the program as its options stand, to its end or until `stopped` answers true in a turn of the event
-  // loop; false where it was stopped.
+  // loop, of which each task ends with one; false where it was stopped.
   bool wash(const std::function<bool()>& stopped = {});
 
   // What would go.

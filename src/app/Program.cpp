@@ -1,5 +1,6 @@
 #include "app/Program.h"
 
+#include "app/PreviewRun.h"
 #include "cleaners/HistoryCleaners.h"
 #include "plugins/CustomPluginRun.h"
 #include "plugins/StandardPluginRun.h"
@@ -21,6 +22,7 @@ Program::Program(const Platform& pc)
       }),
       main({engine, plugins, catalogue, editor, ieCookies, nsCookies, icon}) {
   bindCleaners();
+  main.runPreview = [this] { runPreview(*this); };
 }
 
 void Program::bindCleaners() {

@@ -16,6 +16,8 @@ Timers::Timers(Program& program) {
   slots_[1] = {ofProgress(&frmAnimated::State::Timer), [&animated] { animated->Timer_Tick(); }};
   slots_[2] = {ofProgress(&frmAnimated::State::CloseWindowTimer),
                [&animated] { animated->CloseWindowTimer_Tick(); }};
+  slots_[3] = {[&program] { return &program.main.preview.Timer; },
+               [&program] { program.main.preview.Timer_Tick(); }};
 }
 
 // The one that has waited longest: a slow tick does not starve the other timers.

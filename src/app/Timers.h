@@ -26,7 +26,7 @@ class Timers {
     bool running = false;
     std::uint64_t due = 0;
   };
-  std::array<Slot, 3> slots_;
+  std::array<Slot, 4> slots_;
 };
 
 }  // namespace zub

@@ -28,6 +28,16 @@ frmNSCookieKeep::frmNSCookieKeep(Engine& engine) : engine_(engine) {
   chkSelectAll.Click = [this] { chkSelectAll_Click(); };
 }
 
+void frmNSCookieKeep::takeOver(const frmNSCookieKeep& other) {
+  cmbProfile = other.cmbProfile;
+  cmbSelect = other.cmbSelect;
+  lstDelete = other.lstDelete;
+  lstCookies = other.lstCookies;
+  NS6Exists = other.NS6Exists;
+  loaded_ = other.loaded_;
+  allRead_ = other.allRead_;
+}
+
 void frmNSCookieKeep::Load() {
   if (loaded_) return;
   loaded_ = true;

@@ -35,6 +35,9 @@ class frmNSCookieKeep {
   frmNSCookieKeep(const frmNSCookieKeep&) = delete;
   frmNSCookieKeep& operator=(const frmNSCookieKeep&) = delete;
 
+  // The profiles and the ticks of another one, read from the disk or not yet saved.
+  void takeOver(const frmNSCookieKeep& other);
+
   void Load();  // loads the window, the first time only
   void Show();
   void Form_Load() { LoadProfiles(); }

@@ -24,6 +24,13 @@ RegistryStatus RegistryHelper::counted(RegistryStatus result, const Trace& trace
   return result;
 }
 
+void RegistryHelper::takeOver(const RegistryHelper& other) {
+  TraceState::operator=(other);
+  for (std::size_t place = 0; place < other.lstKey.size(); ++place) lstKey.add(other.lstKey[place]);
+  for (std::size_t place = 0; place < other.lstValue.size(); ++place) lstValue.add(other.lstValue[place]);
+  last_ = other.last_;
+}
+
 int RegistryHelper::DeleteTrace(const Trace& trace) {
   engine_.animated->RemoveEntries(removing::Registry);
   takeToRemove(trace);

@@ -20,6 +20,9 @@ class RegistryHelper : public TraceState {
  public:
   explicit RegistryHelper(Engine& engine) : engine_(engine) {}
 
+  // The sticky state of another process: a removal does here what it would do there.
+  void takeOver(const RegistryHelper& other);
+
   // 0, or -1 when the key could not be opened, the named value could not be deleted or the last deletion of
   // the key itself failed. RuntimeError 5 as TraceState tells.
   int DeleteTrace(const Trace& trace);

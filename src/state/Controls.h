@@ -15,6 +15,20 @@ inline void raise(const Handler& handler) {
   if (handler) handler();
 }
 
+// Who hears of a control's changes. It stays with its control: a copy takes over what the control shows, and not who
+// hears of it.
+class Listener {
+ public:
+  Listener() = default;
+  Listener(const Listener&) {}
+  Listener& operator=(const Listener&) { return *this; }
+  const Handler& operator=(Handler handler) { return handler_ = std::move(handler); }
+  operator const Handler&() const { return handler_; }
+
+ private:
+  Handler handler_;
+};
+
 // 0x00BBGGRR. A value with the top byte 0x80 is a system colour: 0x8000000D is the system's colour 13.
 using Color = std::uint32_t;
 
@@ -128,7 +142,7 @@ struct Form {
 // runs the option's handler.
 class CheckOption {
  public:
-  Handler Click;
+  Listener Click;
   bool Enabled = true;
 
   int Value() const { return value_; }  // 1 on, 0 off

@@ -12,7 +12,7 @@ namespace zub {
 // A list of rows, each with a check mark that a plain list does not show. The current row is -1 where there is none.
 class ListRows {
  public:
-  Handler Click;  // raised when a row becomes current, by the user or by code
+  Listener Click;  // raised when a row becomes current, by the user or by code
 
   enum class Order : std::uint8_t { AsAdded, Sorted };
   explicit ListRows(Order order = Order::AsAdded) : order_(order) {}
@@ -58,8 +58,8 @@ class ListRows {
 // then is no row.
 class Combo {
  public:
-  Handler Click;   // a row was chosen, by the user or by code
-  Handler Change;  // the text was typed
+  Listener Click;   // a row was chosen, by the user or by code
+  Listener Change;  // the text was typed
   bool Enabled = true;
 
   Combo() = default;

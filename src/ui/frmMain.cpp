@@ -133,6 +133,7 @@ void frmMain::FillStandardList() {
 }
 
 void frmMain::cmdRemove_Click() {
+  preview.close();
   cmdViewLog.Visible = true;
   WasVisible = form.Visible;
   if (form.Visible) {
@@ -142,6 +143,13 @@ void frmMain::cmdRemove_Click() {
   parts_.icon.mnuRemove.Enabled = false;
   parts_.icon.SetTopForm(frmIcon::ProgressWindow);
   engine_.animated->StartClean();
+}
+
+void frmMain::cmdPreview_Click() {
+  if (preview.form.Visible) return preview.form.Show();
+  form.Enabled = false;
+  raise(runPreview);
+  form.Enabled = true;
 }
 
 void frmMain::FinishedCleaning() {

@@ -16,6 +16,7 @@
 #include "scheduler/DatedEntries.h"
 #include "scheduler/frmIcon.h"
 #include "ui/OptionHelp.h"
+#include "ui/frmPreview.h"
 
 namespace zub {
 
@@ -41,6 +42,7 @@ class frmMain : public WashOwner {
   Options& options;
   AutomaticInterval automatic;
   DatedEntries dated;
+  frmPreview preview;
   Label lblHelp;
   Label lblOptionsHelp;
   Label lblSchedulerHelp;
@@ -51,13 +53,16 @@ class frmMain : public WashOwner {
   CheckOption chkSelectAll;
   CheckOption StandardPluginsSelectAll;
   bool WasVisible = false;
-  Handler showAbout;  // modally; none on a PC without windows
+  Handler showAbout;   // modally; none on a PC without windows
+  Handler runPreview;  // to its end, with turns of the event loop
 
   // The program's start. A wash that the command line asks for runs to its end inside, before the list of
   // standard plugins is filled. Ends the process where another instance runs.
   void Form_Load();
   void Press_Clean() { cmdRemove_Click(); }
   void cmdRemove_Click();
+  // The window takes no input until the preview is over. A wash that begins meanwhile stops it.
+  void cmdPreview_Click();
 
   void Enable() override { form.Enabled = true; }
   void FinishedCleaning() override;

@@ -39,6 +39,8 @@ struct Windows {
   std::vector<layout::WindowSpec> all = {layout::mainWindow(program.main),
                                          layout::progressWindow(program.engine.animated),
                                          layout::reportWindow(program.engine.clean),
+                                         layout::previewWindow(program.main.preview),
+                                         layout::previewReportWindow(program.main.preview),
                                          layout::editorWindow(*program.editor),
                                          layout::cookieWindow(*program.ieCookies),
                                          layout::cookieWindow(*program.nsCookies),

@@ -54,6 +54,8 @@ Members membersOf(Windows& windows) {
       &wash.Image12, &wash.Image13, &wash.Image14, &wash.ImgAnimate, &wash.ImgEntries, &wash.lblApplication,
       &wash.lblCurrent, &wash.lblRemove, &wash.StatusBar1, &wash.cmdFinish, &wash.cmdLog);
   ADD(&windows.program.engine.clean.txtResult);
+  ADD(&main.preview.ImgAnimate, &main.preview.lblApplication, &main.preview.lblCurrent,
+      &main.preview.txtResult);
   ADD(&editor.txtName, &editor.cmdOK, &editor.cmdApply, &editor.cmdCancel, &editor.lstRegistry,
       &editor.cmdRegNew, &editor.cmdRegRemove, &editor.cmdRegistryAdd, &editor.cmbPathRegistry,
       &editor.txtPath, &editor.cmbRegistry, &editor.txtKeyValue, &editor.lstFileFolder, &editor.cmdFFNew,
@@ -141,8 +143,8 @@ std::string textOf(const WindowSpec& window) {
 
 TEST_CASE("every window is as its text tells, and shows the members that its controls are named for") {
   Windows windows;
-  const std::string names[] = {"main",       "progress",         "report", "editor",
-                               "ie-cookies", "netscape-cookies", "about",  "message"};
+  const std::string names[] = {"main",   "progress",   "report",           "preview", "preview-report",
+                               "editor", "ie-cookies", "netscape-cookies", "about",   "message"};
   for (std::size_t at = 0; at < windows.all.size(); ++at) {
     checkGolden(names[at] + ".txt", textOf(windows.all[at]));
   }
@@ -162,7 +164,8 @@ TEST_CASE("every window is as its text tells, and shows the members that its con
 TEST_CASE("the close box of every window closes it; that of the main window ends the program") {
   Windows windows;
   for (const WindowSpec& window : windows.all) {
-    if (!window.close) continue;  // the message box has none
+    if (!window.close) continue;                  // the message box has none
+    if (window.face == faces::Preview) continue;  // it goes when what it shows has stopped
     CAPTURE(window.face.title);
     if (window.face == faces::Progress) windows.program.engine.animated->state.form.Show();
     Form& form = *window.form();

@@ -13,7 +13,7 @@ TEST_CASE("the Tab key goes through the main tab, and back with Shift") {
   const Window main = zub.main();
   const std::vector<std::string> order = {
       "SysTabControl32",     "ZubraneControl", "Cache",           "Index.dat", "Cookies", "Autocomplete Data",
-      "Downloaded Programs", "Manage",         "&Start Cleaning", "Help",      "About"};
+      "Downloaded Programs", "Manage",         "&Start Cleaning", "&Preview",  "Help",    "About"};
   const auto name = [] {
     const Window control = focus();
     return control.text().empty() ? control.className() : control.text();

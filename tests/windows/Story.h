@@ -11,6 +11,8 @@ namespace title {
 inline constexpr std::string_view Main = "Zubrane";
 inline constexpr std::string_view Progress = "ZUB - Task Removal Status";
 inline constexpr std::string_view Report = "Log Report";
+inline constexpr std::string_view Preview = "ZUB - Preview";
+inline constexpr std::string_view PreviewReport = "Preview";
 inline constexpr std::string_view Editor = "ZUB Plugin Editor";
 inline constexpr std::string_view IECookies = "Internet Explorer Cookie Manger";
 inline constexpr std::string_view NSCookies = "Netscape Cookie Manger";

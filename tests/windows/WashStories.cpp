@@ -45,6 +45,52 @@ TEST_CASE("the items that are ticked are washed, and nothing beside them") {
   pc::removeKey(Explorer + "Doc Find Spec MRU");
 }
 
+TEST_CASE("a preview is read and closed, and nothing has been removed before the wash") {
+  const Story story;
+  const pc::fs::path trace = pc::temp() / "trace.tmp";
+  pc::put(trace, "trace");
+  pc::putValue(Explorer + "RunMRU", "a", "calc\\1");
+  const Zub zub;
+  const Window main = zub.main();
+  icons::toTheEnd(main);
+  for (const int row : {6, 8}) icons::clickBox(main, row, icons::Scrolled::ToTheEnd);
+  main.child("&Preview").click();
+  const Window report = zub.window(title::PreviewReport);
+  const Window text = report.child("EDIT", 0);
+  CHECK(text.comesToSay("PREVIEW: nothing has been removed."));
+  CHECK(text.comesToSay("\tDeleting file trace.tmp\r\n"));
+  CHECK(text.comesToSay("Would go: 1 file of 5 bytes, 0 folders, 1 registry key, 1 value\r\n"));
+  CHECK(report.comesToFront());
+  key(VK_ESCAPE);
+  CHECK(zub.hides(title::PreviewReport));
+  CHECK(soon([&] { return main.isEnabled(); }));
+  CHECK(pc::bytesOf(trace) == "trace");
+  CHECK(pc::value(Explorer + "RunMRU", "a") == "calc\\1");
+  CHECK(main.child("STATIC", 2).text() == "");
+
+  wash(zub);
+  finish(zub);
+  CHECK_FALSE(pc::exists(trace));
+  CHECK_FALSE(pc::hasKey(Explorer + "RunMRU"));
+}
+
+TEST_CASE("a preview takes the main window's input, and Esc stops it") {
+  const Story story;
+  const std::size_t files = pc::seedLongWork();
+  const Zub zub;
+  const Window main = zub.main();
+  chord({VK_MENU, 'P'});
+  const Window looking = zub.window(title::Preview);
+  CHECK(soon([&] { return !main.isEnabled(); }));
+  REQUIRE(looking.comesToFront());
+  key(VK_ESCAPE);
+  CHECK(zub.hides(title::Preview));
+  CHECK(soon([&] { return main.isEnabled(); }));
+  CHECK(main.comesToFront());
+  CHECK_FALSE(zub.shows(title::PreviewReport));
+  CHECK(pc::filesIn(pc::temp()) == files);
+}
+
 TEST_CASE("Cancel closes the display, and the removal goes on") {
   const Story story;
   const std::size_t files = pc::seedLongWork();

@@ -1,4 +1,4 @@
-#include "app/Preview.h"
+#include "app/PreviewText.h"
 #include "app/console/Commands.h"
 #include "app/console/Json.h"
 #include "app/console/Report.h"
@@ -7,16 +7,6 @@
 
 namespace zub {
 namespace {
-
-void printSums(const CommandContext& context, const Preview::Sums& sums) {
-  context.print("");
-  context.print("Would go: " + sumsText(sums));
-  std::string nothing;
-  for (const std::string& name : sums.foundNothing) nothing += (nothing.empty() ? "" : ", ") + name;
-  if (!nothing.empty()) context.print("Nothing to remove for: " + nothing);
-  context.print(
-      "Nothing has been removed. What other programs open, write or remove until the wash is not foretold.");
-}
 
 std::string_view nameOf(Preview::Kind kind) {
   switch (kind) {
@@ -88,10 +78,11 @@ int previewCommand(CommandContext& context) {
   } else if (list) {
     printList(context, preview);
   } else {
-    context.print("PREVIEW: nothing has been removed. A wash would report:");
+    context.print(PreviewHeading);
     context.print("");
     terminal::write(terminal::Stream::Output, reportText(context, program));
-    printSums(context, preview.sums());
+    context.print("");
+    for (const std::string& line : closingLines(preview.sums())) context.print(line);
   }
   return tellLeftBehind(context, program, "would stay");
 }

@@ -9,10 +9,6 @@
 namespace zub {
 namespace {
 
-std::string counted(std::int64_t count, const char* one, const char* several) {
-  return std::to_string(count) + ' ' + (count == 1 ? one : several);
-}
-
 // The report lies in memory with CR LF behind each line; a terminal wants no blank line at its end.
 std::string linesOf(const CommandContext& context, std::string_view text) {
   text = trimRight(text, CrLf);
@@ -55,12 +51,6 @@ void addReport(Json& json, const CommandContext& context, const Program& program
   json.array("failures", [&] {
     for (const std::string& failure : context.pc.failures()) json.utf8("", failure);
   });
-}
-
-std::string sumsText(const Preview::Sums& sums) {
-  return counted(sums.files, "file", "files") + " of " + counted(sums.bytes, "byte", "bytes") + ", " +
-         counted(sums.folders, "folder", "folders") + ", " +
-         counted(sums.keys, "registry key", "registry keys") + ", " + counted(sums.values, "value", "values");
 }
 
 void tellOddFolders(const CommandContext& context) {

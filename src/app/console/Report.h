@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "app/Preview.h"
 #include "app/Program.h"
 #include "app/console/Commands.h"
 #include "app/console/Json.h"
@@ -24,8 +23,6 @@ struct Attached {
 std::string reportText(const CommandContext& context, Program& program);
 // The same as members of a document, with what stayed behind and what failed.
 void addReport(Json& json, const CommandContext& context, const Program& program);
-// "2 files of 14 bytes, 1 folder, 0 registry keys, 1 value"
-std::string sumsText(const Preview::Sums& sums);
 // Tells the folders that a wash takes for others than the registry means.
 void tellOddFolders(const CommandContext& context);
 // Tells what, how much was tried and `happened`, such as "could not be removed"; the exit status of that.

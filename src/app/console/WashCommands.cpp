@@ -1,7 +1,7 @@
 #include <exception>
 #include <functional>
 
-#include "app/Preview.h"
+#include "app/PreviewText.h"
 #include "app/Program.h"
 #include "app/console/Commands.h"
 #include "app/console/Interrupt.h"

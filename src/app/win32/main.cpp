@@ -30,6 +30,8 @@ using namespace zub;
   const HWND main = windows.add(layout::mainWindow(program.main)).hwnd();
   windows.addLater(layout::progressWindow(program.engine.animated));
   windows.addLater(layout::reportWindow(program.engine.clean));
+  windows.addLater(layout::previewWindow(program.main.preview), [main] { return main; });
+  windows.addLater(layout::previewReportWindow(program.main.preview));
   windows.addLater(layout::editorWindow(*program.editor));
   windows.addLater(layout::cookieWindow(*program.ieCookies));
   windows.addLater(layout::cookieWindow(*program.nsCookies));

@@ -1,6 +1,5 @@
 #include "platform/pretend/PretendServices.h"
 
-#include "base/RuntimeError.h"
 #include "platform/FolderContent.h"
 #include "platform/ProfileText.h"
 
@@ -21,7 +20,7 @@ std::int32_t PretendShell::emptyRecycleBin(std::uint32_t) {
 }
 
 void PretendProcess::end() {
-  throw EndOfProcess{};
+  throw EndOfPretence{};
 }
 
 }  // namespace zub

@@ -1,6 +1,7 @@
 // The small services of a PC that pretends: what they would do to the PC is left out or kept in memory.
 #pragma once
 
+#include "base/RuntimeError.h"
 #include "platform/CodePage.h"
 #include "platform/Files.h"
 #include "platform/Services.h"
@@ -41,6 +42,9 @@ class PretendShell : public Shell {
   Shell& beneath_;
   Files& files_;
 };
+
+// A process that pretends ends; the one that it is part of goes on.
+struct EndOfPretence : EndOfProcess {};
 
 // The program beside which this one pretends has the place of the one instance.
 class PretendProcess : public Process {

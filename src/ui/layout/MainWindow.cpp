@@ -106,11 +106,13 @@ Controls controls(frmMain& form) {
             group("XPGroupBox2", px(16, 242, 407, 84), "Description",
                   {label("lblStandardPluginDescription", px(12, 20, 383, 58),
                          form.lblStandardPluginDescription)})}),
-      button("cmdRemove", px(8, 376, 128, 28), "&Start Cleaning", "Start the cleaning process",
+      button("cmdRemove", px(8, 376, 120, 28), "&Start Cleaning", "Start the cleaning process",
              on(&frmMain::cmdRemove_Click)),
-      button("cmdViewLog", px(144, 376, 92, 28), form.cmdViewLog, "View log", on(&frmMain::cmdViewLog_Click)),
-      button("cmdHelp", px(271, 376, 84, 28), "Help", "Online Help", on(&frmMain::cmdHelp_Click)),
-      button("cmdAbout", px(363, 376, 84, 28), "About", "About ZUB", on(&frmMain::cmdAbout_Click))};
+      button("cmdPreview", px(136, 376, 76, 28), "&Preview",
+             "Show what a wash would remove, and remove nothing", on(&frmMain::cmdPreview_Click)),
+      button("cmdViewLog", px(220, 376, 76, 28), form.cmdViewLog, "View log", on(&frmMain::cmdViewLog_Click)),
+      button("cmdHelp", px(315, 376, 62, 28), "Help", "Online Help", on(&frmMain::cmdHelp_Click)),
+      button("cmdAbout", px(385, 376, 62, 28), "About", "About ZUB", on(&frmMain::cmdAbout_Click))};
 }
 
 }  // namespace

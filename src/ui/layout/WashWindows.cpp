@@ -1,7 +1,8 @@
-// The windows of a wash: its progress and its report.
+// The windows of a wash and of its preview: progress and report.
 #include "base/Holders.h"
 #include "engine/TaskTable.h"
 #include "engine/frmClean.h"
+#include "ui/frmPreview.h"
 #include "ui/layout/Rows.h"
 
 namespace zub::layout {
@@ -57,6 +58,11 @@ Controls progressControls(AutoLoad<frmAnimated>& form) {
   return controls;
 }
 
+Controls reportControls(const std::string& text, const Handler& cancel) {
+  return {report("txtResult", px(0, 0, 520, 352), text, 0x00C000),
+          button("cmdCancel", px(420, 362, 92, 28), "&Cancel", "", cancel)};
+}
+
 }  // namespace
 
 WindowSpec progressWindow(AutoLoad<frmAnimated>& form) {
@@ -68,14 +74,35 @@ WindowSpec progressWindow(AutoLoad<frmAnimated>& form) {
           .anew = true};
 }
 
+WindowSpec previewWindow(frmPreview& form) {
+  return {
+      .face = faces::Preview,
+      .controls = {picture("ImgAnimate", px(16, 16, 64, 64), form.ImgAnimate),
+                   label("lblNothing", px(96, 16, 264, 14), "Nothing is removed. A wash would do:"),
+                   label("lblApplication", px(96, 38, 264, 16), form.lblApplication, Text::Bold),
+                   label("lblCurrent", px(96, 58, 264, 30), form.lblCurrent),
+                   button("cmdStop", px(268, 98, 92, 28), "&Stop", "", on(form, &frmPreview::cmdStop_Click))},
+      .form = [&form] { return &form.form; },
+      .close = on(form, &frmPreview::cmdStop_Click),
+      .escape = on(form, &frmPreview::cmdStop_Click),
+      .anew = true};
+}
+
 WindowSpec reportWindow(frmClean& form) {
   return {.face = faces::Report,
-          .controls = {report("txtResult", px(0, 0, 520, 352), form.txtResult, 0x00C000),
-                       button("cmdCancel", px(420, 362, 92, 28), "&Cancel", "",
-                              on(form, &frmClean::cmdCancel_Click))},
+          .controls = reportControls(form.txtResult, on(form, &frmClean::cmdCancel_Click)),
           .form = [&form] { return &form.form; },
           .close = on(form, &frmClean::CloseBox),
           .escape = on(form, &frmClean::cmdCancel_Click)};
+}
+
+WindowSpec previewReportWindow(frmPreview& form) {
+  const Handler hide = on(form, &frmPreview::cmdCancel_Click);
+  return {.face = faces::PreviewReport,
+          .controls = reportControls(form.txtResult, hide),
+          .form = [&form] { return &form.report; },
+          .close = hide,
+          .escape = hide};
 }
 
 }  // namespace zub::layout

@@ -26,6 +26,7 @@ class frmIECookieKeep;
 class frmMain;
 class frmNSCookieKeep;
 class frmPluginEditor;
+class frmPreview;
 class MessageBox;
 struct OptionButton;
 
@@ -161,6 +162,10 @@ inline constexpr Face Progress{"ZUB - Task Removal Status", 440 * TwipsPerPixel,
                                Border::Fixed, colors::ProgressWindow};
 inline constexpr Face Report{"Log Report", 520 * TwipsPerPixel, 400 * TwipsPerPixel, Border::Fixed,
                              colors::Window};
+inline constexpr Face Preview{"ZUB - Preview", 376 * TwipsPerPixel, 138 * TwipsPerPixel, Border::Fixed,
+                              colors::ProgressWindow};
+inline constexpr Face PreviewReport{"Preview", 520 * TwipsPerPixel, 400 * TwipsPerPixel, Border::Fixed,
+                                    colors::Window};
 inline constexpr Face Editor{"ZUB Plugin Editor", 480 * TwipsPerPixel, 378 * TwipsPerPixel, Border::Fixed,
                              colors::Window};
 inline constexpr Face IECookies{"Internet Explorer Cookie Manger", 420 * TwipsPerPixel, 412 * TwipsPerPixel,
@@ -170,8 +175,8 @@ inline constexpr Face NetscapeCookies{"Netscape Cookie Manger", 420 * TwipsPerPi
 inline constexpr Face About{"About ZUB", 6855, 3345, Border::Dialog, colors::White};
 inline constexpr Face Message{"Zubrone", 5970, 2310, Border::None, colors::Page, "message-background"};
 
-inline constexpr const Face* All[] = {&Main,      &Progress,        &Report, &Editor,
-                                      &IECookies, &NetscapeCookies, &About,  &Message};
+inline constexpr const Face* All[] = {&Main,   &Progress,  &Report,          &Preview, &PreviewReport,
+                                      &Editor, &IECookies, &NetscapeCookies, &About,   &Message};
 }  // namespace faces
 
 struct WindowSpec {
@@ -192,6 +197,8 @@ struct WindowSpec {
 WindowSpec mainWindow(frmMain& form);
 WindowSpec progressWindow(AutoLoad<frmAnimated>& form);
 WindowSpec reportWindow(frmClean& form);
+WindowSpec previewWindow(frmPreview& form);
+WindowSpec previewReportWindow(frmPreview& form);
 WindowSpec editorWindow(frmPluginEditor& form);
 WindowSpec cookieWindow(frmIECookieKeep& form);
 WindowSpec cookieWindow(frmNSCookieKeep& form);
