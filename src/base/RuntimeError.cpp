@@ -1,42 +1,39 @@
 #include "base/RuntimeError.h"
 
+#include <algorithm>
+#include <iterator>
 #include <new>
 #include <utility>
 
 namespace zub {
+namespace {
+
+struct Description {
+  ErrorNumber number;
+  std::string_view text;
+};
+constexpr Description Descriptions[] = {
+    {ErrorNumber::InvalidCall, "Invalid procedure call or argument"},
+    {ErrorNumber::Overflow, "Overflow"},
+    {ErrorNumber::TypeMismatch, "Type mismatch"},
+    {ErrorNumber::BadFileName, "Bad file name or number"},
+    {ErrorNumber::FileNotFound, "File not found"},
+    {ErrorNumber::DeviceIo, "Device I/O error"},
+    {ErrorNumber::DiskFull, "Disk full"},
+    {ErrorNumber::TooManyFiles, "Too many files"},
+    {ErrorNumber::PermissionDenied, "Permission denied"},
+    {ErrorNumber::DiskNotReady, "Disk not ready"},
+    {ErrorNumber::PathFileAccess, "Path/File access error"},
+    {ErrorNumber::PathNotFound, "Path not found"},
+    {ErrorNumber::InvalidPropertyValue, "Invalid property value"},
+    {ErrorNumber::Automation, "Automation error"},
+};
+
+}  // namespace
 
 std::string_view descriptionOf(ErrorNumber number) {
-  switch (number) {
-    case ErrorNumber::InvalidCall:
-      return "Invalid procedure call or argument";
-    case ErrorNumber::Overflow:
-      return "Overflow";
-    case ErrorNumber::TypeMismatch:
-      return "Type mismatch";
-    case ErrorNumber::BadFileName:
-      return "Bad file name or number";
-    case ErrorNumber::FileNotFound:
-      return "File not found";
-    case ErrorNumber::DeviceIo:
-      return "Device I/O error";
-    case ErrorNumber::DiskFull:
-      return "Disk full";
-    case ErrorNumber::TooManyFiles:
-      return "Too many files";
-    case ErrorNumber::PermissionDenied:
-      return "Permission denied";
-    case ErrorNumber::DiskNotReady:
-      return "Disk not ready";
-    case ErrorNumber::PathFileAccess:
-      return "Path/File access error";
-    case ErrorNumber::PathNotFound:
-      return "Path not found";
-    case ErrorNumber::InvalidPropertyValue:
-      return "Invalid property value";
-    case ErrorNumber::Automation:
-      return "Automation error";
-  }
-  return "Application-defined or object-defined error";
+  const auto* row = std::ranges::find(Descriptions, number, &Description::number);
+  return row == std::end(Descriptions) ? "Application-defined or object-defined error" : row->text;
 }
 
 RuntimeError::RuntimeError(ErrorNumber number) : number_(number), description_(descriptionOf(number)) {}

@@ -39,8 +39,8 @@ SystemTime plusDays(const SystemTime& time, int days) {
 }
 
 std::int64_t secondsOf(const SystemTime& time) {
-  return daysFromDate(time.wYear, time.wMonth, time.wDay) * 86400 + time.wHour * 3600 + time.wMinute * 60 +
-         time.wSecond;
+  const std::int64_t hours = daysFromDate(time.wYear, time.wMonth, time.wDay) * 24 + time.wHour;
+  return (hours * 60 + time.wMinute) * 60 + time.wSecond;
 }
 
 SystemTime timeFromSeconds(std::int64_t seconds) {

@@ -1,5 +1,7 @@
 #include "cleaners/CookieRow.h"
 
+#include "platform/Files.h"
+
 namespace zub {
 
 void showRows(const CookieRows& rows, ListRows& shown, ListRows& details) {
@@ -21,14 +23,7 @@ CookieRows rowsOnShow(const ListRows& shown, const ListRows& details) {
 }
 
 bool isMissing(const RuntimeError& failure) {
-  switch (failure.number()) {
-    case ErrorNumber::FileNotFound:
-    case ErrorNumber::PathNotFound:
-    case ErrorNumber::BadFileName:
-      return true;
-    default:
-      return false;
-  }
+  return nothingThere(failure.number()) && failure.number() != ErrorNumber::DiskNotReady;
 }
 
 }  // namespace zub

@@ -67,8 +67,4 @@ void frmIECookieKeep::lstDelete_Click() {
   }
 }
 
-void frmIECookieKeep::chkSelectAll_Click() {
-  lstDelete.selectAll(chkSelectAll.Value() == 1);
-}
-
 }  // namespace zub

@@ -37,7 +37,7 @@ class frmIECookieKeep {
   void cmdRefresh_Click() { LoadCookies(); }
   void cmdOK_Click();  // writes the keep file and closes the window; what cannot be saved leaves it open
   void lstDelete_Click();
-  void chkSelectAll_Click();
+  void chkSelectAll_Click() { lstDelete.selectAll(chkSelectAll.Value() == 1); }
   void Unload() { form.Hide(); }  // closing only hides
 
  private:

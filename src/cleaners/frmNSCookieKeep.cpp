@@ -156,8 +156,4 @@ void frmNSCookieKeep::lstDelete_Click() {
   txtKeep.Text.assign(cookie.name).append(CrLf).append(cookie.value);
 }
 
-void frmNSCookieKeep::chkSelectAll_Click() {
-  lstDelete.selectAll(chkSelectAll.Value() == 1);
-}
-
 }  // namespace zub

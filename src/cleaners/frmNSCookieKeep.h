@@ -56,7 +56,7 @@ class frmNSCookieKeep {
   void cmdOK_Click() { Unload(); }
   void cmbProfile_Click();
   void lstDelete_Click();
-  void chkSelectAll_Click();
+  void chkSelectAll_Click() { lstDelete.selectAll(chkSelectAll.Value() == 1); }
   void Unload() { form.Hide(); }  // closing only hides; the next SaveNS6 keeps the ticks
 
  private:

@@ -72,14 +72,6 @@ void frmAnimated::Timer_Tick() {
   state.ImgAnimate.picture = Imgframes[static_cast<std::size_t>(state.AnimationFrame)];
 }
 
-void frmAnimated::CloseWindowTimer_Tick() {
-  cmdFinish_Click();
-}
-
-void frmAnimated::cmdFinish_Click() {
-  Unload();
-}
-
 void frmAnimated::cmdLog_Click() {
   engine_.clean.form.Show();
 }

@@ -81,8 +81,8 @@ class frmAnimated {
   void RemoveEntries(int kind);
 
   void Timer_Tick();
-  void CloseWindowTimer_Tick();
-  void cmdFinish_Click();
+  void CloseWindowTimer_Tick() { cmdFinish_Click(); }
+  void cmdFinish_Click() { Unload(); }
   void cmdLog_Click();
   // Ends the wash as a state: gives control back to the main window and, with chkCloseAfterWash, ends the process.
   void Unload();

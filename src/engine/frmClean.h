@@ -35,8 +35,7 @@ class frmClean {
   void AddItem(std::string text);
 
   void cmdCancel_Click() { form.Hide(); }
-  void
-  CloseBox();  // hides the window, as the close box is not to lose the report, and enables the main window
+  void CloseBox();  // hides the window, so that the report is not lost, and enables the main window
 
  private:
   void runPlugins(Task task, const class ListRows& rows, const std::function<void(const std::string&)>& run);

@@ -13,17 +13,9 @@ using Base = Action::Base;
 using Verdict = Meaning::Verdict;
 
 std::string baseOf(Engine& engine, const Action& action, const std::string& appData) {
-  switch (action.base) {
-    case Base::None:
-      break;
-    case Base::AppData:
-      return appData;
-    case Base::Windows:
-      return std::string(StripAtNull(engine.pc.folders->windows()));
-    case Base::Registry:
-      return engine.registryHelper.TraceValue(action.trace);
-  }
-  return {};
+  if (action.base == Base::AppData) return appData;
+  if (action.base == Base::Windows) return std::string(StripAtNull(engine.pc.folders->windows()));
+  return action.base == Base::Registry ? engine.registryHelper.TraceValue(action.trace) : std::string();
 }
 
 std::string pathOf(const Action& action, const std::string& base) {

@@ -126,22 +126,6 @@ void frmPluginEditor::cmdAddFF_Click() {
                   state.optFilePattern.Value, state.chkSubfolders.Value() == 1}));
 }
 
-void frmPluginEditor::cmdRegNew_Click() {
-  newRow(state.lstRegistry);
-}
-
-void frmPluginEditor::cmdFFNew_Click() {
-  newRow(state.lstFileFolder);
-}
-
-void frmPluginEditor::cmdRegRemove_Click() {
-  removeRow(state.lstRegistry);
-}
-
-void frmPluginEditor::cmdFFRemove_Click() {
-  removeRow(state.lstFileFolder);
-}
-
 void frmPluginEditor::cmdPathBrowse_Click() {
   CFolderBrowse picker(*engine_.pc.shell);
   picker.Prompt("Find the Folder");

@@ -76,11 +76,11 @@ class frmPluginEditor {
   void cmdCancel_Click() { Unload(); }  // so does the close box
 
   void cmdRegistryAdd_Click();
-  void cmdRegNew_Click();
-  void cmdRegRemove_Click();
+  void cmdRegNew_Click() { newRow(state.lstRegistry); }
+  void cmdRegRemove_Click() { removeRow(state.lstRegistry); }
   void cmdAddFF_Click();
-  void cmdFFNew_Click();
-  void cmdFFRemove_Click();
+  void cmdFFNew_Click() { newRow(state.lstFileFolder); }
+  void cmdFFRemove_Click() { removeRow(state.lstFileFolder); }
   void cmdPathBrowse_Click();
   void optFileName_Click();
   void optFilePattern_Click();

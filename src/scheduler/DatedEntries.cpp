@@ -32,7 +32,7 @@ void DatedEntries::InitSchedulerTab() {
 
 void DatedEntries::FillScheduleList() {
   lstSchedule.Clear();
-  for (const std::string& line : triggerLines(openDatedTask(pc_))) lstSchedule.AddItem(line);
+  for (const std::string& line : openDatedTask(pc_).triggers().texts()) lstSchedule.AddItem(line);
 }
 
 std::optional<SystemTime> DatedEntries::ParseDateField(const TextBox& box, std::string_view message) {

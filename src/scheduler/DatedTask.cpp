@@ -6,7 +6,6 @@ namespace zub {
 namespace {
 
 constexpr int SingleRun = 0;
-constexpr int SaveNow = 0;
 
 std::string withoutExtension(const std::string& file) {
   return file.substr(0, file.rfind('.'));
@@ -15,8 +14,7 @@ std::string withoutExtension(const std::string& file) {
 // As the system lists them now; null where it has none of this name.
 ScheduleTask* findDatedTask(const Platform& pc) {
   pc.tasks->refresh();
-  const int count = pc.tasks->count();
-  for (int position = 1; position <= count; ++position) {
+  for (int position = 1; position <= pc.tasks->count(); ++position) {
     ScheduleTask& task = pc.tasks->at(position);
     if (task.name() == DatedTaskName) return &task;
   }
@@ -36,37 +34,26 @@ ScheduleTask& openDatedTask(const Platform& pc) {
   ScheduleTask& made = pc.tasks->add(DatedTaskName);
   made.application(path);
   made.comment("Zubrane");
-  made.save(SaveNow);
+  made.save();
   return made;
-}
-
-std::vector<std::string> triggerLines(ScheduleTask& task) {
-  std::vector<std::string> lines;
-  ScheduleTriggers& triggers = task.triggers();
-  const int count = triggers.count();
-  for (int position = 1; position <= count; ++position) lines.push_back(triggers.at(position)->text());
-  return lines;
 }
 
 std::vector<std::string> datedWashes(const Platform& pc) {
   ScheduleTask* task = findDatedTask(pc);
-  return task == nullptr ? std::vector<std::string>{} : triggerLines(*task);
+  return task == nullptr ? std::vector<std::string>{} : task->triggers().texts();
 }
 
 void addDatedWash(const Platform& pc, const SystemTime& date, const SystemTime& time) {
   ScheduleTask& task = openDatedTask(pc);
-  const auto trigger = task.triggers().add();
-  trigger->type(SingleRun);
-  trigger->beginDate(date);
-  trigger->startTime(time);
-  task.save(SaveNow);
+  task.triggers().add(
+      {SingleRun, {date.wYear, date.wMonth, date.wDayOfWeek, date.wDay, time.wHour, time.wMinute, 0, 0}});
+  task.save();
 }
 
 void removeDatedWash(const Platform& pc, int position) {
   ScheduleTask& task = openDatedTask(pc);
   task.triggers().remove(position);
-  task.triggers().update();
-  task.save(SaveNow);
+  task.save();
 }
 
 }  // namespace zub

@@ -17,9 +17,7 @@ inline constexpr std::string_view DatedTaskName = "ZUB";
 // next save on.
 ScheduleTask& openDatedTask(const Platform& pc);
 
-// The triggers as lines, in their order.
-std::vector<std::string> triggerLines(ScheduleTask& task);
-// Those of the program's task. Changes nothing: without the task there are none.
+// The triggers of the program's task as lines, in their order. Changes nothing: without the task there are none.
 std::vector<std::string> datedWashes(const Platform& pc);
 
 // Of `date` the day counts, of `time` hour and minute.

@@ -40,12 +40,4 @@ void frmIcon::doubleClick() {
   if (TopFormNumber == MainWindow || TopFormNumber == ProgressWindow) TopForm().Show();
 }
 
-void frmIcon::mnuRemove_Click() {
-  if (TopFormNumber == MainWindow) Press_Clean();
-}
-
-void frmIcon::mnuExit_Click() {
-  unloadMain();
-}
-
 }  // namespace zub

@@ -46,8 +46,10 @@ class frmIcon {
 
   void IconMessage(int number);
   void mnuShow_Click();
-  void mnuRemove_Click();
-  void mnuExit_Click();
+  void mnuRemove_Click() {
+    if (TopFormNumber == MainWindow) Press_Clean();
+  }
+  void mnuExit_Click() { unloadMain(); }
 
  private:
   void doubleClick();

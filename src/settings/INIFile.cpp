@@ -34,7 +34,7 @@ int INIFile::PutInfo() {
   PutText("ZUBPath", pc_.folders->programFolder());
   PutText("lblLastRemoval", options_.lblLastRemoval.Caption);
   for (int row = 0; row < IconChecks::Count; ++row) {
-    PutBool(iconNames[static_cast<std::size_t>(row)], options_.LstIcons.Check(row));
+    PutBool(iconNames[static_cast<std::size_t>(row)].stored, options_.LstIcons.Check(row));
   }
   for (const FlagName& flag : flagNames) PutBool(flag.stored, (options_.*flag.option).Value());
   for (const DigitName& digit : digitNames) PutNumber(digit.stored, (options_.*digit.combo).ListIndex());
@@ -48,7 +48,7 @@ int INIFile::GetInfo() {
   if (!openKey(key)) return -1;
   options_.lblLastRemoval.Caption = GetText("lblLastRemoval");
   for (const int row : iconReadOrder) {
-    options_.LstIcons.Check(row, GetBool(iconNames[static_cast<std::size_t>(row)]));
+    options_.LstIcons.Check(row, GetBool(iconNames[static_cast<std::size_t>(row)].stored));
   }
   for (const FlagName& flag : flagNames) (options_.*flag.option).Value(GetBool(flag.stored));
   for (const DigitName& digit : digitNames) {

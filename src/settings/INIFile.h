@@ -21,42 +21,64 @@ namespace zub {
 
 inline constexpr std::string_view storeKey = "Software\\ZUB";
 
-// The fixed flags by their stored names, which differ from their controls' names in three places.
+// All settings but the plugins' ticks: the stored name, the control, and what it does, in a line for the console; the
+// windows have texts of their own. The fixed flags' names differ from their controls' in three places.
 struct FlagName {
   std::string_view stored;
   CheckOption Options::*option;
+  std::string_view meaning;
 };
 inline constexpr std::array flagNames{
-    FlagName{"chkIECache", &Options::chkIECache},
-    FlagName{"chkIECookies", &Options::chkIECookies},
-    FlagName{"chkIEPrograms", &Options::chkIEProgram},
-    FlagName{"chkIEIndex", &Options::chkIEIndex},
-    FlagName{"chkIEAutocomplete", &Options::chkIEAutocomplete},
-    FlagName{"chkNSCache", &Options::chkNSCache},
-    FlagName{"chkNSCookie", &Options::chkNSCookies},
-    FlagName{"chkNSMail", &Options::chkNSMail},
-    FlagName{"chkNSHistory", &Options::chkNSHistory},
-    FlagName{"chkLoadStartup", &Options::chkLoadStartUp},
-    FlagName{"chkCloseAfterWash", &Options::chkCloseAfterWash},
-    FlagName{"chkBleach", &Options::chkBleach},
-    FlagName{"chkSkipPlugins", &Options::chkSkipPlugins},
-    FlagName{"chkSkipMessages", &Options::chkSkipMessages},
-    FlagName{"chkRunStarted", &Options::chkRunStarted},
-    FlagName{"chkRunShutDown", &Options::chkRunShutDown},
-    FlagName{"chkRunAuto", &Options::chkRunAuto},
+    FlagName{"chkIECache", &Options::chkIECache, "Internet Explorer: the cache"},
+    FlagName{"chkIECookies", &Options::chkIECookies, "Internet Explorer: the cookies that are not kept"},
+    FlagName{"chkIEPrograms", &Options::chkIEProgram, "Internet Explorer: downloaded programs"},
+    FlagName{"chkIEIndex", &Options::chkIEIndex, "Internet Explorer: history and typed addresses"},
+    FlagName{"chkIEAutocomplete", &Options::chkIEAutocomplete,
+             "Internet Explorer: what was typed into forms"},
+    FlagName{"chkNSCache", &Options::chkNSCache, "Netscape: the cache"},
+    FlagName{"chkNSCookie", &Options::chkNSCookies, "Netscape: the cookies that are not kept"},
+    FlagName{"chkNSMail", &Options::chkNSMail, "Netscape: the trash of the mail"},
+    FlagName{"chkNSHistory", &Options::chkNSHistory, "Netscape: the history"},
+    FlagName{"chkLoadStartup", &Options::chkLoadStartUp, "start in the tray with Windows"},
+    FlagName{"chkCloseAfterWash", &Options::chkCloseAfterWash, "end the program after a wash"},
+    FlagName{"chkBleach", &Options::chkBleach, "overwrite files before they are removed"},
+    FlagName{"chkSkipPlugins", &Options::chkSkipPlugins, "leave all plugins out"},
+    FlagName{"chkSkipMessages", &Options::chkSkipMessages, "show a message for each error"},
+    FlagName{"chkRunStarted", &Options::chkRunStarted,
+             "wash when the program starts with Windows; sets chkLoadStartup, too"},
+    FlagName{"chkRunShutDown", &Options::chkRunShutDown, "wash at the end of the session"},
+    FlagName{"chkRunAuto", &Options::chkRunAuto, "wash at the interval, while the program runs"},
 };
 
 // The flags of the icon list by row.
-inline constexpr std::array<std::string_view, IconChecks::Count> iconNames{
-    "chkIE",       "chkWMP",        "chkOfficeMRU",  "chkRecycleBin", "chkScanDisk",
-    "chkNetscape", "chkRunHistory", "chkDocHistory", "chkTempFolder", "chkFindHistory"};
+struct IconName {
+  std::string_view stored;
+  std::string_view meaning;
+};
+inline constexpr std::array<IconName, IconChecks::Count> iconNames{{
+    {"chkIE", "task: Internet Explorer, as the five chkIE... below say"},
+    {"chkWMP", "task: the lists of the media player"},
+    {"chkOfficeMRU", "task: the lists of recent Office documents"},
+    {"chkRecycleBin", "task: the recycle bins of all drives"},
+    {"chkScanDisk", "task: the files of the disk checker"},
+    {"chkNetscape", "task: Netscape, as the four chkNS... below say"},
+    {"chkRunHistory", "task: the list of the Run command"},
+    {"chkDocHistory", "task: the list of recent documents"},
+    {"chkTempFolder", "task: the temporary folder"},
+    {"chkFindHistory", "task: the lists of the search"},
+}};
 
 struct DigitName {
   std::string_view stored;
   Combo Options::*combo;
+  std::string_view meaning;
 };
-inline constexpr std::array digitNames{DigitName{"cmbShredder", &Options::cmbShredder},
-                                       DigitName{"ComboInterval", &Options::ComboInterval}};
+inline constexpr std::array digitNames{
+    DigitName{"cmbShredder", &Options::cmbShredder,
+              "how often files are overwritten, as it is stored: one less than passes"},
+    DigitName{"ComboInterval", &Options::ComboInterval,
+              "the interval: 0 an hour, 1 half an hour, 2 a quarter"},
+};
 
 inline constexpr std::string_view customPluginPrefix = "ZUBPlugin ";
 inline constexpr std::string_view standardPluginPrefix = "ZUBStandardPlugin ";

@@ -41,7 +41,6 @@ inline constexpr Color Black = 0;
 inline constexpr Color White = rgb(255, 255, 255);
 inline constexpr Color Green = 0x8000;  // a task that runs or has run
 inline constexpr Color SystemHighlight = 0x8000000D;
-inline constexpr Color WindowText = 0x80000008;
 inline constexpr Color DisabledText = rgb(161, 161, 146);
 inline constexpr Color Hint = rgb(85, 83, 74);  // an example beside a box
 inline constexpr Color DisabledBack = rgb(235, 235, 228);

@@ -23,8 +23,8 @@ class ListRows {
   // A sorted list (compared by bytes without regard to ASCII case) finds the place itself and ignores
   // `index`; -1 adds at the end. Adding keeps the current row on its text.
   void AddItem(std::string_view text, int index = -1);
-  void RemoveItem(
-      int index);  // RuntimeError 5 where there is no such row; the current row becomes -1 if it goes
+  // RuntimeError 5 where there is no such row; the current row becomes -1 if it goes.
+  void RemoveItem(int index);
   void Clear();
 
   bool Selected(int index) const;

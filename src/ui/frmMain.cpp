@@ -15,9 +15,8 @@ constexpr std::string_view pluginPage = ZUB_PLUGIN_PAGE;  // a setting of the bu
 
 constexpr std::string_view allSelectedWarning =
     "All plugins are selected. Some remove more than lists of recent names: Outlook Express loses ALL its "
-    "mail "
-    "folders and news groups. Click on a plugin to see what it cleans, and take away those that you do not "
-    "want.";
+    "mail folders and news groups. Click on a plugin to see what it cleans, and take away those that you do "
+    "not want.";
 
 void selectAllAs(const CheckOption& control, ListRows& rows) {
   if (control.Value() == 0 || control.Value() == 1) rows.selectAll(control.Value() == 1);
@@ -77,15 +76,8 @@ void frmMain::wireOptions() {
 }
 
 Label& frmMain::helpLabel(HelpLabel which) {
-  switch (which) {
-    case HelpLabel::Options:
-      return lblOptionsHelp;
-    case HelpLabel::Scheduler:
-      return lblSchedulerHelp;
-    case HelpLabel::Main:
-      break;
-  }
-  return lblHelp;
+  if (which == HelpLabel::Options) return lblOptionsHelp;
+  return which == HelpLabel::Scheduler ? lblSchedulerHelp : lblHelp;
 }
 
 void frmMain::writeStartupEntry() {

@@ -133,6 +133,27 @@ std::string kindOfRemoval(int kind) {
   return kinds[kind];
 }
 
+// The numbers of the labels that are lit, with "!" where in bold, and of the marks that tell what is done.
+std::string boardOf(const frmAnimated::State& shown) {
+  const std::pair<int, const Label*> labels[] = {
+      {1, &shown.Label1}, {2, &shown.Label2},   {3, &shown.Label3},   {4, &shown.Label4},
+      {5, &shown.Label5}, {6, &shown.Label6},   {7, &shown.Label7},   {8, &shown.Label8},
+      {9, &shown.Label9}, {10, &shown.Label10}, {11, &shown.Label11}, {14, &shown.Label14}};
+  const std::pair<int, const Image*> marks[] = {
+      {3, &shown.Image3},   {4, &shown.Image4},   {5, &shown.Image5},   {6, &shown.Image6},
+      {7, &shown.Image7},   {8, &shown.Image8},   {9, &shown.Image9},   {10, &shown.Image10},
+      {11, &shown.Image11}, {12, &shown.Image12}, {13, &shown.Image13}, {14, &shown.Image14}};
+  std::string text = ", lit";
+  for (const auto& [number, label] : labels) {
+    if (label->ForeColor == colors::Green) text += " " + std::to_string(number) + (label->Bold ? "!" : "");
+  }
+  text += ", done";
+  for (const auto& [number, mark] : marks) {
+    if (mark->picture == Picture::DoneMark) text += " " + std::to_string(number);
+  }
+  return text;
+}
+
 // Each call to the PC, and what report and progress window have come to before it.
 struct CallTrace {
   explicit CallTrace(WholePc& washed) : pc(washed) {
@@ -154,10 +175,10 @@ struct CallTrace {
       tell("|" + news.substr(0, news.find('\n')) + "\n");
 
     const frmAnimated::State& shown = pc.progress().peek().state;
-    std::string now =
-        "= " + shown.lblApplication.Caption + ", removing " + kindOfRemoval(shown.RemoveEntries);
-    now += shown.Timer.Enabled ? ", moving, " : ", still, ";
-    now += shown.lblCompleted.Caption + " done\n";
+    const std::string now = "= " + shown.lblApplication.Caption + " (" + shown.StatusBar1[0] +
+                            "), removing " + kindOfRemoval(shown.RemoveEntries) +
+                            (shown.Timer.Enabled ? ", moving" : ", still") + boardOf(shown) + ", " +
+                            shown.StatusBar1[1] + "\n";
     if (now != window) tell(now);
     window = now;
   }

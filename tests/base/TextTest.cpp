@@ -19,10 +19,15 @@ TEST_CASE("texts are cut at blanks, at their NUL, at their last backslash and be
   CHECK(withoutLastPathPart("C:\\a\\b.txt") == "C:\\a");
   CHECK(withoutLastPathPart("b.txt") == "");
   CHECK(leadingNumber("99999999999") == 2147483647);
+  std::string_view lines = "a\r\nb";
+  CHECK(takeLine(lines) == "a");
+  CHECK(takeLine(lines) == "b");
+  CHECK(lines == "");
 }
 
 TEST_CASE("days go over the ends of months and years") {
   CHECK(plusDays({2023, 12, 0, 31, 23, 59, 58, 0}, 1) == SystemTime{2024, 1, 1, 1, 23, 59, 58, 0});
+  CHECK(dateFromDays(3) == SystemTime{1970, 1, 0, 4, 0, 0, 0, 0});  // a Sunday
   CHECK(daysInMonth(2024, 2) == 29);
   CHECK(daysInMonth(1900, 2) == 28);
   for (std::int64_t day = -200000; day < 200000; day += 97) {

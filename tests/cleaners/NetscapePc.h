@@ -32,14 +32,7 @@ struct NetscapePc : CleanerPc {
   }
   std::string kept(const std::string& profile) const { return pc.bytes(profile + "\\ZUBKeepNS6.inf"); }
   std::string cookies(const std::string& profile) const { return pc.bytes(profile + "\\Cookies.txt"); }
-  // The marks of the rows, "*" for a ticked one.
-  std::string ticks() const {
-    std::string marks;
-    for (int row = 0; row < keep.lstDelete.ListCount(); ++row) {
-      marks += keep.lstDelete.Selected(row) ? '*' : '-';
-    }
-    return marks;
-  }
+  std::string ticks() const { return ticksOf(keep.lstDelete); }
 };
 
 }  // namespace zub

@@ -47,7 +47,6 @@ run() {
 }
 # Lines of standard output, and parts of standard error.
 says() { grep -Fxq -e "$1" "$work/out" || { fail "does not say: $1"; head -20 "$work/out"; }; }
-hides() { ! grep -Fq -e "$1" "$work/out" || fail "says: $1"; }
 tells() { grep -Fq -e "$1" "$work/err" || { fail "does not tell: $1"; head -5 "$work/err"; }; }
 silent() { [ ! -s "$work/$1" ] || { fail "something is on std$1"; head -5 "$work/$1"; }; }
 # refused TEXT WORD...: wrong usage or an unusable PC, told with this text, and nothing else said.

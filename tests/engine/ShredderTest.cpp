@@ -76,13 +76,3 @@ TEST_CASE("a shredded file goes, read-only too, and its bytes count once") {
   CHECK(pc.engine.TotalBytes == 5000);
   CHECK(pc.takeReport() == "\tShredding file f.dat\r\n");
 }
-
-TEST_CASE("the end of the process passes through the error paths of a removal") {
-  Shredding pc;
-  pc.pc.file(path, std::string(8192, 'A'));
-  pc.pc.onDoEvents = [](int turn) {
-    if (turn == 3) throw EndOfProcess{};
-  };
-  CHECK_THROWS_AS(pc.engine.deleter->DeleteFile(path, 0), EndOfProcess);
-  CHECK(pc.pc.bytes(path) == std::string(3072, '\0') + std::string(5120, 'A'));
-}

@@ -27,51 +27,14 @@ struct RecordedWash : WashFixture {
 
 }  // namespace
 
-TEST_CASE("each row of the icon list switches its own task, which shows itself on the board") {
-  using State = frmAnimated::State;
-  struct {
-    int iconRow;
-    const char* status;
-    const char* heading;  // "ZUB has cleaned ..., with the following results:"
-    Label State::*label;
-    Image State::*image;
-  } const rows[] = {
-      {7, "Document History", "the document history", &State::Label1, &State::Image3},
-      {9, "Search/Find History", "the Find history", &State::Label2, &State::Image4},
-      {6, "Run History", "the Run MRU", &State::Label3, &State::Image5},
-      {8, "Temporary Folder", "the TEMP folder", &State::Label4, &State::Image6},
-      {4, "Scandisk logs", "the SCANDISK files", &State::Label9, &State::Image11},
-      {3, "Recycle bin", "the recycle bin", &State::Label5, &State::Image7},
-      {2, "MS Office - MRU", "the Office MRU", &State::Label6, &State::Image8},
-      {1, "Windows Media Player - MRU", "the Windows Media Player MRU", &State::Label10, &State::Image12},
-      {5, "Netscape", "Netscape files ans registry entries", &State::Label7, &State::Image9},
-      {0, "Internet Explorer", "IE files and registry entries", &State::Label8, &State::Image10},
-  };
-  std::size_t task = 0;
-  for (const auto& row : rows) {
-    CAPTURE(row.status);
+TEST_CASE("each row of the icon list switches its own task") {
+  const int rows[] = {7, 9, 6, 8, 4, 3, 2, 1, 5, 0};  // by the order of the tasks
+  for (std::size_t task = 0; task < std::size(rows); ++task) {
+    CAPTURE(task);
     RecordedWash pc;
-    const State& shown = pc.progress();
-    pc.engine.clean.cleaners.builtIn[task] = [&] {
-      clean(pc.engine, static_cast<Task>(task), [&] {
-        CHECK((shown.*row.label).Bold);
-        CHECK((shown.*row.label).ForeColor == 0x8000);
-        CHECK((shown.*row.image).picture == Picture::OpenMark);
-        CHECK(shown.lblApplication.Caption == row.status);
-        CHECK(shown.StatusBar1[0] == row.status);
-        CHECK(pc.takeReport().ends_with(std::string("\r\n\r\nZUB has cleaned ") + row.heading +
-                                        ", with the following results:\r\n"));
-        CHECK(shown.StatusBar1[1] == "Number of tasks competed: 0");
-      });
-    };
-    pc.options.LstIcons.Check(row.iconRow, 1);
-    CHECK(pc.wash().empty());
-    CHECK((shown.*row.image).picture == Picture::DoneMark);
-    CHECK_FALSE((shown.*row.label).Bold);
-    CHECK((shown.*row.label).ForeColor == 0x8000);
-    CHECK(shown.lblCompleted.Caption == "1");
-    CHECK(shown.StatusBar1[1] == "Number of tasks competed: 1");
-    ++task;
+    pc.engine.clean.cleaners.builtIn[task] = [&] { pc.ran += "it "; };
+    pc.options.LstIcons.Check(rows[task], 1);
+    CHECK(pc.wash() == "it ");
   }
 }
 
@@ -82,12 +45,6 @@ TEST_CASE("the selected plugins run from first to last, and only where they are 
   pc.options.standardlist.selectAll(true);
   CHECK(pc.wash() == "custom B custom C standard X standard Y ");
   CHECK(pc.progress().lblTasksTotal.Caption == "2");  // standard plugins do not count
-  for (Label frmAnimated::State::*label : {&frmAnimated::State::Label11, &frmAnimated::State::Label14}) {
-    CHECK((pc.progress().*label).ForeColor == 0x8000);
-    CHECK_FALSE((pc.progress().*label).Bold);
-  }
-  CHECK(pc.progress().Image13.picture == Picture::DoneMark);
-  CHECK(pc.progress().Image14.picture == Picture::DoneMark);
 
   pc.options.chkSkipPlugins.Value(1);
   CHECK(pc.wash().empty());

@@ -30,19 +30,12 @@ struct KeepPc : WashFixture {
   }
   std::string ieTicks() {
     ie.LoadCookies();
-    return ticks(ie.lstDelete);
+    return ticksOf(ie.lstDelete);
   }
   std::string netscapeTicks() {
     netscape.chkSelectAll.Value(0);
     netscape.SelectNS6(Profile);
-    return ticks(netscape.lstDelete);
-  }
-
- private:
-  static std::string ticks(const ListRows& rows) {
-    std::string marks;
-    for (int row = 0; row < rows.ListCount(); ++row) marks += rows.Selected(row) ? '*' : '-';
-    return marks;
+    return ticksOf(netscape.lstDelete);
   }
 };
 

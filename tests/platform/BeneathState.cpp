@@ -34,8 +34,7 @@ BeneathState::Entries BeneathState::look() const {
   for (int position = 1; position <= pc_.tasks->count(); ++position) {
     ScheduleTask& task = pc_.tasks->at(position);
     std::string& triggers = entries["task " + task.name()];
-    for (int trigger = 1; trigger <= task.triggers().count(); ++trigger)
-      triggers += task.triggers().at(trigger)->text() + CrLf.data();
+    for (const std::string& text : task.triggers().texts()) triggers += text + CrLf.data();
   }
   return entries;
 }

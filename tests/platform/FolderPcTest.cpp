@@ -207,7 +207,7 @@ TEST_CASE("what a killed save has left goes, and of several texts each is tried"
   for (const char* name : {"registry.reg", "tasks.txt"}) {
     REQUIRE(folder.dir().makeDir(name) == HostError::None);  // cannot be replaced by a file
   }
-  CHECK(failure([&] { pc.tasks.add("ZUB").save(0); }) == 440);
+  CHECK(failure([&] { pc.tasks.add("ZUB").save(); }) == 440);
   std::string told;
   try {
     pc.save();
@@ -221,7 +221,7 @@ TEST_CASE("what a killed save has left goes, and of several texts each is tried"
   CHECK(folder.names() == "C pc.txt registry.reg registry.reg.x.new tasks.txt ");
   REQUIRE(folder.dir().removeDir("registry.reg") == HostError::None);
   REQUIRE(folder.dir().removeDir("tasks.txt") == HostError::None);
-  pc.tasks.add("ZUB").save(0);
+  pc.tasks.add("ZUB").save();
   pc.save();
   CHECK(contains(folder.registry(), "\"v\"=hex:31"));
 }
@@ -390,23 +390,19 @@ TEST_CASE("tasks last from their save on") {
     FolderPc pc(folder.path());
     ScheduleTask& task = pc.tasks.add("ZUB");
     task.parameters(" /SCHEDULER");
-    const auto trigger = task.triggers().add();
-    trigger->type(0);
-    trigger->beginDate({2001, 9, 3, 5, 1, 1, 1, 0});
-    trigger->startTime({1899, 12, 6, 30, 14, 20, 0, 0});
-    task.save(0);
+    task.triggers().add({0, {2001, 9, 3, 5, 14, 20, 1, 0}});
+    task.save();
     task.triggers().remove(1);
     pc.tasks.add("never saved");
   }
-  other.tasks.add("Other").save(0);  // keeps what was saved meanwhile
+  other.tasks.add("Other").save();  // keeps what was saved meanwhile
   FolderPc pc(folder.path());
   REQUIRE(pc.tasks.count() == 2);
   ScheduleTask& task = pc.tasks.at(1);
-  REQUIRE(task.triggers().count() == 1);
-  CHECK(task.triggers().at(1)->text() == "At 2:20 PM on 9/5/2001");
+  CHECK(task.triggers().texts() == std::vector<std::string>{"At 2:20 PM on 9/5/2001"});
   CHECK(contains(folder.text("tasks.txt"), "task = ZUB\napplication = \nparameters =  /SCHEDULER\n"));
   task.comment("two\nlines");
-  CHECK(failure([&] { task.save(0); }) == 440);
+  CHECK(failure([&] { task.save(); }) == 440);
 
   for (const char* text :
        {"nothing\n", "comment = before a task\n", "task =\n", "task = a\ntask = a\n",

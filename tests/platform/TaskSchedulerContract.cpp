@@ -29,13 +29,6 @@ struct Scheduled {
   std::string name;
 };
 
-void addTrigger(ScheduleTask& task, const SystemTime& time) {
-  const auto trigger = task.triggers().add();
-  trigger->type(0);
-  trigger->beginDate(time);
-  trigger->startTime(time);
-}
-
 }  // namespace
 
 TEST_CASE_TEMPLATE("tasks: what was saved is there after a refresh, what was not is not", Pc, CONTRACT_PCS) {
@@ -47,14 +40,14 @@ TEST_CASE_TEMPLATE("tasks: what was saved is there after a refresh, what was not
   CHECK(mine.tasks.count() == before + 1);
   CHECK(mine.position() == before + 1);  // a new task is the last
   made.application("C:\\Program Files\\Zubrane\\zub");
-  made.save(0);
-  const int none = pc.deviates("no triggers") ? 1 : 0;
+  made.save();
+  const std::size_t none = pc.deviates("no triggers") ? 1 : 0;
   ScheduleTask& task = mine.refreshed();
   CHECK(mine.tasks.count() == before + 1);
-  CHECK(task.triggers().count() == none);
-  addTrigger(task, {2031, 9, 5, 5, 14, 20, 0, 0});
-  CHECK(task.triggers().count() == none + 1);
-  CHECK(mine.refreshed().triggers().count() == none);
+  CHECK(task.triggers().texts().size() == none);
+  task.triggers().add({0, {2031, 9, 5, 5, 14, 20, 0, 0}});
+  CHECK(task.triggers().texts().size() == none + 1);
+  CHECK(mine.refreshed().triggers().texts().size() == none);
 }
 
 TEST_CASE_TEMPLATE("tasks: triggers are told in their order and removed by position", Pc, CONTRACT_PCS) {
@@ -64,24 +57,20 @@ TEST_CASE_TEMPLATE("tasks: triggers are told in their order and removed by posit
       third{2032, 2, 0, 29, 23, 59, 0, 0};
   ScheduleTask& made = mine.tasks.add(pc.task());
   made.application("C:\\Program Files\\Zubrane\\zub");
-  for (const SystemTime& time : {first, second, third}) addTrigger(made, time);
-  made.save(0);
+  for (const SystemTime& time : {first, second, third}) made.triggers().add({0, time});
+  made.save();
   const auto tells = [&](ScheduleTriggers& triggers, const std::vector<SystemTime>& times) {
-    REQUIRE(triggers.count() == static_cast<int>(times.size()));
-    for (int position = 1; position <= triggers.count(); ++position)
-      CHECK(contains(triggers.at(position)->text(),
-                     pc.platform().clock->dateText(times[static_cast<std::size_t>(position) - 1])));
+    const std::vector<std::string> texts = triggers.texts();
+    REQUIRE(texts.size() == times.size());
+    for (std::size_t i = 0; i < texts.size(); ++i)
+      CHECK(contains(texts[i], pc.platform().clock->dateText(times[i])));
   };
   ScheduleTask& task = mine.refreshed();
   ScheduleTriggers& triggers = task.triggers();
   tells(triggers, {first, second, third});
-  for (const int nowhere : {0, -1, 4}) {
-    CHECK(failure([&] { triggers.at(nowhere); }) == 5);
-    CHECK(failure([&] { triggers.remove(nowhere); }) == 5);
-  }
+  for (const int nowhere : {0, -1, 4}) CHECK(failure([&] { triggers.remove(nowhere); }) == 5);
   triggers.remove(2);
-  triggers.update();
-  task.save(0);
+  task.save();
   tells(mine.refreshed().triggers(), {first, third});
   CHECK(failure([&] { mine.tasks.at(0); }) == 5);
   CHECK(failure([&] { mine.tasks.at(mine.tasks.count() + 1); }) == 5);

@@ -24,14 +24,14 @@ bool underWine() {
 // Where Wine keeps a file.
 std::string hostPath(const std::string& path) {
   const auto call = loadedCall<char*(CDECL*)(LPCWSTR)>("kernel32.dll", "wine_get_unix_file_name");
-  char* text = call(wide(path).c_str());
+  char* text = call(wideFromAnsi(path).c_str());
   const std::string result = text;
   HeapFree(GetProcessHeap(), 0, text);
   return result;
 }
 
 std::wstring widePath(const std::string& folder, std::u16string_view name) {
-  return L"\\\\?\\" + wide(folder) + L'\\' + std::wstring(name.begin(), name.end());
+  return L"\\\\?\\" + wideFromAnsi(folder) + L'\\' + std::wstring(name.begin(), name.end());
 }
 
 bool isLinkAt(const std::string& path) {
@@ -73,11 +73,11 @@ void Win32ContractPc::clean() {
   } catch (const RuntimeError& error) {
     MESSAGE("the scratch folder stays: " << error.description());
   }
-  SHDeleteKeyW(HKEY_CURRENT_USER, zub::wide(key()).c_str());
+  SHDeleteKeyW(HKEY_CURRENT_USER, wideFromAnsi(key()).c_str());
   ComPointer<ITaskScheduler> service;
   if (SUCCEEDED(CoCreateInstance(CLSID_CTaskScheduler, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskScheduler,
                                  service.outVoid())))
-    service->Delete(zub::wide(task()).c_str());
+    service->Delete(wideFromAnsi(task()).c_str());
 }
 
 void Win32ContractPc::file(const std::string& path, std::string_view bytes) {
@@ -152,7 +152,7 @@ bool Win32ContractPc::hasWide(std::u16string_view name) const {
 
 void Win32ContractPc::wideKey(std::u16string_view name) {
   HKEY opened = nullptr;
-  const std::wstring path = zub::wide(key()) + L'\\' + std::wstring(name.begin(), name.end());
+  const std::wstring path = wideFromAnsi(key()) + L'\\' + std::wstring(name.begin(), name.end());
   REQUIRE(RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &opened,
                           nullptr) == ERROR_SUCCESS);
   RegCloseKey(opened);

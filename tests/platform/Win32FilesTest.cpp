@@ -81,7 +81,7 @@ TEST_CASE("a folder that the registry names in another alphabet is found, and it
   if (!isNt(pc)) return;
   Registry& registry = *pc.platform().registry;
   pc.wide(u"\u0101\u8868", true);
-  const std::wstring path = wide(pc.folder()) + L"\\\u0101\u8868";
+  const std::wstring path = wideFromAnsi(pc.folder()) + L"\\\u0101\u8868";
   const auto size = static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t));
   OpenKey key(registry);
   REQUIRE(key.create(Hive::CurrentUser, pc.key(), access::All) == status::Success);

@@ -28,7 +28,7 @@ std::wstring stored(const std::string& name, bool withAccount) {
   REQUIRE(SUCCEEDED(CoCreateInstance(CLSID_CTaskScheduler, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskScheduler,
                                      service.outVoid())));
   ComPointer<ITask> task;
-  REQUIRE(SUCCEEDED(service->Activate(wide(name).c_str(), IID_ITask, task.outUnknown())));
+  REQUIRE(SUCCEEDED(service->Activate(wideFromAnsi(name).c_str(), IID_ITask, task.outUnknown())));
   WORD count = 0;
   REQUIRE(SUCCEEDED(task->GetTriggerCount(&count)));
   REQUIRE(count == 1);
@@ -62,11 +62,8 @@ TEST_CASE("the task file holds what is to be started, as whom and when") {
   made.application("C:\\Program Files\\Zubrane\\zub");
   made.parameters(" /SCHEDULER");
   made.comment("Zubrane");
-  const auto added = made.triggers().add();
-  added->type(0);
-  added->beginDate({2031, 9, 5, 5, 1, 2, 3, 4});
-  added->startTime({1899, 12, 6, 30, 14, 20, 0, 0});
-  made.save(0);
+  made.triggers().add({0, {2031, 9, 5, 5, 14, 20, 3, 4}});
+  made.save();
   const bool forgotten = pc.deviates("no account");
   const std::wstring account =
       forgotten ? L"" : std::wstring(L" ") + _wgetenv(L"USERDOMAIN") + L"\\" + _wgetenv(L"USERNAME");

@@ -106,40 +106,24 @@ TEST_CASE("ranges stand where they like in a trace; remarks and line ends do not
 
 TEST_CASE("a malformed catalogue is refused with line and reason") {
   const std::string row = "[A]\nabout a\n";
-  const std::string hive = "line 3: a trace begins with the name of a hive and a backslash";
   const std::string marker = "line 3: a trace ends in \"- Key*\", or in \"+ Value`= \" and a name";
-  const std::string braces = "line 3: a range is written {1..9}";
   const std::string range = "line 3: a range is two numbers from 0 to 999, the lower one first";
   const std::pair<std::string, std::string> cases[] = {
       {row + "fille windows | a", "line 3: unknown word \"fille\""},
       {"trace HKEY_USERS\\a- Key*", "line 1: no name in square brackets stands before this line"},
-      {"[A", "line 1: a name stands in square brackets"},
-      {"[A]\ntrace HKEY_USERS\\a- Key*", "line 2: the description comes before the first action"},
       {"\n[A]\n[B]\nabout b", "line 2: the description is missing"},
-      {"[A]\nabout", "line 1: the description is missing"},
-      {row + "about b", "line 3: a second description"},
       {"[A]\nabout " + std::string(301, 'x'), "line 2: the description is longer than 300 characters"},
       {row + "\n[B]\nabout b\nfile windows | b", "line 1: there is no action"},
       {row + "file windows | a\n[A]", "line 4: this name is there twice"},
-      {row + "file windows", "line 3: a part between | is missing"},
       {row + "folder appdata | a", "line 3: a part between | is missing"},
-      {row + "file windows | a | *.*", "line 3: too many parts between |"},
       {row + "file window | a", "line 3: unknown place \"window\""},
-      {row + "file HKEY_USERS\\a- Key* | a", "line 3: unknown place \"HKEY_USERS\\a- Key*\""},
-      {row + "trace HKEY_USERS- Key*", hive},
-      {row + "trace HKCU\\a- Key*", hive},
+      {row + "trace HKCU\\a- Key*", "line 3: a trace begins with the name of a hive and a backslash"},
       {row + "trace HKEY_USERS\\a", marker},
-      {row + "trace HKEY_USERS\\a-Key*", marker},
       {row + "trace HKEY_USERS\\a+ value`= a", marker},
-      {row + "trace HKEY_USERS\\{1..2- Key*", braces},
-      {row + "trace HKEY_USERS\\}1..2{- Key*", braces},
       {row + "trace HKEY_USERS\\{1..2}{1..2}- Key*", "line 3: a trace holds one range at most"},
       {row + "trace HKEY_USERS\\{2..1}- Key*", range},
-      {row + "trace HKEY_USERS\\{1.9}- Key*", range},
       {row + "trace HKEY_USERS\\{1..1000}- Key*", range},
-      {row + "trace HKEY_USERS\\{1..99999999999}- Key*", range},
       {"[A]\nabout " + std::string(300, 'x') + "\nfile windows | a", "none"},
-      {"", "none"},
   };
   for (const auto& [text, failure] : cases) CHECK(failureOf(text) == failure);
 }

@@ -114,25 +114,6 @@ TEST_CASE("a missing file ends the run where it is read, without a word") {
   CHECK(second.pc.messages.empty());
 }
 
-TEST_CASE("binary and huge plugin files") {
-  std::string binary;
-  for (int i = 0; i < 5000; ++i) binary += static_cast<char>(i * 37 % 251);
-  std::string lines;
-  for (int i = 0; i < 2000; ++i) lines += "C:\\Many\\" + std::to_string(i) + ".tmp\r\n";
-  for (const std::string& content :
-       {binary, std::string(200000, 'a'), std::string(100000, '\0'), "\r\r\n\n\r" + binary, lines}) {
-    PluginRun wash;
-    const std::string last = "C:\\Many\\1999.tmp";
-    wash.pc.file(last);
-    wash.pc.value(Traces, "a", "b");
-    wash.save(content, content);
-    const std::string before = wash.pc.snapshot();
-    wash.run();
-    CHECK(beyond(wash.pc.diffSince(before), {last}) == "");
-    CHECK(wash.pc.hasFile(last) == (content != lines));
-  }
-}
-
 TEST_CASE("a wash runs the selected plugins one after the other, whatever becomes of the first") {
   PluginRun wash;
   wash.pc.file("C:\\b.dat");

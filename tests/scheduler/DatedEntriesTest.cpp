@@ -39,20 +39,24 @@ struct Tab {
 };
 
 // The program's task alone, with a dialog.
-struct ShownTask : ScheduleTasks, ScheduleTask {
-  int dialogs = 0;
+struct ShownTask : ScheduleTask {
+  explicit ShownTask(int& shown) : dialogs(shown) {}
+  int& dialogs;
 
-  void refresh() override {}
-  int count() override { return 1; }
-  ScheduleTask& at(int) override { return *this; }
-  ScheduleTask& add(std::string_view) override { return *this; }
   std::string name() override { return "ZUB"; }
   void application(std::string_view) override {}
   void parameters(std::string_view) override {}
   void comment(std::string_view) override {}
   ScheduleTriggers& triggers() override { throw RuntimeError(ErrorNumber::Automation); }
-  void save(int) override {}
+  void save() override {}
   void showProperties() override { ++dialogs; }
+};
+struct ShownTasks : ScheduleTasks {
+  int dialogs = 0;
+
+  ShownTasks() { add("ZUB"); }
+  void refresh() override {}
+  ScheduleTask& add(std::string_view) override { return keep(std::make_unique<ShownTask>(dialogs)); }
 };
 
 }  // namespace
@@ -184,10 +188,10 @@ TEST_CASE("what the facility refuses ends the operation; only the start is silen
 
 TEST_CASE("Advanced opens the dialog of the task") {
   Tab tab;
-  ShownTask task;
+  ShownTasks tasks;
   Platform shown = tab.pc.platform();
-  shown.tasks = &task;
+  shown.tasks = &tasks;
   DatedEntries dated(shown, tab.user);
   dated.cmdAdvancedScheduler_Click();
-  CHECK(task.dialogs == 1);
+  CHECK(tasks.dialogs == 1);
 }

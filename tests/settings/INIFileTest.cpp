@@ -41,7 +41,7 @@ TEST_CASE("every option is kept under its own name and comes back from it") {
   for (std::size_t on = 0; on < iconNames.size() + flagNames.size(); ++on) {
     Settings pc;
     const bool isIcon = on < iconNames.size();
-    const std::string_view name = isIcon ? iconNames[on] : flagNames[on - iconNames.size()].stored;
+    const std::string_view name = isIcon ? iconNames[on].stored : flagNames[on - iconNames.size()].stored;
     CAPTURE(name);
     if (isIcon) {
       pc.options.LstIcons.Check(static_cast<int>(on), 1);
@@ -49,7 +49,7 @@ TEST_CASE("every option is kept under its own name and comes back from it") {
       (pc.options.*flagNames[on - iconNames.size()].option).Value(1);
     }
     CHECK(pc.put() == 0);
-    for (const std::string_view icon : iconNames) CHECK(pc.stored(icon) == (icon == name ? On : Off));
+    for (const IconName& icon : iconNames) CHECK(pc.stored(icon.stored) == (icon.stored == name ? On : Off));
     for (const FlagName& flag : flagNames) CHECK(pc.stored(flag.stored) == (flag.stored == name ? On : Off));
 
     Options fresh;

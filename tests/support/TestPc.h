@@ -75,20 +75,9 @@ class TestPc {
 
   // Faults: the call fails as told instead of doing its work, until `clearFaults`. Paths are compared without
   // case.
-  enum class Call {
-    Find,
-    ResetAttributes,
-    OpenedLength,
-    Open,
-    Read,
-    Write,
-    Remove,
-    Replace,
-    CreateFolder,
-    DeleteFolder
-  };
+  enum class Call { Find, ResetAttributes, OpenedLength, Open, Read, Write, Remove, DeleteFolder };
   void failFile(Call call, std::string_view path, ErrorNumber number);
-  enum class KeyCall { Open, Create, EnumKey, EnumValue, Query, Set, DeleteValue, DeleteKey };
+  enum class KeyCall { Open, Create, EnumKey, EnumValue, Query, Set, DeleteKey };
   // `path` with its hive, as opened; for the value calls the key's path.
   void failKey(KeyCall call, std::string_view path, RegistryStatus status);
   void clearFaults();

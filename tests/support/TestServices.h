@@ -203,12 +203,10 @@ class TestFiles : public Files {
   }
   void replace(std::string_view path, std::string_view bytes) override {
     log_({"replace ", path});
-    faults_.strike(Call::Replace, path);
     files_.replace(path, bytes);
   }
   void createFolder(std::string_view path) override {
     log_({"make folder ", path});
-    faults_.strike(Call::CreateFolder, path);
     files_.createFolder(path);
   }
   void deleteFolder(std::string_view path) override {
@@ -287,7 +285,7 @@ class TestRegistry : public Registry {
   }
   RegistryStatus deleteValue(RegistryKey key, std::string_view name) override {
     log_({"  delete value \"", name, "\""});
-    return fails(Call::DeleteValue, key) ? failure_ : registry_.deleteValue(key, name);
+    return registry_.deleteValue(key, name);
   }
   RegistryStatus deleteKey(RegistryKey key, std::string_view path) override {
     log_({path.empty() ? "  delete the key" : "  delete subkey ", path});

@@ -58,6 +58,13 @@ inline std::string rowsOf(const ListRows& rows) {
   return text;
 }
 
+// The marks of a list's rows, "*" for a ticked one.
+inline std::string ticksOf(const ListRows& rows) {
+  std::string marks;
+  for (int row = 0; row < rows.ListCount(); ++row) marks += rows.Selected(row) ? '*' : '-';
+  return marks;
+}
+
 // The lines of a diff that are no removals of something whose line names one of `expected`: what a wash did beyond
 // that.
 inline std::string beyond(std::string_view diff, const std::vector<std::string>& expected) {

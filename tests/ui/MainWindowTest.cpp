@@ -17,16 +17,9 @@ constexpr auto OnMain = &frmMain::lblHelp;
 constexpr auto OnOptions = &frmMain::lblOptionsHelp;
 constexpr auto OnScheduler = &frmMain::lblSchedulerHelp;
 
-struct MainWindow : WashFixture {
-  Catalogue catalogue = Catalogue::parse(
-      "[b row]\nabout It cleans b.\ntrace HKEY_USERS\\b- Key*\n"
-      "[A row]\nabout It cleans a.\ntrace HKEY_USERS\\a- Key*\n");
-  FirstUse<Plugins> plugins{[this] { return std::make_unique<Plugins>(engine); }};
-  FirstUse<frmIECookieKeep> ieCookies{[this] { return std::make_unique<frmIECookieKeep>(engine); }};
-  FirstUse<frmNSCookieKeep> nsCookies{[this] { return std::make_unique<frmNSCookieKeep>(engine); }};
-  FirstUse<frmPluginEditor> editor{[this] { return std::make_unique<frmPluginEditor>(engine, plugins); }};
-  frmIcon icon;
-  frmMain main{{engine, plugins, catalogue, editor, ieCookies, nsCookies, icon}};
+struct MainWindow : Windows {
+  Options& options = program.options;
+  frmMain& main = program.main;
 
   void plugin(const std::string& name) { pc.file(ProgramFolder + "Plugins\\" + name + ".zb1"); }
   void clearHelp() {
@@ -64,7 +57,7 @@ TEST_CASE("every option, on or off, and every row explains itself on its own tab
   }
   for (int row = 0; row < IconChecks::Count; ++row) {
     window.main.LstIcons_ClickSelect(row);
-    const std::string name(iconNames[static_cast<std::size_t>(row)]);
+    const std::string name(iconNames[static_cast<std::size_t>(row)].stored);
     tell(name + " picked");
     window.main.LstIcons_ClickCheck(row);
     tell(name + " checked");
@@ -137,7 +130,10 @@ TEST_CASE("Select All ticks and unticks every row of its list, and does not foll
   for (const char* name : {"a", "b", "c"}) {
     for (const auto& list : lists) list.rows.AddItem(name);
   }
+  Label& description = window.main.lblStandardPluginDescription;
+  description.Caption = "It cleans b.";
   for (const auto& list : lists) {
+    CHECK(description.Caption == "It cleans b.");
     list.control.Value(1);
     CHECK(list.rows.SelCount() == 3);
     CHECK(list.others.SelCount() == 0);
@@ -146,15 +142,7 @@ TEST_CASE("Select All ticks and unticks every row of its list, and does not foll
     list.control.Value(0);
     CHECK(list.rows.SelCount() == 0);
   }
-}
-
-TEST_CASE("only all standard plugins at once come with a warning") {
-  MainWindow window;
-  Label& description = window.main.lblStandardPluginDescription;
-  description.Caption = "It cleans b.";
-  window.main.StandardPluginsSelectAll.Value(0);
-  window.main.chkSelectAll.Value(1);
-  CHECK(description.Caption == "It cleans b.");
+  CHECK(description.Caption != "It cleans b.");  // the standard plugins alone come with a warning
 }
 
 TEST_CASE("a minimised window goes to the tray, one that is only resized stays") {
@@ -169,25 +157,27 @@ TEST_CASE("a minimised window goes to the tray, one that is only resized stays")
 
 TEST_CASE("buttons that only open something") {
   MainWindow window;
-  window.main.cmdHelp_Click();
-  window.main.cmdDownload_Click();
+  const auto press = [&](const char* button) { window.press(layout::faces::Main, button); };
+  press("cmdHelp");
+  press("cmdDownload");
   CHECK(window.pc.opened == std::vector<std::string>{ProgramFolder + "help/Zubrane User Guide.htm",
                                                      ProgramFolder + "help/Plugins.htm"});
-  window.main.cmdAbout_Click();  // opens nothing on a PC without windows
-  window.main.cmdViewLog_Click();
-  CHECK(window.engine.clean.form.Visible);
-  window.main.cmdIECookie_Click();
-  CHECK((*window.ieCookies).form.Visible);
-  window.main.cmdNSKeep_Click();
-  CHECK((*window.nsCookies).form.Visible);
+  press("cmdAbout");  // opens nothing on a PC without windows
+  press("cmdViewLog");
+  CHECK(window.program.engine.clean.form.Visible);
+  press("cmdIECookie");
+  CHECK((*window.program.ieCookies).form.Visible);
+  press("cmdNSKeep");
+  CHECK((*window.program.nsCookies).form.Visible);
 
+  frmPluginEditor::State& editor = window.program.editor->state;
   window.options.lstFiles.AddItem("Shop");
-  window.main.cmdEditOptions_Click();  // opens nothing without a current row
-  CHECK_FALSE(window.editor->state.form.Visible);
+  press("cmdEditOptions");  // opens nothing without a current row
+  CHECK_FALSE(editor.form.Visible);
   window.options.lstFiles.ListIndex(0);
-  window.main.cmdEditOptions_Click();
-  CHECK(window.editor->state.form.Visible);
-  CHECK(window.editor->state.txtName.Text == "Shop");
+  press("cmdEditOptions");
+  CHECK(editor.form.Visible);
+  CHECK(editor.txtName.Text == "Shop");
 }
 
 TEST_CASE("Refresh reads the folder again and keeps the ticks; a new plugin comes up off") {
@@ -197,7 +187,7 @@ TEST_CASE("Refresh reads the folder again and keeps the ticks; a new plugin come
   window.options.lstFiles.Selected(1, true);
   window.options.chkSkipMessages.Value(1);
   window.plugin("Alpha");
-  window.main.cmdRefresh_Click();
+  window.press(layout::faces::Main, "cmdRefresh");
   CHECK(window.rows() == "Alpha;Beta;*Gamma;");
   CHECK(window.pc.text(Store, "ZUBPlugin Alpha") == "0");
   CHECK(window.pc.text(Store, "ZUBPlugin Gamma") == "1");
@@ -213,7 +203,7 @@ TEST_CASE("removing a plugin unticks the others, which is what an exit then save
   window.main.Form_Load();
   CHECK(window.rows() == "Alpha;*Beta;*Gamma;");
   window.options.lstFiles.ListIndex(1);
-  window.main.cmdRemovePlugin_Click();
+  window.press(layout::faces::Main, "cmdRemovePlugin");
   CHECK(window.rows() == "Alpha;Gamma;");
   CHECK(window.pc.messages.empty());
   CHECK_THROWS_AS(window.main.Unload(), EndOfProcess);
@@ -223,10 +213,10 @@ TEST_CASE("removing a plugin unticks the others, which is what an exit then save
 
 TEST_CASE("ShowTab brings the window up unless a wash runs") {
   MainWindow window;
-  window.main.cmdRemove_Click();
+  window.press(layout::faces::Main, "cmdRemove");
   window.main.ShowTab(2);
   CHECK_FALSE(window.main.form.Visible);
-  window.engine.animated->cmdFinish_Click();
+  window.program.engine.animated->cmdFinish_Click();
   window.main.ShowTab(3);
   CHECK(window.main.form.Visible);
   CHECK(window.main.form.shown == 1);
@@ -237,7 +227,8 @@ TEST_CASE("a click on a standard plugin describes it") {
   window.main.Form_Load();
   CHECK(window.main.lblStandardPluginDescription.Caption == "Please select a plugin to see the description");
   window.options.standardlist.ListIndex(1);
-  CHECK(window.main.lblStandardPluginDescription.Caption == "It cleans b.");
+  CHECK(window.main.lblStandardPluginDescription.Caption ==
+        window.program.catalogue.find(window.options.standardlist.List(1))->description);
 }
 
 TEST_CASE("the interval's controls plan the next wash") {

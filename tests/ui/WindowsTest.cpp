@@ -187,9 +187,7 @@ TEST_CASE("the close box of every window closes it; that of the main window ends
 TEST_CASE("the buttons of the windows do what they say") {
   Windows windows;
   Program& program = windows.program;
-  const auto press = [&windows](const Face& face, std::string_view name) {
-    find(windows.of(face), name).click();
-  };
+  const auto press = [&windows](const Face& face, const char* name) { windows.press(face, name); };
   constexpr const Face& Editor = faces::Editor;
   frmPluginEditor::State& editor = program.editor->state;
   const std::string plugins = "C:\\Program Files\\Zubrane\\Plugins\\";
@@ -222,12 +220,16 @@ TEST_CASE("the buttons of the windows do what they say") {
   CHECK(windows.pc.bytes(plugins + "Shop.zb2") == "HKey_Current_User\\Software\\Shop- Key*\r\n");
   CHECK(program.options.lstFiles.ListCount() == 1);
 
-  program.options.lstFiles.Clear();
-  press(faces::Main, "cmdRefresh");
-  CHECK(program.options.lstFiles.List(0) == "Shop");
-  press(faces::Main, "cmdDownload");
-  press(faces::Main, "cmdHelp");
-  CHECK(windows.pc.opened.size() == 2);
+  DatedEntries& dated = program.main.dated;
+  dated.txtDate.Text = "9/15/2001";
+  dated.txtTime.Text = "10:20";
+  for (const int entries : {1, 2}) {
+    press(faces::Main, "cmdAdd");
+    CHECK(dated.lstSchedule.ListCount() == entries);
+  }
+  dated.lstSchedule.ListIndex(0);
+  press(faces::Main, "cmdRemoveScheduled");
+  CHECK(dated.lstSchedule.ListCount() == 1);
 }
 
 TEST_CASE("a focus that a form asked for is given once") {

@@ -148,13 +148,6 @@ Zub::Handles Zub::handles() const {
   return {counted != 0 ? counted : graphicHandlesOf(process_.hProcess), static_cast<int>(windows)};
 }
 
-ULONGLONG Zub::busyTime() const {
-  FILETIME begin, end, kernel, user;
-  REQUIRE(GetProcessTimes(process_.hProcess, &begin, &end, &kernel, &user) != 0);
-  constexpr ULONGLONG InAMillisecond = 10000;
-  return (ULONGLONG{kernel.dwLowDateTime} + user.dwLowDateTime) / InAMillisecond;
-}
-
 bool Zub::ends(int seconds) const {
   return WaitForSingleObject(process_.hProcess, static_cast<DWORD>(seconds) * 1000) == WAIT_OBJECT_0;
 }

@@ -49,9 +49,6 @@ class Zub {
   };
   Handles handles() const;
 
-  // What the process has had of the processor, in milliseconds.
-  ULONGLONG busyTime() const;
-
   // Waits for the end of the process.
   bool ends(int seconds = Patience) const;
   bool runs() const { return !ends(0); }

@@ -5,7 +5,6 @@
 #include "app/console/Commands.h"
 #include "app/console/Json.h"
 #include "app/console/NearMiss.h"
-#include "app/console/OptionText.h"
 #include "app/console/Store.h"
 #include "base/Text.h"
 #include "plugins/StandardList.h"
@@ -20,14 +19,19 @@ struct Setting {
   int lowest;
   int highest;
   std::function<void(int)> set;
+  std::string_view meaning;  // empty for a plugin's tick
 
   std::string values() const { return std::to_string(lowest) + " to " + std::to_string(highest); }
 };
 
 void addRows(std::vector<Setting>& settings, std::string_view prefix, ListRows& rows) {
   for (int row = 0; row < rows.ListCount(); ++row) {
-    settings.push_back({std::string(prefix) + rows.List(row), rows.Selected(row) ? 1 : 0, 0, 1,
-                        [&rows, row](int value) { rows.Selected(row, value == 1); }});
+    settings.push_back({std::string(prefix) + rows.List(row),
+                        rows.Selected(row) ? 1 : 0,
+                        0,
+                        1,
+                        [&rows, row](int value) { rows.Selected(row, value == 1); },
+                        {}});
   }
 }
 
@@ -35,22 +39,24 @@ void addRows(std::vector<Setting>& settings, std::string_view prefix, ListRows& 
 std::vector<Setting> settingsOf(Options& options) {
   std::vector<Setting> settings;
   for (int row = 0; row < IconChecks::Count; ++row) {
-    settings.push_back({std::string(iconNames[static_cast<std::size_t>(row)]), options.LstIcons.Check(row), 0,
-                        1, [&options, row](int value) { options.LstIcons.Check(row, value); }});
+    const IconName& icon = iconNames[static_cast<std::size_t>(row)];
+    settings.push_back({std::string(icon.stored), options.LstIcons.Check(row), 0, 1,
+                        [&options, row](int value) { options.LstIcons.Check(row, value); }, icon.meaning});
   }
   for (const FlagName& flag : flagNames) {
     CheckOption& option = options.*flag.option;
-    settings.push_back(
-        {std::string(flag.stored), option.Value(), 0, 1, [&option](int value) { option.Value(value); }});
+    settings.push_back({std::string(flag.stored), option.Value(), 0, 1,
+                        [&option](int value) { option.Value(value); }, flag.meaning});
   }
   for (const DigitName& digit : digitNames) {
     Combo& combo = options.*digit.combo;
     const int last = combo.ListCount() - 1;
     settings.push_back({std::string(digit.stored), combo.ListIndex(), 0, last,
-                        [&combo](int value) { combo.ListIndex(value); }});
+                        [&combo](int value) { combo.ListIndex(value); }, digit.meaning});
     if (&combo != &options.cmbShredder) continue;
-    settings.push_back(
-        {"passes", combo.ListIndex() + 1, 1, last + 1, [&combo](int value) { combo.ListIndex(value - 1); }});
+    settings.push_back({"passes", combo.ListIndex() + 1, 1, last + 1,
+                        [&combo](int value) { combo.ListIndex(value - 1); },
+                        "how often files are overwritten"});
   }
   addRows(settings, customPluginPrefix, options.lstFiles);
   addRows(settings, standardPluginPrefix, options.standardlist);
@@ -106,7 +112,7 @@ void printJson(const CommandContext& context, Options& options) {
         json.number("value", setting.value);
         json.number("lowest", setting.lowest);
         json.number("highest", setting.highest);
-        json.utf8("does", optionText(setting.name));
+        json.utf8("does", setting.meaning);
       });
     }
   });
@@ -136,8 +142,8 @@ int optionsCommand(CommandContext& context) {
   context.print("lblLastRemoval=" + store.options.lblLastRemoval.Caption);
   for (const Setting& setting : settingsOf(store.options)) {
     context.print(setting.name + "=" + std::to_string(setting.value));
-    const std::string_view text = optionText(setting.name);
-    if (!text.empty()) context.print(joined({"    ", text, " (", setting.values(), ")"}));
+    if (!setting.meaning.empty())
+      context.print(joined({"    ", setting.meaning, " (", setting.values(), ")"}));
   }
   return exitStatus::Done;
 }

@@ -87,7 +87,7 @@ void Scheduler::readTasks() {
   const auto task = std::ranges::find(tasks, DatedTaskName, &TaskRecord::name);
   if (task == tasks.end()) return;
   parameters_ = task->parameters;
-  for (const TriggerRecord& trigger : task->triggers) times_.push_back(trigger.begin);
+  for (const ScheduleTrigger& trigger : task->triggers) times_.push_back(trigger.begin);
 }
 
 // What comes next, told once.

@@ -1,4 +1,5 @@
 #include "app/console/ConsolePc.h"
+#include "platform/host/win32/Utf8.h"
 #include "platform/win32/Text.h"
 #include "platform/win32/Win32Platform.h"
 #include "platform/win32/Win32SystemFolders.h"

@@ -1,5 +1,6 @@
 #include "platform/folder/FolderClock.h"
 
+#include <algorithm>
 #include <chrono>
 #include <ctime>
 
@@ -11,8 +12,10 @@ SystemTime FolderClock::local() {
   const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
   SystemTime time;
   if (const std::tm* parts = std::localtime(&seconds)) {
-    const std::int64_t days = daysFromDate(parts->tm_year + 1900, parts->tm_mon + 1, parts->tm_mday);
-    time = timeFromSeconds(days * 86400 + parts->tm_hour * 3600 + parts->tm_min * 60 + parts->tm_sec);
+    time = dateFromDays(daysFromDate(parts->tm_year + 1900, parts->tm_mon + 1, parts->tm_mday));
+    time.wHour = static_cast<std::uint16_t>(parts->tm_hour);
+    time.wMinute = static_cast<std::uint16_t>(parts->tm_min);
+    time.wSecond = static_cast<std::uint16_t>(std::min(parts->tm_sec, 59));  // a leap second
   }
   const auto sinceEpoch = std::chrono::duration_cast<milliseconds>(now.time_since_epoch());
   time.wMilliseconds = static_cast<std::uint16_t>(sinceEpoch.count() % 1000);

@@ -1,7 +1,6 @@
 #include "platform/folder/FolderRegistry.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "base/Text.h"
 #include "platform/StoredData.h"
@@ -41,23 +40,10 @@ RegistryNode* findBelow(RegistryNode* node, const KeyPath& path) {
   return node;
 }
 
-RegistryStatus copyName(std::string_view text, char* name, std::uint32_t& length) {
-  if (text.size() + 1 > length) return status::MoreData;
-  std::memcpy(name, text.data(), text.size());
-  name[text.size()] = '\0';
-  length = static_cast<std::uint32_t>(text.size());
-  return status::Success;
-}
-
-RegistryStatus copyData(const RegistryValue& value, ValueType& type, std::uint8_t* data,
-                        std::uint32_t& dataLength) {
-  const std::uint32_t room = dataLength;
+RegistryStatus hand(const RegistryValue& value, ValueType& type, std::uint8_t* data,
+                    std::uint32_t& dataLength) {
   type = value.type;
-  dataLength = static_cast<std::uint32_t>(value.data.size());
-  if (data == nullptr) return status::Success;
-  if (value.data.size() > room) return status::MoreData;
-  std::memcpy(data, value.data.data(), value.data.size());
-  return status::Success;
+  return handData(value.data, data, dataLength);
 }
 
 bool isWithin(const RegistryNode* node, const RegistryNode* tree) {
@@ -79,14 +65,14 @@ FolderRegistry::Slot* FolderRegistry::slotOf(RegistryKey key) {
   return slot.used && slot.generation == key >> 16 ? &slot : nullptr;
 }
 
-FolderRegistry::Opened FolderRegistry::resolve(RegistryKey key) {
+FolderRegistry::Opened FolderRegistry::resolve(RegistryKey key, std::uint32_t rights) {
   for (std::size_t i = 0; i < HiveNames.size(); ++i) {
-    if (key == hive(HiveNames[i].hive)) return {status::Success, &tree_.shown(i), access::All};
+    if (key == hive(HiveNames[i].hive)) return {status::Success, &tree_.shown(i)};
   }
   const Slot* slot = slotOf(key);
-  if (slot == nullptr) return {status::InvalidHandle, nullptr, 0};
-  if (slot->node == nullptr) return {status::KeyDeleted, nullptr, 0};
-  return {status::Success, slot->node, slot->rights};
+  if (slot == nullptr) return {status::InvalidHandle, nullptr};
+  if (slot->node == nullptr) return {status::KeyDeleted, nullptr};
+  return {(slot->rights & rights) == rights ? status::Success : status::AccessDenied, slot->node};
 }
 
 std::string FolderRegistry::pathOf(RegistryKey key) {
@@ -161,39 +147,35 @@ RegistryStatus FolderRegistry::create(RegistryKey parent, std::string_view path,
 
 RegistryStatus FolderRegistry::enumKey(RegistryKey key, std::uint32_t index, char* name,
                                        std::uint32_t& length) {
-  const Opened from = resolve(key);
+  const Opened from = resolve(key, access::EnumerateSubKeys);
   if (from.status != status::Success) return from.status;
-  if ((from.rights & access::EnumerateSubKeys) == 0) return status::AccessDenied;
   if (index >= from.node->keys.size()) return status::NoMoreItems;
-  return copyName(from.node->keys.at(index).first, name, length);
+  return handName(from.node->keys.at(index).first, name, length);
 }
 
 RegistryStatus FolderRegistry::enumValue(RegistryKey key, std::uint32_t index, char* name,
                                          std::uint32_t& length, ValueType& type, std::uint8_t* data,
                                          std::uint32_t& dataLength) {
-  const Opened from = resolve(key);
+  const Opened from = resolve(key, access::QueryValue);
   if (from.status != status::Success) return from.status;
-  if ((from.rights & access::QueryValue) == 0) return status::AccessDenied;
   if (index >= from.node->values.size()) return status::NoMoreItems;
   const auto& [valueName, value] = from.node->values.at(index);
-  const RegistryStatus named = copyName(valueName, name, length);
-  return named != status::Success ? named : copyData(value, type, data, dataLength);
+  const RegistryStatus named = handName(valueName, name, length);
+  return named != status::Success ? named : hand(value, type, data, dataLength);
 }
 
 RegistryStatus FolderRegistry::query(RegistryKey key, std::string_view name, ValueType& type,
                                      std::uint8_t* data, std::uint32_t& dataLength) {
-  const Opened from = resolve(key);
+  const Opened from = resolve(key, access::QueryValue);
   if (from.status != status::Success) return from.status;
-  if ((from.rights & access::QueryValue) == 0) return status::AccessDenied;
   const RegistryValue* value = from.node->values.find(StripAtNull(name));
-  return value == nullptr ? status::FileNotFound : copyData(*value, type, data, dataLength);
+  return value == nullptr ? status::FileNotFound : hand(*value, type, data, dataLength);
 }
 
 RegistryStatus FolderRegistry::set(RegistryKey key, std::string_view name, ValueType type,
                                    std::span<const std::uint8_t> data) {
-  const Opened to = resolve(key);
+  const Opened to = resolve(key, access::SetValue);
   if (to.status != status::Success) return to.status;
-  if ((to.rights & access::SetValue) == 0) return status::AccessDenied;
   name = StripAtNull(name);
   RegistryValue value{type, storedData({data.begin(), data.end()}, type, rules_.family->cutsTexts)};
   RegistryValue* present = to.node->values.find(name);
@@ -204,9 +186,8 @@ RegistryStatus FolderRegistry::set(RegistryKey key, std::string_view name, Value
 }
 
 RegistryStatus FolderRegistry::deleteValue(RegistryKey key, std::string_view name) {
-  const Opened from = resolve(key);
+  const Opened from = resolve(key, access::SetValue);
   if (from.status != status::Success) return from.status;
-  if ((from.rights & access::SetValue) == 0) return status::AccessDenied;
   if (!from.node->values.erase(StripAtNull(name))) return status::FileNotFound;
   changed_ = true;
   return status::Success;

@@ -57,10 +57,10 @@ class FolderRegistry : public Registry {
   struct Opened {
     RegistryStatus status;
     RegistryNode* node;
-    std::uint32_t rights;
   };
 
-  Opened resolve(RegistryKey key);
+  // AccessDenied where the key was opened without these rights.
+  Opened resolve(RegistryKey key, std::uint32_t rights = 0);
   Slot* slotOf(RegistryKey key);
   RegistryStatus openSlot(RegistryNode& node, std::uint32_t rights, RegistryKey& opened);
   bool holdsHive(const RegistryNode& node) const;

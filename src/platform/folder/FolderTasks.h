@@ -1,7 +1,6 @@
 // The task scheduler of a PC in a folder: its tasks are kept in the text tasks.txt.
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,21 +12,16 @@
 
 namespace zub {
 
-struct TriggerRecord {
-  int type = 0;
-  SystemTime begin;  // the date, with the hour and minute of the start
-};
-
 struct TaskRecord {
   std::string name;
   std::string application;
   std::string parameters;
   std::string comment;
-  std::vector<TriggerRecord> triggers;
+  std::vector<ScheduleTrigger> triggers;
 };
 
 // "At 2:20 PM on 9/5/2001".
-std::string textOf(const TriggerRecord& trigger);
+std::string textOf(const ScheduleTrigger& trigger);
 
 // UTF-8 lines "name = value": "task" begins a task, "trigger = 0 2001-09-05 14:20" stands once for each
 // trigger, "#" begins a comment. PcError with the line where it is none of that.
@@ -44,14 +38,11 @@ class FolderTasks : public ScheduleTasks {
 
   // Reads the tasks; PcError where their damaged text is refused. `root` outlives the tasks.
   FolderTasks(HostDir& root, DamagedTasks damaged);
-  ~FolderTasks() override;
 
   // PcError where the last save of a task failed: those who asked for it were told only that it did.
   void throwUnsaved() const;
 
   void refresh() override;
-  int count() override;
-  ScheduleTask& at(int position) override;
   ScheduleTask& add(std::string_view name) override;
 
  private:
@@ -60,7 +51,6 @@ class FolderTasks : public ScheduleTasks {
   void saveTask(const TaskRecord& task);
 
   HostDir& root_;
-  std::vector<std::unique_ptr<Task>> tasks_;
   std::optional<PcError> unsaved_;
 };
 

@@ -21,7 +21,8 @@ std::optional<std::string> readHostTextAt(const std::string& path);
 
 // Writes the bytes beside the file, under a name of this process ("registry.reg.1234.new"), and puts them in the
 // file's place once they have reached the disk, so that at every moment the file is the old one or the new
-// one, and none stays beside it, of processes killed earlier neither. Where that fails the file is the old one, or the new one that may not last.
+// one, and none stays beside it, of processes killed earlier neither. Where that fails the file is the old one, or the
+// new one that may not last.
 HostError replaceHostFile(HostDir& folder, const std::string& name, std::string_view bytes);
 // The same for a text. PcError where it fails or the text is too large.
 void replaceHostText(HostDir& folder, const std::string& name, std::string_view text);

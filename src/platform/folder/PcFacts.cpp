@@ -5,7 +5,6 @@
 
 #include "base/Text.h"
 #include "platform/folder/CodePage1252.h"
-#include "platform/folder/PcError.h"
 #include "platform/folder/RegistryTree.h"
 
 namespace zub {
@@ -22,15 +21,7 @@ constexpr std::array<DriveKind, 6> DriveKinds{{{"unknown", DriveType::Unknown},
                                                {"cdrom", DriveType::CdRom},
                                                {"ramdisk", DriveType::RamDisk}}};
 
-std::string_view trimmed(std::string_view text) {
-  return trim(text, " \t\r\n");
-}
-
 // The reading of one value; what it throws is a reason.
-struct Refused {
-  std::string reason;
-};
-
 FolderPath pathOf(std::string_view value) {
   FolderPath path;
   const bool absolute = value.size() > 2 && value[1] == ':' && value[2] == '\\';
@@ -113,44 +104,31 @@ PcFacts::PcFacts(std::string_view text)
       temp{'C', {"WINDOWS", "TEMP"}},
       program{'C', {"Program Files", "Zubrane"}},
       current{'C', {}} {
-  for (int number = 1; !text.empty(); ++number) {
-    const std::string_view line = takeLineWithEnd(text);
-    lines_.emplace_back(line);
-    try {
-      take(trimmed(line), number);
-    } catch (const Refused& refused) {
-      throw PcError(FileName, number, refused.reason);
-    }
-  }
+  for (std::string_view rest = text; !rest.empty();) lines_.emplace_back(takeLineWithEnd(rest));
+  eachPcLine(text, FileName, [this](const PcLine& line) { take(line); });
 }
 
-void PcFacts::take(std::string_view line, int number) {
-  constexpr std::string_view mark = "\xEF\xBB\xBF";
-  if (number == 1 && line.starts_with(mark)) line.remove_prefix(mark.size());
-  if (line.empty() || line.starts_with('#')) return;
-  const std::string ansi = ansiFromUtf8(line);
-  const auto equals = ansi.find('=');
-  if (equals == std::string::npos) throw Refused{"is no \"name = value\""};
-  const std::string_view name = trimmed(std::string_view(ansi).substr(0, equals));
-  const std::string_view value = trimmed(std::string_view(ansi).substr(equals + 1));
-
+void PcFacts::take(const PcLine& line) {
+  const std::string name = ansiFromUtf8(line.name);
+  const std::string given = ansiFromUtf8(line.value);
+  const std::string_view value = trim(given, PcBlanks);
   if (name.size() > DrivePrefix.size() && equalFolded(name.substr(0, DrivePrefix.size()), DrivePrefix)) {
-    const char letter = driveOf(trimmed(name.substr(DrivePrefix.size())));
+    const char letter = driveOf(trim(name.substr(DrivePrefix.size()), PcBlanks));
     const auto at = value.find(Elsewhere);
-    if (!drives.emplace(letter, kindOf(trimmed(value.substr(0, at)))).second) {
+    if (!drives.emplace(letter, kindOf(trim(value.substr(0, at), PcBlanks))).second) {
       throw Refused{"the drive was told before"};
     }
     // The host's own bytes: no stand-ins.
     if (at != std::string_view::npos)
-      driveFolders[letter] = trimmed(line.substr(line.find(Elsewhere) + Elsewhere.size()));
+      driveFolders[letter] = trim(line.value.substr(line.value.find(Elsewhere) + Elsewhere.size()), PcBlanks);
     return;
   }
   const auto fact = std::ranges::find_if(Facts, [&](const Fact& row) { return equalFolded(row.name, name); });
-  if (fact == Facts.end()) throw Refused{"unknown name \"" + utf8FromAnsi(name) + "\""};
+  if (fact == Facts.end()) throw Refused{joined({"unknown name \"", line.name, "\""})};
   if (!fact->many && !seen_.insert(folded(name)).second) throw Refused{"the name can stand only once"};
   fact->take(*this, value);
   if (fact->name == "hidden" || fact->name == "system") {
-    attributeLines_.emplace(pathOf(value).key(), lines_.size() - 1);
+    attributeLines_.emplace(pathOf(value).key(), static_cast<std::size_t>(line.number - 1));
   }
 }
 

@@ -12,6 +12,7 @@
 #include "platform/Services.h"
 #include "platform/folder/Family.h"
 #include "platform/folder/FolderPath.h"
+#include "platform/folder/PcText.h"
 
 namespace zub {
 
@@ -50,7 +51,7 @@ class PcFacts {
   std::string text() const;
 
  private:
-  void take(std::string_view line, int number);
+  void take(const PcLine& line);
 
   std::vector<std::string> lines_;  // with their ends; empty when taken away
   std::unordered_multimap<std::string, std::size_t> attributeLines_;  // hidden and system, by FolderPath::key

@@ -21,12 +21,10 @@ constexpr std::array<OtherForm, 4> OtherForms{{
      "is UTF-16 with the other byte order: \"iconv -f UTF-16 -t UTF-8\" makes an export that can be read"},
     {"regf",
      "is a raw hive: \"hivexregedit --export --prefix HKEY_CURRENT_USER HIVE '\\'\" (the prefix of what it "
-     "is) makes an "
-     "export of it"},
+     "is) makes an export of it"},
     {"CREG",
      "is the raw registry of Windows 95 to ME: \"regedit /L:SYSTEM.DAT /R:USER.DAT /E EXPORT.REG\" under DOS "
-     "makes an "
-     "export of it"},
+     "makes an export of it"},
     {"WINE REGISTRY", "is a registry file of Wine: \"wine regedit /E EXPORT.REG\" makes an export of it"},
 }};
 

@@ -1,4 +1,5 @@
 // The text that keeps a PC's tasks.
+#include <algorithm>
 #include <array>
 #include <set>
 
@@ -7,7 +8,7 @@
 #include "platform/folder/CodePage1252.h"
 #include "platform/folder/DateText.h"
 #include "platform/folder/FolderTasks.h"
-#include "platform/folder/PcError.h"
+#include "platform/folder/PcText.h"
 
 namespace zub {
 namespace {
@@ -30,7 +31,7 @@ bool isDigit(char c) {
 }
 
 // "0 2001-09-05 14:20"
-bool readTrigger(std::string_view text, TriggerRecord& trigger) {
+bool readTrigger(std::string_view text, ScheduleTrigger& trigger) {
   constexpr std::string_view form = "9 9999-99-99 99:99";
   if (text.size() != form.size()) return false;
   for (std::size_t i = 0; i < form.size(); ++i) {
@@ -55,42 +56,36 @@ bool readTrigger(std::string_view text, TriggerRecord& trigger) {
   return true;
 }
 
-std::string triggerText(const TriggerRecord& trigger) {
+std::string triggerText(const ScheduleTrigger& trigger) {
   const SystemTime& begin = trigger.begin;
   return std::to_string(trigger.type) + " " + fourDigits(begin.wYear) + "-" + twoDigits(begin.wMonth) + "-" +
          twoDigits(begin.wDay) + " " + twoDigits(begin.wHour) + ":" + twoDigits(begin.wMinute);
 }
 
 // `names` are those of the tasks so far.
-void readEntry(std::vector<TaskRecord>& tasks, std::set<std::string>& names, std::string_view name,
-               std::string_view value, int line, const std::string& file) {
-  if (name == "task") {
-    if (value.empty()) throw PcError(file, line, "the task has no name");
+void take(std::vector<TaskRecord>& tasks, std::set<std::string>& names, const PcLine& line) {
+  if (line.name == "task") {
+    if (line.value.empty()) throw Refused{"the task has no name"};
     tasks.push_back({});
-    tasks.back().name = ansiFromUtf8(value);
-    if (!names.insert(tasks.back().name).second) throw PcError(file, line, "the task was told before");
+    tasks.back().name = ansiFromUtf8(line.value);
+    if (!names.insert(tasks.back().name).second) throw Refused{"the task was told before"};
     return;
   }
-  if (tasks.empty()) throw PcError(file, line, "stands before the first task");
-  if (name == "trigger") {
-    TriggerRecord trigger;
-    if (!readTrigger(value, trigger)) {
-      throw PcError(file, line, "a trigger is told as \"0 2001-09-05 14:20\"");
-    }
+  if (tasks.empty()) throw Refused{"stands before the first task"};
+  if (line.name == "trigger") {
+    ScheduleTrigger trigger;
+    if (!readTrigger(line.value, trigger)) throw Refused{"a trigger is told as \"0 2001-09-05 14:20\""};
     tasks.back().triggers.push_back(trigger);
     return;
   }
-  for (const TextField& field : TextFields) {
-    if (field.name != name) continue;
-    tasks.back().*field.member = ansiFromUtf8(value);
-    return;
-  }
-  throw PcError(file, line, "unknown name \"" + std::string(name) + "\"");
+  const auto* field = std::ranges::find(TextFields, line.name, &TextField::name);
+  if (field == TextFields.end()) throw Refused{joined({"unknown name \"", line.name, "\""})};
+  tasks.back().*field->member = ansiFromUtf8(line.value);
 }
 
 }  // namespace
 
-std::string textOf(const TriggerRecord& trigger) {
+std::string textOf(const ScheduleTrigger& trigger) {
   const std::string time = shortTime(trigger.begin);  // "2:20:00 PM"
   return "At " + time.substr(0, time.size() - 6) + time.substr(time.size() - 3) + " on " +
          shortDate(trigger.begin);
@@ -99,16 +94,7 @@ std::string textOf(const TriggerRecord& trigger) {
 std::vector<TaskRecord> readTasksText(std::string_view text, const std::string& file) {
   std::vector<TaskRecord> tasks;
   std::set<std::string> names;
-  for (int number = 1; !text.empty(); ++number) {
-    const std::string_view line = takeLine(text);
-    if (line.empty() || line.starts_with('#')) continue;
-    const auto equals = line.find(" =");
-    if (equals == std::string_view::npos) throw PcError(file, number, "is no \"name = value\"");
-    // One blank behind "=" is not the value's.
-    std::string_view value = line.substr(equals + 2);
-    if (value.starts_with(' ')) value.remove_prefix(1);
-    readEntry(tasks, names, line.substr(0, equals), value, number, file);
-  }
+  eachPcLine(text, file, [&](const PcLine& line) { take(tasks, names, line); });
   return tasks;
 }
 
@@ -121,7 +107,7 @@ std::string writeTasksText(const std::vector<TaskRecord>& tasks) {
     if (!text.empty()) text += '\n';
     add("task", utf8FromAnsi(task.name));
     for (const TextField& field : TextFields) add(field.name, utf8FromAnsi(task.*field.member));
-    for (const TriggerRecord& trigger : task.triggers) add("trigger", triggerText(trigger));
+    for (const ScheduleTrigger& trigger : task.triggers) add("trigger", triggerText(trigger));
   }
   return text;
 }

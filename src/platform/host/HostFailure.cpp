@@ -1,30 +1,31 @@
 #include "platform/host/HostFailure.h"
 
 namespace zub {
+namespace {
+
+struct Row {
+  HostError error;
+  ErrorNumber number;
+};
+constexpr Row Rows[] = {
+    {HostError::NotFound, ErrorNumber::FileNotFound},
+    {HostError::NotAFolder, ErrorNumber::PathNotFound},
+    {HostError::NotAFile, ErrorNumber::PathFileAccess},
+    {HostError::Exists, ErrorNumber::PathFileAccess},
+    {HostError::NotEmpty, ErrorNumber::PathFileAccess},
+    {HostError::NoRights, ErrorNumber::PathFileAccess},
+    {HostError::InUse, ErrorNumber::PermissionDenied},
+    {HostError::ReadOnlyDisk, ErrorNumber::PermissionDenied},
+    {HostError::DiskFull, ErrorNumber::DiskFull},
+    {HostError::TooManyOpen, ErrorNumber::TooManyFiles},
+    {HostError::BadName, ErrorNumber::BadFileName},
+};
+
+}  // namespace
 
 ErrorNumber errorNumberOf(HostError error) {
-  switch (error) {
-    case HostError::NotFound:
-      return ErrorNumber::FileNotFound;
-    case HostError::NotAFolder:
-      return ErrorNumber::PathNotFound;
-    case HostError::NotAFile:
-    case HostError::Exists:
-    case HostError::NotEmpty:
-    case HostError::NoRights:
-      return ErrorNumber::PathFileAccess;
-    case HostError::InUse:
-    case HostError::ReadOnlyDisk:
-      return ErrorNumber::PermissionDenied;
-    case HostError::DiskFull:
-      return ErrorNumber::DiskFull;
-    case HostError::TooManyOpen:
-      return ErrorNumber::TooManyFiles;
-    case HostError::BadName:
-      return ErrorNumber::BadFileName;
-    case HostError::None:
-    case HostError::DeviceFailure:
-      break;
+  for (const Row& row : Rows) {
+    if (row.error == error) return row.number;
   }
   return ErrorNumber::DeviceIo;
 }

@@ -1,5 +1,7 @@
 #include "platform/host/WatchedDir.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "platform/host/HostFailure.h"
@@ -9,20 +11,12 @@ namespace {
 
 constexpr std::size_t MostTexts = 100;
 
-// The others tell what is there, or that nothing is. A name that no host can have leads nowhere by mistake.
+// Those that tell what is there, or that nothing is. A name that no host can have leads nowhere by mistake.
+constexpr HostError NoFailures[] = {HostError::None,     HostError::NotFound, HostError::NotAFolder,
+                                    HostError::NotAFile, HostError::Exists,   HostError::NotEmpty};
+
 bool isFailure(HostError error) {
-  switch (error) {
-    case HostError::NoRights:
-    case HostError::InUse:
-    case HostError::ReadOnlyDisk:
-    case HostError::DiskFull:
-    case HostError::TooManyOpen:
-    case HostError::DeviceFailure:
-    case HostError::BadName:
-      return true;
-    default:
-      return false;
-  }
+  return std::ranges::find(NoFailures, error) == std::end(NoFailures);
 }
 
 // A place below the watched folder.

@@ -1,7 +1,6 @@
 #include "platform/pretend/PretendRegistry.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "base/Text.h"
 #include "platform/StoredData.h"
@@ -11,23 +10,6 @@ namespace {
 
 constexpr std::size_t LongestKeyName = 255;
 constexpr std::uint32_t LongestValueName = 16384;  // with its NUL
-
-RegistryStatus copyName(std::string_view text, char* name, std::uint32_t& length) {
-  if (text.size() + 1 > length) return status::MoreData;
-  std::memcpy(name, text.data(), text.size());
-  name[text.size()] = '\0';
-  length = static_cast<std::uint32_t>(text.size());
-  return status::Success;
-}
-
-RegistryStatus copyData(std::string_view bytes, std::uint8_t* data, std::uint32_t& dataLength) {
-  const std::uint32_t room = dataLength;
-  dataLength = static_cast<std::uint32_t>(bytes.size());
-  if (data == nullptr) return status::Success;
-  if (bytes.size() > room) return status::MoreData;
-  std::memcpy(data, bytes.data(), bytes.size());
-  return status::Success;
-}
 
 // All that `next` tells by index, until it fails.
 template <class Next>
@@ -232,7 +214,7 @@ RegistryStatus PretendRegistry::enumKey(RegistryKey key, std::uint32_t index, ch
   if (content == nullptr) return beneath_.enumKey(from.slot.beneath, index, name, length);
   if ((from.slot.rights & access::EnumerateSubKeys) == 0) return status::AccessDenied;
   if (index >= content->keys.size()) return status::NoMoreItems;
-  return copyName(content->keys.at(index).name, name, length);
+  return handName(content->keys.at(index).name, name, length);
 }
 
 RegistryStatus PretendRegistry::enumValue(RegistryKey key, std::uint32_t index, char* name,
@@ -247,7 +229,7 @@ RegistryStatus PretendRegistry::enumValue(RegistryKey key, std::uint32_t index, 
   if ((from.slot.rights & access::QueryValue) == 0) return status::AccessDenied;
   if (index >= content->values.size()) return status::NoMoreItems;
   const std::string& valueName = content->values.at(index).name;
-  const RegistryStatus named = copyName(valueName, name, length);
+  const RegistryStatus named = handName(valueName, name, length);
   return named != status::Success ? named : query(key, valueName, type, data, dataLength);
 }
 
@@ -262,7 +244,7 @@ RegistryStatus PretendRegistry::query(RegistryKey key, std::string_view name, Va
     if (value == nullptr) return status::FileNotFound;
     if (value->has_value()) {
       type = (*value)->type;
-      return copyData((*value)->bytes, data, dataLength);
+      return handData((*value)->bytes, data, dataLength);
     }
   }
   return beneath_.query(from.slot.beneath, name, type, data, dataLength);

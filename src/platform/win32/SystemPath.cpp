@@ -53,7 +53,7 @@ std::wstring wholePath(const std::wstring& given) {
 std::wstring withoutStandIns(std::wstring path) {
   if (path.find(L'<') == std::wstring::npos) return path;
   path = withoutDots(resolved(path, checkUnit));
-  if (path.find(L'<') != std::wstring::npos || wide(narrow(path)) != path) refuse();
+  if (path.find(L'<') != std::wstring::npos || wideFromAnsi(ansiFromWide(path)) != path) refuse();
   return path;
 }
 
@@ -65,14 +65,14 @@ void widen(const WIN32_FIND_DATAA& found, WIN32_FIND_DATAW& result) {
   result.nFileSizeHigh = found.nFileSizeHigh;
   result.nFileSizeLow = found.nFileSizeLow;
   result.dwReserved0 = 0;
-  const std::wstring name = wide(found.cFileName);
+  const std::wstring name = wideFromAnsi(found.cFileName);
   result.cFileName[name.copy(result.cFileName, MAX_PATH - 1)] = L'\0';
 }
 
 HANDLE findFirst(const std::wstring& path, WIN32_FIND_DATAW& found) {
   if (isNtFamily()) return FindFirstFileW(path.c_str(), &found);
   WIN32_FIND_DATAA ansi;
-  const HANDLE search = FindFirstFileA(narrow(path).c_str(), &ansi);
+  const HANDLE search = FindFirstFileA(ansiFromWide(path).c_str(), &ansi);
   if (search != INVALID_HANDLE_VALUE) widen(ansi, found);
   return search;
 }
@@ -81,11 +81,11 @@ HANDLE findFirst(const std::wstring& path, WIN32_FIND_DATAW& found) {
 
 SystemPath::SystemPath(std::string_view path) {
   if (path.empty() || path.find('\0') != std::string_view::npos) refuse();
-  wide_ = wide(path);
+  wide_ = wideFromAnsi(path);
   namesFolder_ = wide_.ends_with(L'\\') || wide_.ends_with(L'/');
   wide_ = isNtFamily() ? wholePath(wide_) : withoutStandIns(wide_);
   while (wide_.ends_with(L'\\') && !isRoot()) wide_.pop_back();
-  if (!isNtFamily()) ansi_ = narrow(wide_);
+  if (!isNtFamily()) ansi_ = ansiFromWide(wide_);
 }
 
 bool SystemPath::isRoot() const {

@@ -10,8 +10,8 @@ namespace {
 // Exactly: the code page's look-alikes do not count.
 std::string ansiOfUnit(char16_t unit) {
   const std::wstring text(1, static_cast<wchar_t>(unit));
-  const std::string ansi = narrow(text);
-  return wide(ansi) == text ? ansi : std::string();
+  const std::string ansi = ansiFromWide(text);
+  return wideFromAnsi(ansi) == text ? ansi : std::string();
 }
 
 std::u16string unitsOf(std::wstring_view text) {
@@ -20,7 +20,7 @@ std::u16string unitsOf(std::wstring_view text) {
 
 }  // namespace
 
-std::wstring wide(std::string_view text) {
+std::wstring wideFromAnsi(std::string_view text) {
   std::wstring result(text.size(), L'\0');  // no text grows: at most one unit for each byte
   const int length = MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()), result.data(),
                                          static_cast<int>(result.size()));
@@ -28,27 +28,11 @@ std::wstring wide(std::string_view text) {
   return result;
 }
 
-std::string narrow(std::wstring_view text) {
+std::string ansiFromWide(std::wstring_view text) {
   const int size = static_cast<int>(text.size());
   const int length = WideCharToMultiByte(CP_ACP, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
   std::string result(static_cast<std::size_t>(length), '\0');
   WideCharToMultiByte(CP_ACP, 0, text.data(), size, result.data(), length, nullptr, nullptr);
-  return result;
-}
-
-std::wstring wideFromUtf8(std::string_view text) {
-  std::wstring result(text.size(), L'\0');  // at most one unit for each byte
-  const int length = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
-                                         result.data(), static_cast<int>(result.size()));
-  result.resize(static_cast<std::size_t>(length));
-  return result;
-}
-
-std::string utf8FromWide(std::wstring_view text) {
-  std::string result(text.size() * 3, '\0');  // the most that a unit takes
-  const int length = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()),
-                                         result.data(), static_cast<int>(result.size()), nullptr, nullptr);
-  result.resize(static_cast<std::size_t>(length));
   return result;
 }
 
@@ -67,7 +51,7 @@ std::string toldName(std::wstring_view name) {
 
 std::string toldPath(std::wstring_view path) {
   const bool hasDrive = path.size() > 1 && path[1] == L':';
-  std::string result = hasDrive ? narrow(path.substr(0, 2)) : std::string();
+  std::string result = hasDrive ? ansiFromWide(path.substr(0, 2)) : std::string();
   if (hasDrive) path.remove_prefix(2);
   while (!path.empty()) {
     const std::size_t end = std::min(path.find(L'\\'), path.size());
@@ -84,7 +68,7 @@ std::wstring resolved(std::wstring_view text, const std::function<void(char16_t)
 }
 
 std::wstring untoldWide(std::string_view text) {
-  return resolved(wide(text));
+  return resolved(wideFromAnsi(text));
 }
 
 SYSTEMTIME recordOf(const SystemTime& time) {

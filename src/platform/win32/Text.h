@@ -11,10 +11,8 @@
 
 namespace zub {
 
-std::wstring wide(std::string_view text);
-std::string narrow(std::wstring_view text);
-std::wstring wideFromUtf8(std::string_view text);
-std::string utf8FromWide(std::wstring_view text);
+std::wstring wideFromAnsi(std::string_view text);
+std::string ansiFromWide(std::wstring_view text);
 
 // The NT family, whose calls take wide text; the 9x family has the ANSI ones only.
 bool isNtFamily();

@@ -1,5 +1,7 @@
 #include "platform/win32/Win32Clock.h"
 
+#include <algorithm>
+
 #include "base/RuntimeError.h"
 #include "platform/win32/Text.h"
 
@@ -20,7 +22,7 @@ std::string Win32Clock::timeText(const SystemTime& time) {
 }
 
 SystemTime Win32Clock::parse(std::string_view text) {
-  std::wstring wideText = wide(text);
+  std::wstring wideText = wideFromAnsi(text);
   DATE date = 0;
   SYSTEMTIME record;
   if (FAILED(VarDateFromStr(wideText.data(), LOCALE_USER_DEFAULT, 0, &date)) ||
@@ -30,11 +32,11 @@ SystemTime Win32Clock::parse(std::string_view text) {
 }
 
 std::uint64_t Win32Clock::ticks() {
-  LARGE_INTEGER frequency;
-  LARGE_INTEGER count;
+  LARGE_INTEGER frequency{};
+  LARGE_INTEGER count{};
   QueryPerformanceFrequency(&frequency);
   QueryPerformanceCounter(&count);
-  const auto perSecond = static_cast<std::uint64_t>(frequency.QuadPart);
+  const auto perSecond = static_cast<std::uint64_t>(std::max<LONGLONG>(1, frequency.QuadPart));  // 0: no counter
   const auto counted = static_cast<std::uint64_t>(count.QuadPart);
   return counted / perSecond * 1000 + counted % perSecond * 1000 / perSecond;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/host/win32/Utf8.h"
 #include "platform/win32/Text.h"
 
 namespace zub::console {
@@ -120,7 +121,7 @@ int width(Stream stream) {
 
 // The run-time library hands over what the code page holds of them.
 std::vector<std::string> words() {
-  const std::wstring whole = isNtFamily() ? std::wstring(GetCommandLineW()) : wide(GetCommandLineA());
+  const std::wstring whole = isNtFamily() ? std::wstring(GetCommandLineW()) : wideFromAnsi(GetCommandLineA());
   std::wstring_view line = whole;
   std::vector<std::string> result{utf8FromWide(takeProgram(line))};
   while (!line.empty()) result.push_back(utf8FromWide(takeWord(line)));

@@ -1,5 +1,7 @@
 #include "platform/win32/Win32Drives.h"
 
+#include <utility>
+
 #include "platform/host/win32/WindowsHeader.h"
 
 namespace zub {
@@ -28,20 +30,15 @@ bool Win32Drives::exists(std::string_view drive) {
 }
 
 DriveType Win32Drives::type(std::string_view drive) {
-  switch (kindOf(drive)) {
-    case DRIVE_REMOVABLE:
-      return DriveType::Removable;
-    case DRIVE_FIXED:
-      return DriveType::Fixed;
-    case DRIVE_REMOTE:
-      return DriveType::Network;
-    case DRIVE_CDROM:
-      return DriveType::CdRom;
-    case DRIVE_RAMDISK:
-      return DriveType::RamDisk;
-    default:
-      return DriveType::Unknown;
+  constexpr std::pair<UINT, DriveType> Types[] = {{DRIVE_REMOVABLE, DriveType::Removable},
+                                                  {DRIVE_FIXED, DriveType::Fixed},
+                                                  {DRIVE_REMOTE, DriveType::Network},
+                                                  {DRIVE_CDROM, DriveType::CdRom},
+                                                  {DRIVE_RAMDISK, DriveType::RamDisk}};
+  for (const auto& [kind, type] : Types) {
+    if (kind == kindOf(drive)) return type;
   }
+  return DriveType::Unknown;
 }
 
 }  // namespace zub

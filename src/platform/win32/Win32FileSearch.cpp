@@ -14,7 +14,7 @@ std::u16string upper(std::wstring text) {
   if (isNtFamily())
     CharUpperBuffW(text.data(), static_cast<DWORD>(text.size()));
   else
-    text = wide(Win32CodePage().upper(narrow(text)));
+    text = wideFromAnsi(Win32CodePage().upper(ansiFromWide(text)));
   return {text.begin(), text.end()};
 }
 

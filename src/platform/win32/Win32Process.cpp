@@ -27,10 +27,6 @@ std::string Win32Process::commandLine() {
   return std::string(trimLeft(line.substr(end + 1)));
 }
 
-bool Win32Process::otherInstanceRuns() {
-  return other_;
-}
-
 void Win32Process::end() {
   throw EndOfProcess{};
 }

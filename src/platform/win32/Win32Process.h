@@ -14,7 +14,7 @@ class Win32Process : public Process {
   ~Win32Process() override;
 
   std::string commandLine() override;
-  bool otherInstanceRuns() override;
+  bool otherInstanceRuns() override { return other_; }
   [[noreturn]] void end() override;
 
  private:

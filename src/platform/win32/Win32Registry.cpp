@@ -1,11 +1,10 @@
 #include "platform/win32/Win32Registry.h"
 
 #include <array>
-#include <cstring>
 #include <optional>
 #include <string>
-#include <utility>
 
+#include "platform/StoredData.h"
 #include "platform/win32/Text.h"
 
 namespace zub {
@@ -20,13 +19,6 @@ HKEY handleOf(RegistryKey key) {
 // The most that a name of a value has, in characters, with its NUL.
 constexpr DWORD NameRoom = 16384;
 
-RegistryStatus hand(const std::string& told, char* name, std::uint32_t& length) {
-  if (told.size() >= length) return ERROR_MORE_DATA;
-  std::memcpy(name, told.c_str(), told.size() + 1);
-  length = static_cast<std::uint32_t>(told.size());
-  return ERROR_SUCCESS;
-}
-
 // The text of a value that the code page does not hold exactly, as the program is told it: the ANSI call would take
 // look-alikes, and a folder's path lead elsewhere. Nothing for any other value.
 std::optional<std::string> beyondCodePage(HKEY key, const std::wstring& name) {
@@ -39,7 +31,7 @@ std::optional<std::string> beyondCodePage(HKEY key, const std::wstring& name) {
   if (RegQueryValueExW(key, name.c_str(), nullptr, nullptr, room, &size) != ERROR_SUCCESS)
     return std::nullopt;
   text.resize(size / sizeof(wchar_t));
-  if (wide(narrow(text)) == text) return std::nullopt;
+  if (wideFromAnsi(ansiFromWide(text)) == text) return std::nullopt;
   return told(text);
 }
 
@@ -77,7 +69,7 @@ RegistryStatus Win32Registry::enumKey(RegistryKey key, std::uint32_t index, char
     DWORD room = NameRoom;
     const LONG result =
         RegEnumKeyExW(handleOf(key), index, wideName.data(), &room, nullptr, nullptr, nullptr, nullptr);
-    return result == ERROR_SUCCESS ? hand(told({wideName.data(), room}), name, length) : result;
+    return result == ERROR_SUCCESS ? handName(told({wideName.data(), room}), name, length) : result;
   }
   DWORD room = length;
   const LONG result = RegEnumKeyExA(handleOf(key), index, name, &room, nullptr, nullptr, nullptr, nullptr);
@@ -85,8 +77,8 @@ RegistryStatus Win32Registry::enumKey(RegistryKey key, std::uint32_t index, char
   return result;
 }
 
-// The wide call tells the name and the ANSI one the data, which is told as the code page's text: only names are asked for
-// so, and data is queried.
+// The wide call tells the name and the ANSI one the data, which is told as the code page's text: only names are asked
+// for so, and data is queried.
 RegistryStatus Win32Registry::enumValue(RegistryKey key, std::uint32_t index, char* name,
                                         std::uint32_t& length, ValueType& type, std::uint8_t* data,
                                         std::uint32_t& dataLength) {
@@ -96,7 +88,7 @@ RegistryStatus Win32Registry::enumValue(RegistryKey key, std::uint32_t index, ch
     const LONG result =
         RegEnumValueW(handleOf(key), index, wideName.data(), &wideRoom, nullptr, nullptr, nullptr, nullptr);
     if (result != ERROR_SUCCESS) return result;
-    const RegistryStatus named = hand(told({wideName.data(), wideRoom}), name, length);
+    const RegistryStatus named = handName(told({wideName.data(), wideRoom}), name, length);
     if (named != ERROR_SUCCESS) return named;
     std::array<char, std::size_t{2} * NameRoom> ansiName;
     DWORD room = static_cast<DWORD>(ansiName.size());
@@ -129,15 +121,12 @@ RegistryStatus Win32Registry::query(RegistryKey key, std::string_view name, Valu
   const LONG result = RegQueryValueExA(handleOf(key), std::string(name).c_str(), nullptr, &kind, data, &size);
   if (result != ERROR_SUCCESS && result != ERROR_MORE_DATA) return result;
   type = ValueType{kind};
-  const std::uint32_t room = std::exchange(dataLength, size);
-  if (!isNtFamily() || !isText(type)) return result;
-  const std::optional<std::string> text = beyondCodePage(handleOf(key), wide(name));
-  if (!text) return result;
-  dataLength = static_cast<std::uint32_t>(text->size());
-  if (data == nullptr) return ERROR_SUCCESS;
-  if (text->size() > room) return ERROR_MORE_DATA;
-  std::memcpy(data, text->data(), text->size());
-  return ERROR_SUCCESS;
+  if (isNtFamily() && isText(type)) {
+    const auto text = beyondCodePage(handleOf(key), wideFromAnsi(name));
+    if (text) return handData(*text, data, dataLength);
+  }
+  dataLength = size;
+  return result;
 }
 
 RegistryStatus Win32Registry::set(RegistryKey key, std::string_view name, ValueType type,
@@ -145,8 +134,8 @@ RegistryStatus Win32Registry::set(RegistryKey key, std::string_view name, ValueT
   const std::string bytes(data.begin(), data.end());
   if (isNtFamily() && isText(type)) {
     const std::wstring text = untoldWide(bytes);
-    if (text != wide(bytes) && told(text) == bytes)
-      return RegSetValueExW(handleOf(key), wide(name).c_str(), 0, static_cast<DWORD>(type),
+    if (text != wideFromAnsi(bytes) && told(text) == bytes)
+      return RegSetValueExW(handleOf(key), wideFromAnsi(name).c_str(), 0, static_cast<DWORD>(type),
                             reinterpret_cast<const BYTE*>(text.c_str()),
                             static_cast<DWORD>(text.size() * sizeof(wchar_t)));
   }

@@ -13,7 +13,7 @@ std::string pathFrom(Wide wideCall, Ansi ansiCall) {
   if (!isNtFamily()) {
     std::string ansi(MAX_PATH, '\0');
     const DWORD length = ansiCall(ansi.data(), MAX_PATH);
-    path = length <= ansi.size() ? wide(ansi.substr(0, length)) : std::wstring();
+    path = length <= ansi.size() ? wideFromAnsi(ansi.substr(0, length)) : std::wstring();
   } else {
     DWORD length = wideCall(path.data(), MAX_PATH);
     path.resize(length <= path.size() ? length : 0);

@@ -19,7 +19,7 @@ class ComText {
 };
 
 std::string taskName(std::wstring_view stored) {
-  std::string name = narrow(stored);
+  std::string name = ansiFromWide(stored);
   if (name.size() > StoredEnding.size()) {
     const std::size_t length = name.size() - StoredEnding.size();
     if (lstrcmpiA(name.c_str() + length, StoredEnding.data()) == 0) name.resize(length);
@@ -45,114 +45,97 @@ void runAsThisUser(ComPointer<ITask>& task) {
   mustSucceed(task->SetAccountInformation((domain.empty() ? user : domain + L'\\' + user).c_str(), nullptr));
 }
 
-}  // namespace
-
-TASK_TRIGGER Win32Trigger::record() {
+TASK_TRIGGER recordOf(ComPointer<ITaskTrigger>& trigger) {
   TASK_TRIGGER record{};
   record.cbTriggerSize = sizeof record;
-  mustSucceed(trigger_->GetTrigger(&record));
+  mustSucceed(trigger->GetTrigger(&record));
   return record;
 }
 
-void Win32Trigger::store(TASK_TRIGGER record) {
-  mustSucceed(trigger_->SetTrigger(&record));
-}
-
-// A new trigger of the system is switched off until it has been given its type.
-void Win32Trigger::type(int type) {
-  TASK_TRIGGER changed = record();
-  changed.TriggerType = static_cast<TASK_TRIGGER_TYPE>(type);
-  changed.rgFlags &= ~DWORD{TASK_TRIGGER_FLAG_DISABLED};
-  store(changed);
-}
-
-void Win32Trigger::beginDate(const SystemTime& date) {
-  TASK_TRIGGER changed = record();
-  changed.wBeginYear = date.wYear;
-  changed.wBeginMonth = date.wMonth;
-  changed.wBeginDay = date.wDay;
-  store(changed);
-}
-
-void Win32Trigger::startTime(const SystemTime& time) {
-  TASK_TRIGGER changed = record();
-  changed.wStartHour = time.wHour;
-  changed.wStartMinute = time.wMinute;
-  store(changed);
-}
-
-std::string Win32Trigger::text() {
+std::string textOf(ComPointer<ITaskTrigger>& trigger) {
   ComText described;
-  if (SUCCEEDED(trigger_->GetTriggerString(described.out())) && !described.get().empty())
-    return narrow(described.get());
-  const TASK_TRIGGER trigger = record();
-  SystemTime time;
-  time.wYear = trigger.wBeginYear;
-  time.wMonth = trigger.wBeginMonth;
-  time.wDay = trigger.wBeginDay;
-  time.wHour = trigger.wStartHour;
-  time.wMinute = trigger.wStartMinute;
-  return "At " + localeTime(time, TIME_NOSECONDS) + " on " + localeDate(time);
+  if (SUCCEEDED(trigger->GetTriggerString(described.out())) && !described.get().empty())
+    return ansiFromWide(described.get());
+  const TASK_TRIGGER record = recordOf(trigger);
+  const SystemTime begin{record.wBeginYear, record.wBeginMonth,  0, record.wBeginDay,
+                         record.wStartHour, record.wStartMinute, 0, 0};
+  return "At " + localeTime(begin, TIME_NOSECONDS) + " on " + localeDate(begin);
 }
 
-int Win32Triggers::count() {
-  WORD count = 0;
-  mustSucceed(task_->GetTriggerCount(&count));
-  return count;
+}  // namespace
+
+// The tasks of others are only named; a task is loaded when it is first worked with.
+class Win32TaskScheduler::Task : public ScheduleTask, public ScheduleTriggers {
+ public:
+  // `task` may be empty: it is loaded then by its name.
+  Task(Win32TaskScheduler& owner, std::string name, ComPointer<ITask> task)
+      : owner_(owner), name_(std::move(name)), task_(std::move(task)) {}
+
+  std::string name() override { return name_; }
+  void application(std::string_view path) override {
+    mustSucceed(task()->SetApplicationName(untoldWide(path).c_str()));
+  }
+  void parameters(std::string_view text) override {
+    mustSucceed(task()->SetParameters(wideFromAnsi(text).c_str()));
+  }
+  void comment(std::string_view text) override {
+    mustSucceed(task()->SetComment(wideFromAnsi(text).c_str()));
+  }
+  ScheduleTriggers& triggers() override { return *this; }
+  void save() override {
+    ComPointer<IPersistFile> file;
+    mustSucceed(task()->QueryInterface(IID_IPersistFile, file.outVoid()));
+    mustSucceed(file->Save(nullptr, TRUE));
+  }
+  void showProperties() override { mustSucceed(task()->EditWorkItem(static_cast<HWND>(owner_.owner_()), 0)); }
+
+  std::vector<std::string> texts() override;
+  void add(const ScheduleTrigger& trigger) override;
+  void remove(int position) override {
+    mustSucceed(task()->DeleteTrigger(static_cast<WORD>(indexOf(position, count()))));
+  }
+
+ private:
+  ComPointer<ITask>& task() {
+    if (!task_)
+      mustSucceed(owner_.service()->Activate(wideFromAnsi(name_).c_str(), IID_ITask, task_.outUnknown()));
+    return task_;
+  }
+  WORD count() {
+    WORD count = 0;
+    mustSucceed(task()->GetTriggerCount(&count));
+    return count;
+  }
+
+  Win32TaskScheduler& owner_;
+  std::string name_;
+  ComPointer<ITask> task_;
+};
+
+std::vector<std::string> Win32TaskScheduler::Task::texts() {
+  std::vector<std::string> texts;
+  for (WORD index = 0; index < count(); ++index) {
+    ComPointer<ITaskTrigger> trigger;
+    mustSucceed(task()->GetTrigger(index, trigger.out()));
+    texts.push_back(textOf(trigger));
+  }
+  return texts;
 }
 
-WORD Win32Triggers::indexOf(int position) {
-  if (position < 1 || position > count()) throw RuntimeError(ErrorNumber::InvalidCall);
-  return static_cast<WORD>(position - 1);
-}
-
-std::unique_ptr<ScheduleTrigger> Win32Triggers::at(int position) {
-  ComPointer<ITaskTrigger> trigger;
-  mustSucceed(task_->GetTrigger(indexOf(position), trigger.out()));
-  return std::make_unique<Win32Trigger>(std::move(trigger));
-}
-
-std::unique_ptr<ScheduleTrigger> Win32Triggers::add() {
+// A new trigger of the system is switched off.
+void Win32TaskScheduler::Task::add(const ScheduleTrigger& trigger) {
   WORD index = 0;
-  ComPointer<ITaskTrigger> trigger;
-  mustSucceed(task_->CreateTrigger(&index, trigger.out()));
-  return std::make_unique<Win32Trigger>(std::move(trigger));
-}
-
-void Win32Triggers::remove(int position) {
-  mustSucceed(task_->DeleteTrigger(indexOf(position)));
-}
-
-ComPointer<ITask>& Win32Task::task() {
-  if (!task_) mustSucceed(service_->Activate(wide(name_).c_str(), IID_ITask, task_.outUnknown()));
-  return task_;
-}
-
-void Win32Task::application(std::string_view path) {
-  mustSucceed(task()->SetApplicationName(untoldWide(path).c_str()));
-}
-
-void Win32Task::parameters(std::string_view text) {
-  mustSucceed(task()->SetParameters(wide(text).c_str()));
-}
-
-void Win32Task::comment(std::string_view text) {
-  mustSucceed(task()->SetComment(wide(text).c_str()));
-}
-
-ScheduleTriggers& Win32Task::triggers() {
-  task();
-  return triggers_;
-}
-
-void Win32Task::save(int) {
-  ComPointer<IPersistFile> file;
-  mustSucceed(task()->QueryInterface(IID_IPersistFile, file.outVoid()));
-  mustSucceed(file->Save(nullptr, TRUE));
-}
-
-void Win32Task::showProperties() {
-  mustSucceed(task()->EditWorkItem(static_cast<HWND>(owner_()), 0));
+  ComPointer<ITaskTrigger> made;
+  mustSucceed(task()->CreateTrigger(&index, made.out()));
+  TASK_TRIGGER record = recordOf(made);
+  record.TriggerType = static_cast<TASK_TRIGGER_TYPE>(trigger.type);
+  record.rgFlags &= ~DWORD{TASK_TRIGGER_FLAG_DISABLED};
+  record.wBeginYear = trigger.begin.wYear;
+  record.wBeginMonth = trigger.begin.wMonth;
+  record.wBeginDay = trigger.begin.wDay;
+  record.wStartHour = trigger.begin.wHour;
+  record.wStartMinute = trigger.begin.wMinute;
+  mustSucceed(made->SetTrigger(&record));
 }
 
 ComPointer<ITaskScheduler>& Win32TaskScheduler::service() {
@@ -169,23 +152,17 @@ void Win32TaskScheduler::refresh() {
   LPWSTR* names = nullptr;
   ULONG fetched = 0;
   while (stored->Next(1, &names, &fetched) == S_OK && fetched == 1) {
-    tasks_.push_back(std::make_unique<Win32Task>(service(), owner_, taskName(names[0]), ComPointer<ITask>()));
+    keep(std::make_unique<Task>(*this, taskName(names[0]), ComPointer<ITask>()));
     CoTaskMemFree(names[0]);
     CoTaskMemFree(names);
   }
 }
 
-ScheduleTask& Win32TaskScheduler::at(int position) {
-  if (position < 1 || position > count()) throw RuntimeError(ErrorNumber::InvalidCall);
-  return *tasks_[static_cast<std::size_t>(position - 1)];
-}
-
 ScheduleTask& Win32TaskScheduler::add(std::string_view name) {
   ComPointer<ITask> task;
-  mustSucceed(service()->NewWorkItem(wide(name).c_str(), CLSID_CTask, IID_ITask, task.outUnknown()));
+  mustSucceed(service()->NewWorkItem(wideFromAnsi(name).c_str(), CLSID_CTask, IID_ITask, task.outUnknown()));
   runAsThisUser(task);
-  tasks_.push_back(std::make_unique<Win32Task>(service(), owner_, std::string(name), std::move(task)));
-  return *tasks_.back();
+  return keep(std::make_unique<Task>(*this, std::string(name), std::move(task)));
 }
 
 }  // namespace zub

@@ -26,10 +26,6 @@ void Clock::SetText(std::string_view text) {
                                    digitAt(time, 3), digitAt(time, 4)});
 }
 
-void Clock::Blink() {
-  show(colonIsVisible_, !colonIsVisible_);
-}
-
 Described Clock::described() const {
   std::string time;
   for (const int digit : digits_)

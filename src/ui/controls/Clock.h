@@ -18,7 +18,7 @@ class Clock : public Control {
   // is no digit, or that is missing, counts 0.
   void SetText(std::string_view text);
   // Shows the colon, or hides it.
-  void Blink();
+  void Blink() { show(colonIsVisible_, !colonIsVisible_); }
 
   // The four places from the left: a digit or Blank.
   const std::array<int, 4>& digits() const { return digits_; }

@@ -44,30 +44,6 @@ void Control::mouseUp(Mouse mouse) {
   if (clicked) onClick(part);
 }
 
-void Control::mouseDoubleClick(Mouse mouse) {
-  if (enabled_) onDoubleClick(mouse);
-}
-
-void Control::keyDown(std::int16_t code, std::int16_t shift) {
-  if (enabled_) onKeyDown(code, shift);
-}
-
-void Control::keyUp(std::int16_t code, std::int16_t shift) {
-  if (enabled_) onKeyUp(code, shift);
-}
-
-void Control::keyPress(std::int16_t ascii) {
-  if (enabled_) onKeyPress(ascii);
-}
-
-void Control::press() {
-  if (enabled_) onPress();
-}
-
-void Control::timerTick() {
-  if (timer_.Enabled) onTimer();
-}
-
 bool Control::holds(float x, float y) const {
   return x >= 0 && y >= 0 && x <= static_cast<float>(width()) && y <= static_cast<float>(height());
 }

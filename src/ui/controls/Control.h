@@ -105,12 +105,22 @@ class Control {
   void mouseMove(Mouse mouse);
   void mouseUp(Mouse mouse);
   // In place of the mouse down of a double click's second press.
-  void mouseDoubleClick(Mouse mouse);
-  void keyDown(std::int16_t code, std::int16_t shift);
-  void keyUp(std::int16_t code, std::int16_t shift);
-  void keyPress(std::int16_t ascii);
+  void mouseDoubleClick(Mouse mouse) {
+    if (enabled_) onDoubleClick(mouse);
+  }
+  void keyDown(std::int16_t code, std::int16_t shift) {
+    if (enabled_) onKeyDown(code, shift);
+  }
+  void keyUp(std::int16_t code, std::int16_t shift) {
+    if (enabled_) onKeyUp(code, shift);
+  }
+  void keyPress(std::int16_t ascii) {
+    if (enabled_) onKeyPress(ascii);
+  }
   // A click without the mouse: the caption's access key, or automation.
-  void press();
+  void press() {
+    if (enabled_) onPress();
+  }
   // For those who cannot see it. The parts that count by themselves are numbered from 0.
   virtual Described described() const { return {}; }
   virtual int parts() const { return 0; }
@@ -124,7 +134,9 @@ class Control {
 
   // The host calls timerTick once in each interval while the timer is enabled.
   const Timer& timer() const { return timer_; }
-  void timerTick();
+  void timerTick() {
+    if (timer_.Enabled) onTimer();
+  }
 
   // Stored properties, and the notice that one of them has changed.
   std::function<void(std::string_view name)> PropertyChanged;

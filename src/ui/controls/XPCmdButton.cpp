@@ -99,18 +99,6 @@ void XPCmdButton::onMouseUp(int, Mouse& mouse) {
   Redraw();
 }
 
-void XPCmdButton::onKeyDown(std::int16_t code, std::int16_t shift) {
-  raise(KeyDown, code, shift);
-}
-
-void XPCmdButton::onKeyUp(std::int16_t code, std::int16_t shift) {
-  raise(KeyUp, code, shift);
-}
-
-void XPCmdButton::onKeyPress(std::int16_t ascii) {
-  raise(KeyPress, ascii);
-}
-
 void XPCmdButton::onTimer() {
   if (!pointerHasLeft()) return;
   timer_.Enabled = false;

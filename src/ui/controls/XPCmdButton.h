@@ -44,9 +44,9 @@ class XPCmdButton : public Control {
   void onMouseMove(int part, Mouse& mouse) override;
   void onMouseUp(int part, Mouse& mouse) override;
   void onClick(int) override { raise(Click); }
-  void onKeyDown(std::int16_t code, std::int16_t shift) override;
-  void onKeyUp(std::int16_t code, std::int16_t shift) override;
-  void onKeyPress(std::int16_t ascii) override;
+  void onKeyDown(std::int16_t code, std::int16_t shift) override { raise(KeyDown, code, shift); }
+  void onKeyUp(std::int16_t code, std::int16_t shift) override { raise(KeyUp, code, shift); }
+  void onKeyPress(std::int16_t ascii) override { raise(KeyPress, ascii); }
   void onPress() override { raise(Click); }
   void onTimer() override;
   void onResize() override { Redraw(); }

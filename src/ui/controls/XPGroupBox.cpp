@@ -62,10 +62,6 @@ void XPGroupBox::paint(Surface& surface) const {
   title_.paint(surface, kit_.text, {title.left, title.top});
 }
 
-int XPGroupBox::partAt(float x, float y) const {
-  return titleBox().contains(x, y) ? Title : Surroundings;
-}
-
 void XPGroupBox::forward(const MouseEvent& event, int part, Mouse mouse) const {
   if (part == Title) mouse.X -= static_cast<float>(titleBox().left);
   raise(event, mouse.Button, mouse.Shift, mouse.X, mouse.Y);

@@ -31,7 +31,7 @@ class XPGroupBox : public Control {
   void WriteProperties(PropertyBag& bag, const Ambient& ambient) const override;
 
  protected:
-  int partAt(float x, float y) const override;
+  int partAt(float x, float y) const override { return titleBox().contains(x, y) ? Title : Surroundings; }
   void onMouseDown(int part, Mouse& mouse) override { forward(MouseDown, part, mouse); }
   void onMouseMove(int part, Mouse& mouse) override { forward(MouseMove, part, mouse); }
   void onMouseUp(int part, Mouse& mouse) override { forward(MouseUp, part, mouse); }

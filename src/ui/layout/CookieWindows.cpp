@@ -7,7 +7,7 @@ namespace {
 
 // What the two cookie windows have alike.
 template <class Keep>
-WindowSpec keepWindow(Keep& form, const Face& face, Controls controls) {
+WindowSpec keepWindow(Keep& form, const Face& face, Controls&& controls) {
   return {.face = face,
           .controls = std::move(controls),
           .form = [&form] { return &form.form; },

@@ -89,19 +89,9 @@ struct TextFont {
   bool bold;
 };
 constexpr TextFont fontOf(Text text) {
-  switch (text) {
-    case Text::Help:
-      return {"Arial Narrow", 7.5F, false};
-    case Text::Report:
-      return {"Arial", 9, false};
-    case Text::Bold:
-      return {"Arial", 8.25F, true};
-    case Text::Centred:
-      return {"Arial", 7.5F, false};
-    case Text::Normal:
-      break;
-  }
-  return {"Arial", 8.25F, false};
+  if (text == Text::Report) return {"Arial", 9, false};
+  const bool small = text == Text::Help || text == Text::Centred;
+  return {text == Text::Help ? "Arial Narrow" : "Arial", small ? 7.5F : 8.25F, text == Text::Bold};
 }
 
 struct IconListState {

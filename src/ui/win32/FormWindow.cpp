@@ -81,14 +81,8 @@ bool FormWindow::takesMessage(MSG& message) {
 
 bool FormWindow::takesKey(const MSG& key) {
   if (key.message != WM_KEYDOWN) return false;
-  switch (key.wParam) {
-    case VK_ESCAPE:
-      return takesEscape(key.hwnd);
-    case VK_TAB:
-      return GetKeyState(VK_CONTROL) < 0 && turnPage(GetKeyState(VK_SHIFT) < 0 ? -1 : 1);
-    default:
-      return false;
-  }
+  if (key.wParam == VK_ESCAPE) return takesEscape(key.hwnd);
+  return key.wParam == VK_TAB && GetKeyState(VK_CONTROL) < 0 && turnPage(GetKeyState(VK_SHIFT) < 0 ? -1 : 1);
 }
 
 // At once, not when the mouse next moves.

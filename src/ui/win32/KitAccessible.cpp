@@ -1,16 +1,15 @@
 #include "ui/win32/KitAccessible.h"
 
 #include "platform/host/win32/LoadedCall.h"
+#include "platform/win32/Text.h"
 #include "ui/controls/CaptionLabel.h"
 
 namespace zub {
 namespace {
 
 BSTR systemText(const std::string& text) {
-  const int size = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');
-  const int length = MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), size);
-  return SysAllocStringLen(wide.data(), static_cast<UINT>(length));
+  const std::wstring wide = wideFromAnsi(text);
+  return SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
 }
 
 HRESULT answer(const std::string& text, BSTR* result) {
@@ -25,23 +24,10 @@ HRESULT answer(LONG number, VARIANT* result) {
 }
 
 LONG roleOf(controls::Role role) {
-  switch (role) {
-    case controls::Role::Button:
-      return ROLE_SYSTEM_PUSHBUTTON;
-    case controls::Role::CheckBox:
-      return ROLE_SYSTEM_CHECKBUTTON;
-    case controls::Role::Group:
-      return ROLE_SYSTEM_GROUPING;
-    case controls::Role::List:
-      return ROLE_SYSTEM_LIST;
-    case controls::Role::ListItem:
-      return ROLE_SYSTEM_LISTITEM;
-    case controls::Role::Clock:
-      return ROLE_SYSTEM_CLOCK;
-    case controls::Role::Picture:
-      break;
-  }
-  return ROLE_SYSTEM_GRAPHIC;
+  constexpr LONG Roles[] = {ROLE_SYSTEM_GRAPHIC,  ROLE_SYSTEM_PUSHBUTTON, ROLE_SYSTEM_CHECKBUTTON,
+                            ROLE_SYSTEM_GROUPING, ROLE_SYSTEM_LIST,       ROLE_SYSTEM_LISTITEM,
+                            ROLE_SYSTEM_CLOCK};  // by Role
+  return Roles[static_cast<std::size_t>(role)];
 }
 
 }  // namespace
@@ -54,10 +40,6 @@ KitAccessible* KitAccessible::make(HWND window, controls::Control& control) {
   if (create == nullptr || FAILED(create(window, OBJID_CLIENT, __uuidof(IAccessible), &system)))
     return nullptr;
   return new KitAccessible(window, control, static_cast<IAccessible*>(system));
-}
-
-KitAccessible::~KitAccessible() {
-  system_->Release();
 }
 
 LRESULT KitAccessible::handOut(WPARAM wParam) {
@@ -91,26 +73,12 @@ STDMETHODIMP KitAccessible::QueryInterface(REFIID id, void** object) {
   return S_OK;
 }
 
-STDMETHODIMP_(ULONG) KitAccessible::AddRef() {
-  return ++references_;
-}
-
 STDMETHODIMP_(ULONG) KitAccessible::Release() {
   const ULONG left = --references_;
   if (left == 0) delete this;
   return left;
 }
 
-STDMETHODIMP KitAccessible::GetTypeInfoCount(UINT* count) {
-  return system_->GetTypeInfoCount(count);
-}
-STDMETHODIMP KitAccessible::GetTypeInfo(UINT number, LCID language, ITypeInfo** info) {
-  return system_->GetTypeInfo(number, language, info);
-}
-STDMETHODIMP KitAccessible::GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID language,
-                                          DISPID* ids) {
-  return system_->GetIDsOfNames(id, names, count, language, ids);
-}
 STDMETHODIMP KitAccessible::Invoke(DISPID member, REFIID, LCID language, WORD flags, DISPPARAMS* parameters,
                                    VARIANT* result, EXCEPINFO* failure, UINT* argument) {
   ITypeInfo* info = nullptr;
@@ -120,10 +88,6 @@ STDMETHODIMP KitAccessible::Invoke(DISPID member, REFIID, LCID language, WORD fl
       info->Invoke(static_cast<IAccessible*>(this), member, flags, parameters, result, failure, argument);
   info->Release();
   return done;
-}
-
-STDMETHODIMP KitAccessible::get_accParent(IDispatch** parent) {
-  return system_->get_accParent(parent);
 }
 
 STDMETHODIMP KitAccessible::get_accChildCount(LONG* count) {
@@ -253,29 +217,6 @@ STDMETHODIMP KitAccessible::accHitTest(LONG left, LONG top, VARIANT* child) {
     if (control_->partPlace(part).contains(static_cast<float>(at.x), static_cast<float>(at.y)))
       return answer(part + 1, child);
   return system_->accHitTest(left, top, child);
-}
-
-STDMETHODIMP KitAccessible::get_accValue(VARIANT, BSTR* value) {
-  *value = nullptr;
-  return S_FALSE;
-}
-STDMETHODIMP KitAccessible::get_accDescription(VARIANT, BSTR* description) {
-  *description = nullptr;
-  return S_FALSE;
-}
-STDMETHODIMP KitAccessible::get_accHelp(VARIANT, BSTR* help) {
-  *help = nullptr;
-  return S_FALSE;
-}
-STDMETHODIMP KitAccessible::get_accHelpTopic(BSTR* file, VARIANT, LONG*) {
-  *file = nullptr;
-  return S_FALSE;
-}
-STDMETHODIMP KitAccessible::put_accName(VARIANT, BSTR) {
-  return S_FALSE;
-}
-STDMETHODIMP KitAccessible::put_accValue(VARIANT, BSTR) {
-  return S_FALSE;
 }
 
 void tellAccessible(DWORD event, HWND window, LONG child) {

@@ -22,25 +22,29 @@ class KitAccessible final : public IAccessible {
   void disconnect() { control_ = nullptr; }
 
   STDMETHODIMP QueryInterface(REFIID id, void** object) override;
-  STDMETHODIMP_(ULONG) AddRef() override;
+  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
   STDMETHODIMP_(ULONG) Release() override;
 
-  STDMETHODIMP GetTypeInfoCount(UINT* count) override;
-  STDMETHODIMP GetTypeInfo(UINT number, LCID language, ITypeInfo** info) override;
-  STDMETHODIMP GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID language, DISPID* ids) override;
+  STDMETHODIMP GetTypeInfoCount(UINT* count) override { return system_->GetTypeInfoCount(count); }
+  STDMETHODIMP GetTypeInfo(UINT number, LCID language, ITypeInfo** info) override {
+    return system_->GetTypeInfo(number, language, info);
+  }
+  STDMETHODIMP GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID language, DISPID* ids) override {
+    return system_->GetIDsOfNames(id, names, count, language, ids);
+  }
   STDMETHODIMP Invoke(DISPID member, REFIID id, LCID language, WORD flags, DISPPARAMS* parameters,
                       VARIANT* result, EXCEPINFO* failure, UINT* argument) override;
 
-  STDMETHODIMP get_accParent(IDispatch** parent) override;
+  STDMETHODIMP get_accParent(IDispatch** parent) override { return system_->get_accParent(parent); }
   STDMETHODIMP get_accChildCount(LONG* count) override;
   STDMETHODIMP get_accChild(VARIANT child, IDispatch** object) override;
   STDMETHODIMP get_accName(VARIANT child, BSTR* name) override;
-  STDMETHODIMP get_accValue(VARIANT child, BSTR* value) override;
-  STDMETHODIMP get_accDescription(VARIANT child, BSTR* description) override;
+  STDMETHODIMP get_accValue(VARIANT, BSTR* value) override { return none(value); }
+  STDMETHODIMP get_accDescription(VARIANT, BSTR* description) override { return none(description); }
   STDMETHODIMP get_accRole(VARIANT child, VARIANT* role) override;
   STDMETHODIMP get_accState(VARIANT child, VARIANT* state) override;
-  STDMETHODIMP get_accHelp(VARIANT child, BSTR* help) override;
-  STDMETHODIMP get_accHelpTopic(BSTR* file, VARIANT child, LONG* topic) override;
+  STDMETHODIMP get_accHelp(VARIANT, BSTR* help) override { return none(help); }
+  STDMETHODIMP get_accHelpTopic(BSTR* file, VARIANT, LONG*) override { return none(file); }
   STDMETHODIMP get_accKeyboardShortcut(VARIANT child, BSTR* shortcut) override;
   STDMETHODIMP get_accFocus(VARIANT* child) override;
   STDMETHODIMP get_accSelection(VARIANT* children) override;
@@ -50,14 +54,18 @@ class KitAccessible final : public IAccessible {
   STDMETHODIMP accNavigate(LONG direction, VARIANT start, VARIANT* end) override;
   STDMETHODIMP accHitTest(LONG left, LONG top, VARIANT* child) override;
   STDMETHODIMP accDoDefaultAction(VARIANT child) override;
-  STDMETHODIMP put_accName(VARIANT child, BSTR name) override;
-  STDMETHODIMP put_accValue(VARIANT child, BSTR value) override;
+  STDMETHODIMP put_accName(VARIANT, BSTR) override { return S_FALSE; }
+  STDMETHODIMP put_accValue(VARIANT, BSTR) override { return S_FALSE; }
 
  private:
   KitAccessible(HWND window, controls::Control& control, IAccessible* system)
       : window_(window), control_(&control), system_(system) {}
-  ~KitAccessible();
+  ~KitAccessible() { system_->Release(); }
 
+  static HRESULT none(BSTR* text) {
+    *text = nullptr;
+    return S_FALSE;
+  }
   // Which part is meant: a number from 0, or Itself. False for one that is not there.
   static constexpr int Itself = -1;
   bool finds(const VARIANT& child, int& part) const;

@@ -1,4 +1,6 @@
 // The controls of the kit, each tied to the state that it shows.
+#include <utility>
+
 #include "engine/TaskTable.h"
 #include "ui/controls/Clock.h"
 #include "ui/controls/ListBox.h"
@@ -14,13 +16,19 @@ namespace {
 
 using layout::Kind;
 
+template <class T>
+T& make(KitHost::Parts& parts, const ViewSite& site) {
+  auto control = std::make_unique<T>(site.ui.kit);
+  T& made = *control;
+  parts.control = std::move(control);
+  return made;
+}
+
 KitHost::Parts button(const ViewSite& site) {
-  auto control = std::make_unique<controls::XPCmdButton>(site.ui.kit);
-  controls::XPCmdButton& button = *control;
+  KitHost::Parts parts;
+  auto& button = make<controls::XPCmdButton>(parts, site);
   button.Caption(site.caption());
   button.Click = site.click();
-  KitHost::Parts parts;
-  parts.control = std::move(control);
   if (const auto* state = site.bound<const Button*>()) {
     parts.show = [&button, state] {
       if (button.Caption() != state->Caption) button.Caption(state->Caption);
@@ -34,12 +42,10 @@ KitHost::Parts button(const ViewSite& site) {
 }
 
 KitHost::Parts check(const ViewSite& site) {
-  auto control = std::make_unique<controls::XPCheck>(site.ui.kit);
-  controls::XPCheck& box = *control;
+  KitHost::Parts parts;
+  auto& box = make<controls::XPCheck>(parts, site);
   box.Caption(site.caption());
   CheckOption& option = *site.bound<CheckOption*>();
-  KitHost::Parts parts;
-  parts.control = std::move(control);
   // A write of the box raises its click also where it only follows the option.
   const auto writesOption = [&box, &option] { option.Value(static_cast<int>(box.Value())); };
   box.Click = writesOption;
@@ -57,17 +63,15 @@ KitHost::Parts check(const ViewSite& site) {
 }
 
 KitHost::Parts group(const ViewSite& site) {
-  auto control = std::make_unique<controls::XPGroupBox>(site.ui.kit);
-  control->Caption(site.caption());
   KitHost::Parts parts;
-  parts.control = std::move(control);
+  make<controls::XPGroupBox>(parts, site).Caption(site.caption());
   if (const auto* state = site.bound<const Group*>()) parts.visible = [state] { return state->Visible; };
   return parts;
 }
 
 KitHost::Parts iconList(const ViewSite& site) {
-  auto control = std::make_unique<controls::ListBox>(site.ui.kit);
-  controls::ListBox& list = *control;
+  KitHost::Parts parts;
+  auto& list = make<controls::ListBox>(parts, site);
   const auto state = site.bound<layout::IconListState>();
   list.ClickSelect = [state](std::int16_t& row) { state.ClickSelect(row); };
   list.ClickCheck = [state, &list](std::int16_t& row) {
@@ -77,8 +81,6 @@ KitHost::Parts iconList(const ViewSite& site) {
   for (const TaskRow& task : taskTable())
     if (task.iconRow >= 0) list.ItemName(static_cast<std::int16_t>(task.iconRow), task.status);
   list.Initialise();
-  KitHost::Parts parts;
-  parts.control = std::move(control);
   parts.show = [state, &list] {
     for (std::int16_t row = 0; row < controls::ListBox::Items; ++row) {
       if (list.Check(row) != state.checks->Check(row))
@@ -91,11 +93,9 @@ KitHost::Parts iconList(const ViewSite& site) {
 }
 
 KitHost::Parts clock(const ViewSite& site) {
-  auto control = std::make_unique<controls::Clock>(site.ui.kit);
-  controls::Clock& clock = *control;
-  const auto* display = site.bound<const ClockDisplay*>();
   KitHost::Parts parts;
-  parts.control = std::move(control);
+  auto& clock = make<controls::Clock>(parts, site);
+  const auto* display = site.bound<const ClockDisplay*>();
   parts.show = [&clock, display, shown = std::string()]() mutable {
     if (changes(shown, display->text)) clock.SetText(shown);
     if (clock.colonIsVisible() != display->colon) clock.Blink();
@@ -104,19 +104,15 @@ KitHost::Parts clock(const ViewSite& site) {
 }
 
 KitHost::Parts closeButton(const ViewSite& site) {
-  auto control = std::make_unique<controls::ZUBCloseButton>(site.ui.kit);
-  control->Click = site.click();
   KitHost::Parts parts;
-  parts.control = std::move(control);
+  make<controls::ZUBCloseButton>(parts, site).Click = site.click();
   return parts;
 }
 
 KitHost::Parts picture(const ViewSite& site) {
-  auto control = std::make_unique<PictureControl>(site.ui.kit);
-  PictureControl& picture = *control;
-  picture.picture(site.spec.caption);
   KitHost::Parts parts;
-  parts.control = std::move(control);
+  auto& picture = make<PictureControl>(parts, site);
+  picture.picture(site.spec.caption);
   if (const auto* image = site.bound<const Image*>())
     parts.show = [&picture, image] { picture.picture(artOf(image->picture)); };
   if (const auto* shown = site.bound<const bool*>()) parts.visible = [shown] { return *shown; };
@@ -130,45 +126,31 @@ KitHost::Parts line(const ViewSite& site) {
 }
 
 KitHost::Parts partsOf(const ViewSite& site) {
-  switch (site.spec.kind) {
-    case Kind::Button:
-      return button(site);
-    case Kind::Check:
-      return check(site);
-    case Kind::Group:
-      return group(site);
-    case Kind::IconList:
-      return iconList(site);
-    case Kind::Clock:
-      return clock(site);
-    case Kind::CloseButton:
-      return closeButton(site);
-    case Kind::Picture:
-      return picture(site);
-    case Kind::Line:
-      return line(site);
-    default:
-      return {};
+  constexpr std::pair<Kind, KitHost::Parts (*)(const ViewSite&)> Makers[] = {
+      {Kind::Button, button},     {Kind::Check, check}, {Kind::Group, group},
+      {Kind::IconList, iconList}, {Kind::Clock, clock}, {Kind::CloseButton, closeButton},
+      {Kind::Picture, picture},   {Kind::Line, line}};
+  for (const auto& [kind, parts] : Makers) {
+    if (kind == site.spec.kind) return parts(site);
   }
+  return {};
 }
 
 }  // namespace
 
 std::string_view artOf(Picture picture) {
-  constexpr std::string_view Names[] = {
-      "",
-      "mark-open",
-      "mark-done",
-      "animation-0",
-      "animation-1",
-      "animation-2",
-      "animation-3",
-      "animation-4",
-      "animation-5",
-      "kind-registry",
-      "kind-folder",
-      "kind-files",
-  };
+  constexpr std::string_view Names[] = {"",
+                                        "mark-open",
+                                        "mark-done",
+                                        "animation-0",
+                                        "animation-1",
+                                        "animation-2",
+                                        "animation-3",
+                                        "animation-4",
+                                        "animation-5",
+                                        "kind-registry",
+                                        "kind-folder",
+                                        "kind-files"};
   static_assert(std::size(Names) == static_cast<std::size_t>(Picture::KindFiles) + 1);
   return Names[static_cast<std::size_t>(picture)];
 }

@@ -1,36 +1,29 @@
 #include "ui/win32/NativeViews.h"
 
+#include <utility>
+
 namespace zub {
 
 std::unique_ptr<View> makeNativeView(const ViewSite& site) {
   using layout::Kind;
-  switch (site.spec.kind) {
-    case Kind::Label:
-      return makeLabel(site);
-    case Kind::Edit:
-    case Kind::Memo:
-    case Kind::Content:
-      return makeEdit(site);
-    case Kind::Report:
-      return makeReport(site);
-    case Kind::List:
-      return makeList(site);
-    case Kind::CheckList:
-      return makeCheckList(site);
-    case Kind::DropDown:
-    case Kind::EditCombo:
-      return makeCombo(site);
-    case Kind::Radio:
-      return makeRadio(site);
-    case Kind::Tabs:
-      return makeTabs(site);
-    case Kind::StatusBar:
-      return makeStatusBar(site);
-    case Kind::ProgramIcon:
-      return makeProgramIcon(site);
-    default:
-      return nullptr;
+  constexpr std::pair<Kind, std::unique_ptr<View> (*)(const ViewSite&)> Makers[] = {
+      {Kind::Label, makeLabel},
+      {Kind::Edit, makeEdit},
+      {Kind::Memo, makeEdit},
+      {Kind::Content, makeEdit},
+      {Kind::Report, makeReport},
+      {Kind::List, makeList},
+      {Kind::CheckList, makeCheckList},
+      {Kind::DropDown, makeCombo},
+      {Kind::EditCombo, makeCombo},
+      {Kind::Radio, makeRadio},
+      {Kind::Tabs, makeTabs},
+      {Kind::StatusBar, makeStatusBar},
+      {Kind::ProgramIcon, makeProgramIcon}};
+  for (const auto& [kind, make] : Makers) {
+    if (kind == site.spec.kind) return make(site);
   }
+  return nullptr;
 }
 
 }  // namespace zub

@@ -21,19 +21,12 @@ SIZE WindowFrame::outerSize(int width, int height) const {
 }
 
 WindowFrame frameOf(layout::Border border) {
-  switch (border) {
-    case layout::Border::Fixed:
-      return {WS_CAPTION | WS_SYSMENU | WS_OVERLAPPED | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
-    case layout::Border::Minimise:
-      return {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_OVERLAPPED | WS_CLIPCHILDREN,
-              WS_EX_CONTROLPARENT};
-    case layout::Border::Dialog:
-      return {WS_CAPTION | WS_SYSMENU | WS_POPUP | WS_CLIPCHILDREN,
-              WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME};
-    case layout::Border::None:
-      break;
-  }
-  return {WS_POPUP | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
+  using layout::Border;
+  DWORD style = WS_CLIPCHILDREN;
+  style |= border == Border::Fixed || border == Border::Minimise ? DWORD{WS_OVERLAPPED} : DWORD{WS_POPUP};
+  if (border != Border::None) style |= WS_CAPTION | WS_SYSMENU;
+  if (border == Border::Minimise) style |= WS_MINIMIZEBOX;
+  return {style, WS_EX_CONTROLPARENT | (border == Border::Dialog ? DWORD{WS_EX_DLGMODALFRAME} : 0)};
 }
 
 int fittingDpi() {

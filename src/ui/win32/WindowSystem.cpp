@@ -2,11 +2,12 @@
 
 #include <algorithm>
 
+#include "platform/win32/Win32Clock.h"
+
 namespace zub {
 namespace {
 
-constexpr std::uint64_t ShowPause =
-    16;  // milliseconds between two comparisons of the windows with their forms
+constexpr std::uint64_t ShowPause = 16;   // milliseconds between two comparisons of windows and forms
 constexpr std::uint64_t IdlePause = 100;  // the longest sleep: the shortest interval of a form's timer
 // The kinds that Windows 98 knows. With one that came later it refuses the call, and the program would never sleep.
 constexpr DWORD AnyInput =
@@ -35,19 +36,13 @@ class WindowSystem::Heart : public OwnWindow {
 };
 
 WindowSystem::WindowSystem(Ui& ui) : ui_(ui) {
-  LARGE_INTEGER frequency;
-  QueryPerformanceFrequency(&frequency);
-  frequency_ = std::max<std::int64_t>(1, frequency.QuadPart);
   heart_ = std::make_unique<Heart>(ui, *this);
 }
 
 WindowSystem::~WindowSystem() = default;
 
-std::uint64_t WindowSystem::now() const {
-  LARGE_INTEGER count;
-  QueryPerformanceCounter(&count);
-  const std::int64_t seconds = count.QuadPart / frequency_;
-  return static_cast<std::uint64_t>(seconds * 1000 + count.QuadPart % frequency_ * 1000 / frequency_);
+std::uint64_t WindowSystem::now() {
+  return Win32Clock().ticks();
 }
 
 FormWindow& WindowSystem::add(layout::WindowSpec window) {

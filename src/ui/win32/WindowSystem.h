@@ -50,7 +50,7 @@ class WindowSystem : public EventLoop {
     std::vector<const FormWindow*> below;
   };
 
-  std::uint64_t now() const;  // milliseconds
+  static std::uint64_t now();  // milliseconds
   void pump();
   void dispatch(MSG& message);
   void serve();  // timers, then the windows if their time has come
@@ -58,7 +58,6 @@ class WindowSystem : public EventLoop {
   void wait();
 
   Ui& ui_;
-  std::int64_t frequency_;
   std::unique_ptr<Heart> heart_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<Later> later_;

@@ -3,6 +3,7 @@
 #include "kit/Play.h"
 #include "ui/controls/SimpleCheck.h"
 #include "ui/controls/XPCheck.h"
+#include "ui/controls/XPCmdButton.h"
 #include "ui/controls/XPGroupBox.h"
 
 using namespace zub;
@@ -80,36 +81,46 @@ TEST_CASE("a check box shows its value, and raises Click with every write") {
              });
 }
 
-TEST_CASE("stored properties of checks and groups come back, and loading raises no Click") {
+TEST_CASE("stored properties come back, but for a button's state; what stands as it was made is not stored") {
   Desk desk;
   const Ambient ambient = {"chkBleach", std::make_shared<Font>()};
-  PropertyBag bag;
-  XPCheck check(desk.kit);
+  PropertyBag bag, nothing;
+  XPCheck check(desk.kit), loadedCheck(desk.kit);
   check.InitProperties(ambient);
   CHECK(check.Caption() == "chkBleach");
   check.Value(1);
-  check.Enabled(false);
   check.BackColor(colors::Window);
   check.WriteProperties(bag, ambient);
   CHECK_FALSE(bag.holds("Caption"));
-  XPCheck loaded(desk.kit);
-  loaded.Click = [] { FAIL("no click"); };
-  loaded.ReadProperties(bag, ambient);
-  CHECK(loaded.Value() == 1);
-  CHECK_FALSE(loaded.Enabled());
-  CHECK(loaded.BackColor() == colors::Window);
+  loadedCheck.Click = [] { FAIL("no click"); };
+  loadedCheck.ReadProperties(bag, ambient);
+  CHECK(loadedCheck.Value() == 1);
+  CHECK(loadedCheck.BackColor() == colors::Window);
 
   XPGroupBox group(desk.kit);
   CHECK(group.BackColor() == colors::Page);
   group.ReadProperties(bag, {"grpIE", ambient.font});
   CHECK(group.Caption() == "grpIE");
-  CHECK_FALSE(group.Enabled());
   CHECK(group.BackColor() == colors::Window);
 
-  SimpleCheck simple(desk.kit);
-  simple.Value(SimpleCheck::Ticked);
-  simple.ReadProperties(PropertyBag(), ambient);
-  CHECK(simple.Value() == SimpleCheck::Empty);
+  XPCmdButton button(desk.kit), loaded(desk.kit);
+  button.InitProperties(ambient);
+  button.WriteProperties(nothing, ambient);
+  for (const char* name : {"State", "Enabled", "Caption", "Font"}) CHECK_FALSE(nothing.holds(name));
+  std::string changed;
+  button.PropertyChanged = [&](std::string_view name) { changed += std::string(name) + ";"; };
+  button.State(1);
+  button.Enabled(false);
+  button.Caption("&Stop");
+  button.Font(std::make_shared<Font>(Font{.Name = "Tahoma"}));
+  CHECK(changed == "State;Enabled;Caption;Font;");
+  button.WriteProperties(bag, ambient);
+  CHECK(bag.holds("State"));
+  loaded.ReadProperties(bag, ambient);
+  CHECK(loaded.State() == 0);
+  CHECK_FALSE(loaded.Enabled());
+  CHECK(loaded.Caption() == "&Stop");
+  CHECK(loaded.Font()->Name == "Tahoma");
 }
 
 TEST_CASE("the simple check turns to the complement of its value, and tells clicks only") {

@@ -109,32 +109,3 @@ TEST_CASE("keys are told and do not click; state and enabling choose the cell at
       {"enabled", enable(true), "", "0"},
   });
 }
-
-TEST_CASE("stored properties come back, but for the state") {
-  ButtonStage stage;
-  XPCmdButton& button = stage.button;
-  const Ambient ambient = {"cmdRemove", std::make_shared<Font>()};
-  PropertyBag bag;
-  button.InitProperties(ambient);
-  CHECK(button.Caption() == "cmdRemove");
-  CHECK(button.Font() == ambient.font);
-  button.WriteProperties(bag, ambient);
-  for (const char* name : {"State", "Enabled", "Caption", "Font"}) CHECK_FALSE(bag.holds(name));
-
-  std::string changed;
-  button.PropertyChanged = [&](std::string_view name) { changed += std::string(name) + ";"; };
-  button.State(1);
-  button.Enabled(false);
-  button.Caption("&Stop");
-  button.Font(std::make_shared<Font>(Font{.Name = "Tahoma"}));
-  CHECK(changed == "State;Enabled;Caption;Font;");
-  button.WriteProperties(bag, ambient);
-  CHECK(bag.ReadProperty("State", std::int32_t{0}) == 1);
-
-  XPCmdButton loaded(stage.desk.kit);
-  loaded.ReadProperties(bag, ambient);
-  CHECK(loaded.State() == 0);
-  CHECK_FALSE(loaded.Enabled());
-  CHECK(loaded.Caption() == "&Stop");
-  CHECK(loaded.Font()->Name == "Tahoma");
-}

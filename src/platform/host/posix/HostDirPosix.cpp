@@ -328,18 +328,9 @@ class PosixDir : public HostDir {
   }
 
   static int flagsOf(HostOpen mode) {
-    switch (mode) {
-      case HostOpen::Read:
-        return O_RDONLY;
-      case HostOpen::ReadWrite:
-        return O_RDWR;
-      case HostOpen::Make:
-      case HostOpen::Empty:
-        return O_RDWR | O_CREAT;
-      case HostOpen::New:
-        return O_RDWR | O_CREAT | O_EXCL;
-    }
-    return O_RDONLY;
+    constexpr int make = O_RDWR | O_CREAT;
+    constexpr int Flags[] = {O_RDONLY, O_RDWR, make, make, make | O_EXCL};  // by HostOpen
+    return Flags[static_cast<std::size_t>(mode)];
   }
 
   Handle handle_;

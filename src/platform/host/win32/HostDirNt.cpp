@@ -7,6 +7,7 @@
 #include "platform/host/win32/HostListNt.h"
 #include "platform/host/win32/NtCalls.h"
 #include "platform/host/win32/ReparsePoint.h"
+#include "platform/host/win32/Utf8.h"
 
 namespace zub {
 namespace {
@@ -35,7 +36,7 @@ constexpr ModeRow modes[] = {
 // One part of a path, so that no call can leave its folder; a colon would name a stream of the file, the others
 // are wildcards of the calls.
 bool isPart(const std::string& name) {
-  return !name.empty() && wideName(name).size() <= LongestName && name != "." && name != ".." &&
+  return !name.empty() && wideFromUtf8(name).size() <= LongestName && name != "." && name != ".." &&
          name.find_first_of(std::string_view("\\/:*?<>\"|\0", 10)) == std::string::npos;
 }
 
@@ -93,7 +94,7 @@ class HostDirNt : public HostDir {
 // The empty name opens the folder once more.
 NTSTATUS HostDirNt::open(const std::string& name, ACCESS_MASK rights, ULONG disposition, ULONG options,
                          NtHandle& opened) {
-  std::wstring wide = wideName(name);
+  std::wstring wide = wideFromUtf8(name);
   UNICODE_STRING text = unicodeText(wide);
   OBJECT_ATTRIBUTES object;
   InitializeObjectAttributes(&object, &text, OBJ_CASE_INSENSITIVE, folder_.get(), nullptr);
@@ -135,7 +136,7 @@ Opened HostDirNt::openKnown(const std::string& name, ACCESS_MASK rights, ULONG d
 bool HostDirNt::listedAsLink(const std::string& name) {
   NtHandle folder;
   if (open("", FolderRights, FILE_OPEN, FILE_DIRECTORY_FILE | Itself, folder) < 0) return false;
-  HostListNt listing(std::move(folder), wideName(name));
+  HostListNt listing(std::move(folder), wideFromUtf8(name));
   HostEntry entry;
   return listing.next(entry) && entry.stat.kind == HostKind::Link;
 }
@@ -223,7 +224,7 @@ HostError HostDirNt::rename(const std::string& from, const std::string& to) {
   if (!isPart(to)) return HostError::BadName;
   const Opened file = openKnown(from, RemoveRights, FILE_OPEN, 0);
   if (file.error != HostError::None) return file.error;
-  const std::wstring name = wideName(to);
+  const std::wstring name = wideFromUtf8(to);
   const std::size_t size = sizeof(FILE_RENAME_INFORMATION) + name.size() * sizeof(wchar_t);
   std::vector<ULONGLONG> room(size / sizeof(ULONGLONG) + 1);  // aligned as the record wants it
   auto* facts = reinterpret_cast<FILE_RENAME_INFORMATION*>(room.data());
@@ -252,8 +253,8 @@ HostError HostDirNt::take() {
 
 std::unique_ptr<HostDir> openHostDir(const std::string& path) {
   if (!nt().complete()) return nullptr;
-  const HANDLE opened = CreateFileW(wideName(path).c_str(), FolderRights, ShareAll, nullptr, OPEN_EXISTING,
-                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  const HANDLE opened = CreateFileW(wideFromUtf8(path).c_str(), FolderRights, ShareAll, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   if (opened == INVALID_HANDLE_VALUE) return nullptr;
   NtHandle folder(opened);
   FILE_NETWORK_OPEN_INFORMATION facts;

@@ -3,6 +3,7 @@
 #include <ntstatus.h>
 
 #include "platform/host/win32/ReparsePoint.h"
+#include "platform/host/win32/Utf8.h"
 
 namespace zub {
 namespace {
@@ -45,7 +46,7 @@ bool HostListNt::next(HostEntry& entry) {
                         reinterpret_cast<const char*>(&record) + record.NextEntryOffset);
     const std::wstring_view name(record.FileName, record.FileNameLength / sizeof(wchar_t));
     if (name == L"." || name == L"..") continue;
-    setName(entry.name, name.data(), name.size());
+    setUtf8(entry.name, name);
     entry.stat = hostStat(record.FileAttributes, record.EaSize, record.EndOfFile);
     entry.complete = true;
     return true;
@@ -68,9 +69,9 @@ HostError listShortNames(const NtHandle& folder, std::vector<ShortName>& names) 
       step = record.NextEntryOffset;
       if (record.ShortNameLength == 0) continue;
       ShortName& entry = names.emplace_back();
-      setName(entry.name, record.FileName, record.FileNameLength / sizeof(wchar_t));
-      setName(entry.shortName, record.ShortName,
-              static_cast<std::size_t>(record.ShortNameLength) / sizeof(wchar_t));
+      setUtf8(entry.name, {record.FileName, record.FileNameLength / sizeof(wchar_t)});
+      setUtf8(entry.shortName,
+              {record.ShortName, static_cast<std::size_t>(record.ShortNameLength) / sizeof(wchar_t)});
     }
   }
 }

@@ -72,24 +72,9 @@ HostError hostError(NTSTATUS status) {
   return HostError::DeviceFailure;
 }
 
-std::wstring wideName(const std::string& name) {
-  std::wstring result(name.size(), L'\0');  // no text grows: at most one unit for each byte
-  const int length = MultiByteToWideChar(CP_UTF8, 0, name.data(), static_cast<int>(name.size()),
-                                         result.data(), static_cast<int>(result.size()));
-  result.resize(static_cast<std::size_t>(length));
-  return result;
-}
-
 UNICODE_STRING unicodeText(std::wstring& text) {
   const auto bytes = static_cast<USHORT>(text.size() * sizeof(wchar_t));
   return {bytes, bytes, text.data()};
-}
-
-void setName(std::string& name, const wchar_t* wide, std::size_t length) {
-  name.resize(length * 3);  // the most that a unit takes
-  const int bytes = WideCharToMultiByte(CP_UTF8, 0, wide, static_cast<int>(length), name.data(),
-                                        static_cast<int>(name.size()), nullptr, nullptr);
-  name.resize(static_cast<std::size_t>(bytes));
 }
 
 }  // namespace zub

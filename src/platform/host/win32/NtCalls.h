@@ -30,10 +30,7 @@ const NtCalls& nt();
 
 HostError hostError(NTSTATUS status);
 
-// Host names are UTF-8 outside, UTF-16 in the calls.
-std::wstring wideName(const std::string& name);
 UNICODE_STRING unicodeText(std::wstring& text);  // stands on the text
-void setName(std::string& name, const wchar_t* wide, std::size_t length);
 
 // Closes a handle of the system when the scope ends.
 class NtHandle {
