@@ -28,6 +28,7 @@ struct TimedPc : ConsolePc {
   ConsoleLoop loop{"zub", [](std::string_view text) { return std::string(text); }};
   std::unique_ptr<ConsolePc> pc;
   MovedClock clock;
+  std::int64_t summerTime = 0;  // seconds that the clock was put on by
   Platform timed{};
   std::unique_ptr<CommandContext> context;
   std::unique_ptr<Scheduler> scheduler;
@@ -64,7 +65,7 @@ struct TimedPc : ConsolePc {
     clock.now.wHour = hour;
     clock.now.wMinute = minute;
     clock.now.wSecond = second;
-    scheduler->step(secondsOf(clock.now));
+    scheduler->step(secondsOf(clock.now) - summerTime);
     return !files.fileExists(Trace);
   }
 };
@@ -132,6 +133,38 @@ TEST_CASE("the scheduler keeps the automatic interval, and follows a change of i
     other->save();
   }
   CHECK_FALSE(pc.washesAt(11, 5, 0));
+}
+
+TEST_CASE(
+    "what falls into the hour that the clock leaves out as summer time begins comes at the next moment") {
+  const std::string dated = "task = ZUB\nparameters =  /SCHEDULER\ntrigger = 0 2001-09-14 ";
+  const struct {
+    const char* what;
+    std::string tasks;
+    int automatic, interval;  // its row
+    int begin;                // minutes past ten, when the interval begins
+    bool washes;
+  } rows[] = {
+      {"a dated wash", dated + "10:55\n", 0, 2, 20, true},
+      {"a dated wash behind it", dated + "11:51\n", 0, 2, 20, false},
+      {"a quarter of an hour", "", 1, 2, 36, true},
+      {"an hour", "", 1, 0, 20, true},
+      {"an interval to no time of any clock", "", 1, 2, 45, false},
+  };
+  for (const auto& row : rows) {
+    CAPTURE(row.what);
+    TimedPc pc([&](Options& options) {
+      options.chkRunAuto.Value(row.automatic);
+      options.ComboInterval.ListIndex(row.interval);
+    });
+    pc.tasks(row.tasks.c_str());
+    for (int minute = row.begin; minute <= 50; ++minute) {
+      CHECK_FALSE(pc.washesAt(10, static_cast<std::uint16_t>(minute), 31));
+    }
+    pc.summerTime = 3600;
+    CHECK(pc.washesAt(11, 50, 33) == row.washes);
+    CHECK_FALSE(pc.washesAt(11, 50, 34));
+  }
 }
 
 TEST_CASE("the scheduler says what comes next, and tells a damaged text once") {

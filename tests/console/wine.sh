@@ -72,6 +72,13 @@ printf '%s\r\n' 'HKey_Current_User\Software\Garden\Recent- Key*' >"$installed/Pl
 printf '%s\r\n' 'Cleans the garden.' '' >"$installed/Plugins/Garden.zb3"
 
 run 0 --version
+# Listing writes nothing, not even the settings that are missing.
+for words in options plugins "get passes" "plugin show Garden" schedule "cookies ie" preview; do
+  # shellcheck disable=SC2086
+  zub $words
+done
+exported 'HKEY_CURRENT_USER\Software' >"$work/registry"
+check "a listing wrote settings" [ "$(grep -c 'Software\\ZUB' "$work/registry")" -eq 0 ]
 run 0 set chkDocHistory=1 chkFindHistory=1 chkRunHistory=1 chkTempFolder=1 chkScanDisk=1 chkRecycleBin=1 chkOfficeMRU=1 \
   chkWMP=1 chkIE=1 chkIECookies=1 chkIEAutocomplete=1 chkLoadStartup=1 "ZUBPlugin Garden=1" \
   "ZUBStandardPlugin Windows Paint=1"

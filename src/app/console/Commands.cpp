@@ -16,17 +16,22 @@ constexpr CommandOption Only{"--only", "TASK,...",
                              "plugins for those that are ticked. The ticks stay as they are"};
 constexpr CommandOption Plugin{"--plugin", "NAME",
                                "just this plugin, ticked or not; beside other --plugin and --only"};
+constexpr CommandOption JsonForm{"--json", "",
+                                 "one JSON document on a line instead, which output.schema.json describes"};
+constexpr CommandOption listOptions[] = {JsonForm};
 constexpr CommandOption washOptions[] = {
     Only,
     Plugin,
     {"--yes", "", "do not ask; needed on the PC that it runs on where nobody can be asked"},
     {"--quiet", "", "say nothing but what stays behind"},
     {"--report", "FILE", "write the report to this file of this machine, too"},
+    JsonForm,
 };
 constexpr CommandOption previewOptions[] = {
     Only,
     Plugin,
     {"--list", "", "each thing on a line: its kind, a tab, its path, for a value a tab and its name"},
+    JsonForm,
 };
 constexpr CommandOption changesOptions[] = {
     {"--settings", "", "with the program's own settings and Run entries"},
@@ -57,7 +62,7 @@ constexpr std::array commandTable{
     Command{"options", "",
             "Lists what the settings store keeps, what each setting does and which values it takes.",
             "--pc /mnt/disk options",
-            {}, nullptr, optionsCommand},
+            listOptions, nullptr, optionsCommand},
     Command{"get", "NAME",
             "Tells the value of one setting.",
             "--pc /mnt/disk get passes",
@@ -69,7 +74,7 @@ constexpr std::array commandTable{
     Command{"plugins", "",
             "Lists the custom and standard plugins with their ticks.",
             "--pc /mnt/disk plugins",
-            {}, nullptr, pluginsCommand},
+            listOptions, nullptr, pluginsCommand},
     Command{"plugin show", "NAME",
             "Tells what a plugin, custom or standard, removes.",
             "--pc /mnt/disk plugin show ACDSee",
@@ -83,7 +88,7 @@ constexpr std::array commandTable{
             "Lists the cookies, or ticks those to keep. A range is such as 1-3; in a site \"*\" and \"?\" stand for any "
             "characters.",
             "--pc /mnt/disk cookies ie keep 1-3 \"*.example.org\"",
-            {}, checkCookies, cookiesCommand},
+            listOptions, checkCookies, cookiesCommand},
     Command{"changes", "[KEY]",
             "Writes changes.reg, what became of the registry's export. With a key only what lies at or below it.",
             "--pc /mnt/disk changes HKEY_LOCAL_MACHINE\\SOFTWARE",
@@ -103,7 +108,7 @@ constexpr std::array commandTable{
     Command{"schedule", "",
             "Lists the dated washes.",
             "--pc /mnt/disk schedule",
-            {}, checkSchedule, scheduleCommand},
+            listOptions, checkSchedule, scheduleCommand},
     Command{"scheduler", "",
             "Waits in the foreground and starts the program at each dated wash and interval, until it is interrupted.",
             "--pc /mnt/disk scheduler",

@@ -4,6 +4,7 @@
 
 #include "app/console/Commands.h"
 #include "app/console/CookieChoice.h"
+#include "app/console/Json.h"
 #include "base/Text.h"
 #include "cleaners/IECookies.h"
 #include "cleaners/NetscapeCookies.h"
@@ -38,7 +39,8 @@ std::string rowText(int number, const CookieRow& row) {
 
 // One list of cookies as the disk has it.
 struct List {
-  std::string heading;  // empty for none
+  std::string profile;  // of Netscape; empty for Internet Explorer
+  std::string folder;
   CookieRows rows;
   std::function<void(const CookieRows&)> save;
   bool changed = false;
@@ -47,9 +49,34 @@ struct List {
 void print(const CommandContext& context, const std::vector<List>& lists) {
   int number = 0;
   for (const List& list : lists) {
-    if (!list.heading.empty()) context.print(list.heading);
+    if (!list.profile.empty()) context.print("Profile " + list.profile + ", " + list.folder);
     for (const CookieRow& row : list.rows) context.print(rowText(++number, row));
   }
+}
+
+void printJson(const CommandContext& context, std::string_view browser, const std::vector<List>& lists) {
+  Json json(context, "cookies");
+  json.utf8("browser", browser);
+  int number = 0;
+  json.array("lists", [&] {
+    for (const List& list : lists) {
+      json.object([&] {
+        json.text("profile", list.profile);
+        json.text("folder", list.folder);
+        json.array("cookies", [&] {
+          for (const CookieRow& row : list.rows) {
+            json.object([&] {
+              json.number("number", ++number);
+              json.flag("kept", row.kept);
+              json.text("shown", trim(row.shown, " \t"));
+              json.text("detail", trim(row.detail, " \t"));
+            });
+          }
+        });
+      });
+    }
+  });
+  json.write();
 }
 
 // The cookies are numbered through all lists, from 1. Nothing is changed where one of the choices is none.
@@ -81,6 +108,7 @@ std::vector<List> internetExplorerLists(Engine& engine) {
     throw RuntimeError(ErrorNumber::PathNotFound, "the registry of this PC names no folder of cookies");
   }
   List list;
+  list.folder = folder;
   readIECookies(engine.pc, folder, list.rows);
   list.save = [&engine, folder](const CookieRows& rows) { saveIEKeepList(engine.pc, folder, rows); };
   return {list};
@@ -101,7 +129,8 @@ std::vector<List> netscapeLists(Engine& engine) {
   for (const NetscapeProfile& profile : profiles) {
     if (!seen.insert(engine.pc.codePage->upper(profile.folder)).second) continue;
     List list;
-    list.heading = "Profile " + profile.name + ", " + profile.folder;
+    list.profile = profile.name;
+    list.folder = profile.folder;
     readNetscapeCookies(files, profile.folder, list.rows);
     tickNetscapeKept(files, profile.folder, list.rows);
     list.save = [&files, folder = profile.folder](const CookieRows& rows) {
@@ -130,8 +159,11 @@ int cookiesCommand(CommandContext& context) {
   Engine engine(context.pc.platform(), options);
   const bool netscape = arguments[0] == "netscape";
   std::vector<List> lists = netscape ? netscapeLists(engine) : internetExplorerLists(engine);
-  if (!wanted.list()) {
-    change(context, wanted, lists);
+  if (!wanted.list()) change(context, wanted, lists);
+  if (context.given.has("--json")) {
+    printJson(context, arguments[0], lists);
+  } else if (!wanted.list()) {
+    return exitStatus::Done;
   } else if (netscape && lists.empty()) {
     context.print("Cannot find a copy of Netscape 6.x");
   } else {

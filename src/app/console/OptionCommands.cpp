@@ -3,6 +3,7 @@
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "app/console/Json.h"
 #include "app/console/NearMiss.h"
 #include "app/console/Store.h"
 #include "base/Text.h"
@@ -101,6 +102,23 @@ void readSettings(Program& program) {
   store.GetInfo2();
 }
 
+void printJson(const CommandContext& context, Options& options) {
+  Json json(context, "options");
+  json.text("lastRemoval", options.lblLastRemoval.Caption);
+  json.array("options", [&] {
+    for (const Setting& setting : settingsOf(options)) {
+      json.object([&] {
+        json.text("name", setting.name);
+        json.number("value", setting.value);
+        json.number("lowest", setting.lowest);
+        json.number("highest", setting.highest);
+        json.utf8("does", setting.meaning);
+      });
+    }
+  });
+  json.write();
+}
+
 }  // namespace
 
 void checkSet(const Given& given) {
@@ -115,7 +133,12 @@ void checkGet(const Given& given) {
 }
 
 int optionsCommand(CommandContext& context) {
-  Store store(context.pc.platform());
+  StoreToRead read(context.pc.platform(), context.loop, context.loop);
+  Store& store = read.store;
+  if (context.given.has("--json")) {
+    printJson(context, store.options);
+    return exitStatus::Done;
+  }
   context.print("lblLastRemoval=" + store.options.lblLastRemoval.Caption);
   for (const Setting& setting : settingsOf(store.options)) {
     context.print(setting.name + "=" + std::to_string(setting.value));
@@ -126,7 +149,8 @@ int optionsCommand(CommandContext& context) {
 }
 
 int getCommand(CommandContext& context) {
-  Store store(context.pc.platform());
+  StoreToRead read(context.pc.platform(), context.loop, context.loop);
+  Store& store = read.store;
   context.print(
       std::to_string(settingNamed(context, settingsOf(store.options), context.given.arguments[0]).value));
   return exitStatus::Done;

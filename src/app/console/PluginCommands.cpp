@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "app/console/Commands.h"
+#include "app/console/Json.h"
 #include "app/console/NearMiss.h"
 #include "app/console/Store.h"
 #include "base/RuntimeError.h"
@@ -16,6 +17,17 @@ void listRows(const CommandContext& context, const ListRows& rows) {
   for (int row = 0; row < rows.ListCount(); ++row) {
     context.print((rows.Selected(row) ? "  [x] " : "  [ ] ") + rows.List(row));
   }
+}
+
+void addRows(Json& json, std::string_view name, const ListRows& rows) {
+  json.array(name, [&] {
+    for (int row = 0; row < rows.ListCount(); ++row) {
+      json.object([&] {
+        json.text("name", rows.List(row));
+        json.flag("ticked", rows.Selected(row));
+      });
+    }
+  });
 }
 
 void printMeaning(const CommandContext& context, std::string_view text, Meaning::Verdict verdict) {
@@ -107,7 +119,16 @@ void checkPluginCheck(const Given& given) {
 }
 
 int pluginsCommand(CommandContext& context) {
-  Store store(context.pc.platform());
+  StoreToRead read(context.pc.platform(), context.loop, context.loop);
+  Store& store = read.store;
+  if (context.given.has("--json")) {
+    Json json(context, "plugins");
+    json.text("folder", store.plugins.CurPath());
+    addRows(json, "custom", store.options.lstFiles);
+    addRows(json, "standard", store.options.standardlist);
+    json.write();
+    return exitStatus::Done;
+  }
   context.print("Custom plugins in " + store.plugins.CurPath() + ":");
   listRows(context, store.options.lstFiles);
   context.print("Standard plugins:");
@@ -117,7 +138,8 @@ int pluginsCommand(CommandContext& context) {
 
 int pluginShowCommand(CommandContext& context) {
   const std::string& name = context.given.arguments[0];
-  Store store(context.pc.platform());
+  StoreToRead read(context.pc.platform(), context.loop, context.loop);
+  Store& store = read.store;
   const CatalogueRow* standard = store.catalogue.find(name);
   const bool custom = isRow(store.options.lstFiles, name);
   if (standard == nullptr && !custom)
@@ -129,7 +151,8 @@ int pluginShowCommand(CommandContext& context) {
 
 // Files of one plugin that stand side by side are read as one plugin's.
 int pluginCheckCommand(CommandContext& context) {
-  Store store(context.pc.platform());
+  StoreToRead read(context.pc.platform(), context.loop, context.loop);
+  Store& store = read.store;
   std::string plugin;
   PluginCheck check(store.engine);
   bool neverWorks = false;

@@ -1,5 +1,6 @@
 #include "app/PreviewText.h"
 #include "app/console/Commands.h"
+#include "app/console/Json.h"
 #include "app/console/Report.h"
 #include "app/console/Terminal.h"
 #include "app/console/WashChoice.h"
@@ -7,19 +8,50 @@
 namespace zub {
 namespace {
 
+std::string_view nameOf(Preview::Kind kind) {
+  switch (kind) {
+    case Preview::Kind::File:
+      return "file";
+    case Preview::Kind::Folder:
+      return "folder";
+    case Preview::Kind::Key:
+      return "key";
+    default:
+      return "value";
+  }
+}
+
 void printList(const CommandContext& context, Preview& preview) {
   preview.each([&](Preview::Kind kind, const std::string& path, const std::string& valueName) {
-    switch (kind) {
-      case Preview::Kind::File:
-        return context.printRow({"file", path});
-      case Preview::Kind::Folder:
-        return context.printRow({"folder", path});
-      case Preview::Kind::Key:
-        return context.printRow({"key", path});
-      case Preview::Kind::Value:
-        return context.printRow({"value", path, valueName});
-    }
+    if (kind == Preview::Kind::Value) return context.printRow({nameOf(kind), path, valueName});
+    context.printRow({nameOf(kind), path});
   });
+}
+
+void printJson(const CommandContext& context, Preview& preview) {
+  const Preview::Sums sums = preview.sums();
+  Json json(context, "preview");
+  json.number("files", sums.files);
+  json.number("bytes", sums.bytes);
+  json.number("folders", sums.folders);
+  json.number("keys", sums.keys);
+  json.number("values", sums.values);
+  json.array("foundNothing", [&] {
+    for (const std::string& name : sums.foundNothing) json.text("", name);
+  });
+  if (context.given.has("--list")) {
+    json.array("things", [&] {
+      preview.each([&](Preview::Kind kind, const std::string& path, const std::string& valueName) {
+        json.object([&] {
+          json.utf8("kind", nameOf(kind));
+          json.text("path", path);
+          if (kind == Preview::Kind::Value) json.text("name", valueName);
+        });
+      });
+    });
+  }
+  addReport(json, context, preview.program);
+  json.write();
 }
 
 }  // namespace
@@ -41,7 +73,9 @@ int previewCommand(CommandContext& context) {
     WashChoice(context.given).apply(program);
     preview.wash();
   }
-  if (list) {
+  if (context.given.has("--json")) {
+    printJson(context, preview);
+  } else if (list) {
     printList(context, preview);
   } else {
     context.print(PreviewHeading);

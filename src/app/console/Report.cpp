@@ -34,6 +34,25 @@ std::string reportText(const CommandContext& context, Program& program) {
          context.pc.toTerminal(program.options.lblLastRemoval.Caption) + "\n";
 }
 
+void addReport(Json& json, const CommandContext& context, const Program& program) {
+  std::string_view report = trimRight(program.engine.clean.txtResult, CrLf);
+  json.array("report", [&] {
+    while (!report.empty()) json.text("", takeLine(report));
+  });
+  json.array("left", [&] {
+    for (const LeftBehind& entry : program.engine.leftBehind) {
+      json.object([&] {
+        json.text("what", entry.what);
+        json.text("why", entry.why);
+        json.flag("unread", entry.unread);
+      });
+    }
+  });
+  json.array("failures", [&] {
+    for (const std::string& failure : context.pc.failures()) json.utf8("", failure);
+  });
+}
+
 void tellOddFolders(const CommandContext& context) {
   for (const std::string& folder : oddFolders(*context.pc.platform().registry)) {
     context.tell(context.pc.toTerminal(folder));

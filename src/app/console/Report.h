@@ -6,6 +6,7 @@
 
 #include "app/Program.h"
 #include "app/console/Commands.h"
+#include "app/console/Json.h"
 
 namespace zub {
 
@@ -20,6 +21,8 @@ struct Attached {
 
 // The report and the closing figures, for the terminal; empty where there was no wash.
 std::string reportText(const CommandContext& context, Program& program);
+// The same as members of a document, with what stayed behind and what failed.
+void addReport(Json& json, const CommandContext& context, const Program& program);
 // Tells the folders that a wash takes for others than the registry means.
 void tellOddFolders(const CommandContext& context);
 // Tells what, how much was tried and `happened`, such as "could not be removed"; the exit status of that.

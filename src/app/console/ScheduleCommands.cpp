@@ -2,6 +2,7 @@
 #include <optional>
 
 #include "app/console/Commands.h"
+#include "app/console/Json.h"
 #include "base/RuntimeError.h"
 #include "scheduler/DatedTask.h"
 
@@ -85,7 +86,21 @@ void checkScheduleRemove(const Given& given) {
 
 int scheduleCommand(CommandContext& context) {
   int number = 0;
-  for (const std::string& line : datedWashes(context.pc.platform())) {
+  const std::vector<std::string> washes = datedWashes(context.pc.platform());
+  if (context.given.has("--json")) {
+    Json json(context, "schedule");
+    json.array("washes", [&] {
+      for (const std::string& line : washes) {
+        json.object([&] {
+          json.number("number", ++number);
+          json.text("when", line);
+        });
+      }
+    });
+    json.write();
+    return exitStatus::Done;
+  }
+  for (const std::string& line : washes) {
     context.print(std::to_string(++number) + " " + line);
   }
   return exitStatus::Done;

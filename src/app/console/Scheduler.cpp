@@ -26,6 +26,11 @@ void guarded(const CommandContext& context, std::string& told, Work work) {
   }
 }
 
+// Some times of the interval are those of no clock.
+bool isOnClock(const SystemTime& time) {
+  return time.wHour < 24 && time.wMinute < 60;
+}
+
 }  // namespace
 
 Scheduler::Scheduler(CommandContext& context, std::int64_t passing)
@@ -33,6 +38,7 @@ Scheduler::Scheduler(CommandContext& context, std::int64_t passing)
       clock_(*context.pc.platform().clock),
       root_(openHostDir(context.pc.folder())),
       due_(clock_.local(), passing),
+      intervalDue_(clock_.local(), passing),
       automatic_(clock_, options_) {
   automatic_.startWash = [this] {
     if (waiting_.empty()) waiting_.push_back({"", washCommand});
@@ -48,9 +54,21 @@ void Scheduler::step(std::int64_t passing) {
   guarded(context_, tasksFailure_, [this] { readTasks(); });
   const int due = due_.look(times_, now, passing);
   for (int start = 0; start < due; ++start) waiting_.push_back({parameters_, startCommand});
-  automatic_.Timer_Tick();
+  lookAtInterval(now, passing);
   tellNext(now);
   while (!waiting_.empty() && start(waiting_.front())) waiting_.pop_front();
+}
+
+// The minute of the interval may be one that the clock left out as summer time began, or that passed in another wash.
+void Scheduler::lookAtInterval(const SystemTime& now, std::int64_t passing) {
+  std::vector<SystemTime> times;
+  if (options_.chkRunAuto.Value() == 1 && isOnClock(automatic_.NextRemoval))
+    times.push_back(automatic_.NextRemoval);
+  const bool due = intervalDue_.look(times, now, passing) > 0;
+  automatic_.Timer_Tick();
+  if (!due) return;
+  automatic_.SetNextRemovalTime();
+  automatic_.startWash();
 }
 
 // The PC as it is now. It can be washed while the tasks are damaged.
@@ -87,8 +105,7 @@ void Scheduler::tellNext(const SystemTime& now) {
   if (options_.chkRunAuto.Value() == 1) {
     const SystemTime& time = automatic_.NextRemoval;
     next += "\nNext wash by the interval: " + twoDigits(time.wHour) + ":" + twoDigits(time.wMinute);
-    const bool comes = time.wHour < 24 && time.wMinute < 60;
-    if (!comes) next += ", which no clock shows: switch chkRunAuto off for a minute";
+    if (!isOnClock(time)) next += ", which no clock shows: switch chkRunAuto off for a minute";
   }
   if (next == toldNext_) return;
   toldNext_ = next;

@@ -33,6 +33,7 @@ class Scheduler {
   std::unique_ptr<ConsolePc> openPc(const std::string& commandLine);
   void readTasks();
   void readOptions();
+  void lookAtInterval(const SystemTime& now, std::int64_t passing);
   void tellNext(const SystemTime& now);
   bool start(const Start& what);
 
@@ -40,6 +41,7 @@ class Scheduler {
   Clock& clock_;
   std::unique_ptr<HostDir> root_;
   DueTimes due_;
+  DueTimes intervalDue_;
   Options options_;
   AutomaticInterval automatic_;
   std::vector<SystemTime> times_;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "engine/Engine.h"
+#include "platform/pretend/PretendPc.h"
 #include "plugins/Catalogue.h"
 #include "plugins/Plugins.h"
 
@@ -20,6 +21,20 @@ class Store {
   Engine engine;
   Plugins plugins;
   Catalogue catalogue;
+};
+
+// The store for those who only look: what reading it writes, such as values that it lacks, stays away from the PC.
+class StoreToRead {
+ public:
+  StoreToRead(Platform& pc, EventLoop& events, Messages& messages)
+      : pretend_(pc), pc_(pretend_.platform(events, messages)), store(pc_) {}
+
+ private:
+  PretendPc pretend_;
+  Platform pc_;
+
+ public:
+  Store store;
 };
 
 }  // namespace zub

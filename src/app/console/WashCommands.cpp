@@ -1,14 +1,16 @@
+#include <exception>
 #include <functional>
-#include <optional>
 
 #include "app/PreviewText.h"
 #include "app/Program.h"
 #include "app/console/Commands.h"
 #include "app/console/Interrupt.h"
+#include "app/console/Json.h"
 #include "app/console/Report.h"
 #include "app/console/Store.h"
 #include "app/console/Terminal.h"
 #include "app/console/WashChoice.h"
+#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
@@ -16,15 +18,9 @@
 namespace zub {
 namespace {
 
-// What could not be saved. After a wash in the midst of the program it is tried again at the end.
-std::optional<PcError> saved(ConsolePc& pc) {
-  try {
-    pc.save();
-    pc.saveChanges(false, {});
-  } catch (const PcError& failure) {
-    return failure;
-  }
-  return std::nullopt;
+void save(ConsolePc& pc) {
+  pc.save();
+  pc.saveChanges(false, {});
 }
 
 // A file of this machine.
@@ -50,6 +46,26 @@ bool agreed(CommandContext& context, WashChoice choice) {
   return upperAscii(answer) == "Y" || upperAscii(answer) == "YES";
 }
 
+void printWash(const CommandContext& context, Program& program, const std::exception_ptr& failure) {
+  if (!context.given.has("--json")) {
+    if (!context.given.has("--quiet"))
+      terminal::write(terminal::Stream::Output, reportText(context, program));
+    return;
+  }
+  Json json(context, "wash");
+  json.flag("washed", true);
+  json.flag("interrupted", context.loop.interrupted());
+  json.number("bytes", program.engine.TotalBytes);
+  json.text("lastRemoval", program.options.lblLastRemoval.Caption);
+  addReport(json, context, program);
+  try {
+    if (failure) std::rethrow_exception(failure);
+  } catch (...) {
+    json.text("error", textOfFailure());
+  }
+  json.write();
+}
+
 // Runs the program from its start to the end of the process.
 int runProgram(CommandContext& context, WashChoice& choice, const std::function<void(Program&)>& afterStart) {
   context.pc.needWashable();
@@ -61,25 +77,42 @@ int runProgram(CommandContext& context, WashChoice& choice, const std::function<
   Program program(context.pc.platform());
   program.engine.clean.cleaners.ended = [&] {
     choice.restore(program.options);
-    saved(context.pc);
-  };
-  {
-    const Attached attached(context.loop, program);
     try {
-      program.start();
-      afterStart(program);
-      if (program.engine.animated.loaded()) program.engine.animated->cmdFinish_Click();
-      program.main.Unload();
-    } catch (const EndOfProcess&) {
+      save(context.pc);
+    } catch (const PcError&) {
+      // It is tried again at the end.
     }
-  }
-  const std::optional<PcError> unsaved = saved(context.pc);
-  const std::string report = reportText(context, program);
-  if (!context.given.has("--quiet")) terminal::write(terminal::Stream::Output, report);
-  if (context.given.has("--report")) saveReport(context.pc.utf8(context.given.valueOf("--report")), report);
-  if (unsaved) throw *unsaved;
-  if (!context.loop.interrupted()) needStoreSaved(program.engine.pc, program.options);
+  };
+  // What was done is saved and told, whatever fails.
+  std::exception_ptr failure;
+  const auto tried = [&failure](const std::function<void()>& work) {
+    try {
+      work();
+    } catch (const Refusal&) {
+      throw;  // before anything was done
+    } catch (const EndOfProcess&) {
+    } catch (...) {
+      if (!failure) failure = std::current_exception();
+    }
+  };
+  tried([&] {
+    const Attached attached(context.loop, program);
+    program.start();
+    afterStart(program);
+    if (program.engine.animated.loaded()) program.engine.animated->cmdFinish_Click();
+    program.main.Unload();
+  });
+  tried([&] { save(context.pc); });
+  tried([&] {
+    const std::string path = context.pc.utf8(context.given.valueOf("--report"));
+    if (!path.empty()) saveReport(path, reportText(context, program));
+  });
+  tried([&] {
+    if (!context.loop.interrupted()) needStoreSaved(program.engine.pc, program.options);
+  });
+  printWash(context, program, failure);
   const int status = tellLeftBehind(context, program, "could not be removed");
+  if (failure) std::rethrow_exception(failure);
   return context.loop.interrupted() ? interrupt::status() : status;
 }
 
@@ -94,7 +127,13 @@ int washCommand(CommandContext& context) {
   context.needAlone();
   WashChoice choice(context.given);
   if (!agreed(context, choice)) {
-    context.print("Nothing has been removed.");
+    if (context.given.has("--json")) {
+      Json json(context, "wash");
+      json.flag("washed", false);
+      json.write();
+    } else {
+      context.print("Nothing has been removed.");
+    }
     return exitStatus::Done;
   }
   return runProgram(context, choice, [&choice](Program& program) {
