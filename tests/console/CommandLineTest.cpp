@@ -73,7 +73,7 @@ TEST_CASE("the command line") {
       {"--pc '' wash", "--pc takes a folder"},
       {"polish", "there is no command \"polish\""},
       {"wsh", "there is no command \"wsh\": did you mean \"wash\"?"},
-      {"washh", "there is no command \"washh\": did you mean \"wash\"?"},
+      {"sett", "there is no command \"sett\": did you mean \"set\"?"},
       {"wahs", "there is no command \"wahs\": did you mean \"wash\"?"},
       {"Option", "there is no command \"Option\": did you mean \"options\"?"},
       {"plugin chekc", "there is no command \"plugin chekc\": did you mean \"check\"?"},
