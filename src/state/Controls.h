@@ -23,7 +23,7 @@ class Listener {
   Listener(const Listener&) {}
   Listener& operator=(const Listener&) { return *this; }
   const Handler& operator=(Handler handler) { return handler_ = std::move(handler); }
-  operator const Handler&() const { return handler_; }
+  operator const Handler&() const { return handler_; }  // NOLINT(google-explicit-constructor): raise takes it
 
  private:
   Handler handler_;
