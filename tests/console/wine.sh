@@ -21,10 +21,11 @@ cp "${program[1]}" "$installed"
 check "the system would send writes elsewhere" grep -aFq 'level="asInvoker"' "${program[1]}"
 program=("$emulator" 'C:\Program Files\Zubrane\zub-console.exe')
 
-# exported KEY: the registry below a key as sorted lines.
+# exported KEY: the registry below a key as sorted lines. An export fails where a key goes while it is read, as some do while
+# the system starts.
 exported() {
   rm -f "$pc/exported.reg"
-  "$emulator" reg export "$1" 'C:\exported.reg' /y >/dev/null 2>&1
+  for _ in 1 2 3; do "$emulator" reg export "$1" 'C:\exported.reg' /y >/dev/null 2>&1 && break; done
   iconv -f UTF-16 -t UTF-8 "$pc/exported.reg" | tr -d '\r' >"$work/exported.reg"
   LC_ALL=C awk -f "$tests/registry.awk" "$work/exported.reg" | sort
 }
