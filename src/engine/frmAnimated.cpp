@@ -20,6 +20,11 @@ constexpr std::array kinds{Kind{"", Picture::None}, Kind{"Removing registry entr
 
 }  // namespace
 
+Picture nextFrame(int& frame) {
+  if (++frame == 5) frame = 1;
+  return Imgframes[static_cast<std::size_t>(frame)];
+}
+
 // The window may still be there: a wait for the user behind the last wash, or the unseen rest of one whose display
 // was closed. Only the window stays; the board begins anew.
 void frmAnimated::StartClean() {
@@ -68,8 +73,7 @@ void frmAnimated::RemoveEntries(int kind) {
 }
 
 void frmAnimated::Timer_Tick() {
-  if (++state.AnimationFrame == 5) state.AnimationFrame = 1;
-  state.ImgAnimate.picture = Imgframes[static_cast<std::size_t>(state.AnimationFrame)];
+  state.ImgAnimate.picture = nextFrame(state.AnimationFrame);
 }
 
 void frmAnimated::cmdLog_Click() {

@@ -20,6 +20,9 @@ inline constexpr int Files = 2;
 inline constexpr int Folder = 3;
 }  // namespace removing
 
+// The picture of the running cycle behind the one of this number, which becomes its number; 0 is the one at rest.
+Picture nextFrame(int& frame);
+
 class frmAnimated {
  public:
   // What a load gives anew and an unload loses.

@@ -3,26 +3,10 @@
 #include <utility>
 
 namespace zub {
-namespace {
-
-// What follows each picture of the running cycle, as a wash shows it.
-Picture next(Picture shown) {
-  switch (shown) {
-    case Picture::Frame1:
-      return Picture::Frame2;
-    case Picture::Frame2:
-      return Picture::Frame3;
-    case Picture::Frame3:
-      return Picture::Frame4;
-    default:
-      return Picture::Frame1;
-  }
-}
-
-}  // namespace
 
 unsigned frmPreview::begin() {
   close();
+  AnimationFrame = 0;
   ImgAnimate.picture = Picture::Frame0;
   lblApplication.Caption.clear();
   lblCurrent.Caption.clear();
@@ -53,7 +37,7 @@ void frmPreview::close() {
 }
 
 void frmPreview::Timer_Tick() {
-  ImgAnimate.picture = next(ImgAnimate.picture);
+  ImgAnimate.picture = nextFrame(AnimationFrame);
 }
 
 }  // namespace zub

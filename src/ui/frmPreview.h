@@ -19,6 +19,7 @@ class frmPreview {
   Label lblCurrent;
   std::string txtResult;  // lines ended by CR LF
   zub::Timer Timer{100, false};
+  int AnimationFrame = 0;
 
   // Shows the first window and answers the number of the run.
   unsigned begin();

@@ -104,8 +104,8 @@ int runProgram(CommandContext& context, WashChoice& choice, const std::function<
   });
   tried([&] { save(context.pc); });
   tried([&] {
-    const std::string path = context.pc.utf8(context.given.valueOf("--report"));
-    if (!path.empty()) saveReport(path, reportText(context, program));
+    if (context.given.has("--report"))
+      saveReport(context.pc.utf8(context.given.valueOf("--report")), reportText(context, program));
   });
   tried([&] {
     if (!context.loop.interrupted()) needStoreSaved(program.engine.pc, program.options);

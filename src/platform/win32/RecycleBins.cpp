@@ -1,13 +1,12 @@
 #include "platform/win32/RecycleBins.h"
 
-#include "platform/win32/Text.h"
 #include "platform/win32/UserSid.h"
 #include "platform/win32/Win32Drives.h"
 
 namespace zub {
 
 std::vector<std::string> recycleBinFolders() {
-  const std::string sid = isNtFamily() ? userSid() : "";
+  const std::string sid = userSid();
   Win32Drives drives;
   std::vector<std::string> folders;
   for (const std::string& drive : drives.list()) {

@@ -1,10 +1,12 @@
 #include "platform/win32/UserSid.h"
 
 #include "platform/host/win32/LoadedCall.h"
+#include "platform/win32/Text.h"
 
 namespace zub {
 
 std::string userSid() {
+  if (!isNtFamily()) return {};
   constexpr const char* library = "advapi32.dll";
   const auto openToken = loadedCall<BOOL(WINAPI*)(HANDLE, DWORD, PHANDLE)>(library, "OpenProcessToken");
   const auto tokenInformation =
