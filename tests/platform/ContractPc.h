@@ -24,8 +24,10 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/RuntimeError.h"
 #include "platform/PretendContractPc.h"
@@ -72,6 +74,19 @@ using PretendingWin32 = Pretending<Win32ContractPc>;
 #else
 #define CONTRACT_PCS FolderPc9x, FolderPcNt, Pretending9x, PretendingNt
 #endif
+
+// The names that a search tells, sorted, joined by blanks and commas; "null" for none.
+inline std::string found(Files& files, const std::string& pattern) {
+  const auto search = files.find(pattern);
+  if (!search) return "null";
+  std::vector<std::string> names;
+  FoundFile entry;
+  while (search->next(entry)) names.push_back(entry.name);
+  std::ranges::sort(names);
+  std::string text;
+  for (const std::string& name : names) text += text.empty() ? name : ", " + name;
+  return text;
+}
 
 template <class Pc>
 bool isNt(Pc& pc) {
