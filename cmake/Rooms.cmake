@@ -15,7 +15,8 @@ function(zub_room name)
   endif()
 endfunction()
 
-# zub_test(NAME [ROOM...]): the sources of this folder as the test program test_NAME.
+# zub_test(NAME [ROOM...]): the sources of this folder as the test program test_NAME, with golden/*.txt built in
+# (tests/support/Golden.h).
 function(zub_test name)
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
   if(NOT sources MATCHES "\\.cpp" OR NOT TARGET zub_test_main)
@@ -27,4 +28,8 @@ function(zub_test name)
   target_link_libraries(test_${name} PRIVATE ${uses} zub_test_main)
   add_test(NAME ${name} COMMAND test_${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "${ZUB_TEST_ENVIRONMENT}")
+  file(GLOB approved CONFIGURE_DEPENDS golden/*.txt)
+  if(approved)
+    zub_embed(test_${name} goldenTexts ${approved})
+  endif()
 endfunction()

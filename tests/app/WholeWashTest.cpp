@@ -1,18 +1,12 @@
 #include <doctest/doctest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <sstream>
 #include <vector>
 
 #include "app/ProgramPc.h"
-#include "base/Embedded.h"
 #include "cleaners/BrowserFiles.h"
-
-namespace zub {
-std::span<const EmbeddedFile> goldenFiles();
-}
+#include "support/Golden.h"
 
 using namespace zub;
 
@@ -197,7 +191,6 @@ struct CallTrace {
 
 // The lines of the golden list: calls, those for something that is open behind what opened it; "|" a line of the
 // report; "=" what the progress window shows.
-// ZUB_UPDATE_GOLDEN=tests/app/golden test_app writes it; judge the difference before it is kept.
 TEST_CASE("a wash of everything makes the calls that were approved, in that order") {
   WholePc pc;
   pc.chooseAll();
@@ -217,16 +210,5 @@ TEST_CASE("a wash of everything makes the calls that were approved, in that orde
   const frmAnimated::State& shown = pc.progress().peek().state;
   CHECK(shown.lblRemove.Caption == "Total amount of space restored: 14 Bytes");
   CHECK(shown.lblTasksTotal.Caption == "11");  // the standard plugins do not count here
-  if (const char* folder = std::getenv("ZUB_UPDATE_GOLDEN")) {
-    std::ofstream(std::string(folder) + "/wash.txt", std::ios::binary) << trace.text;
-    return;
-  }
-  std::istringstream wanted{std::string(goldenFiles().front().text())}, got{trace.text};
-  std::string wantedLine, gotLine;
-  for (int line = 1; std::getline(wanted, wantedLine); ++line) {
-    CAPTURE(line);
-    std::getline(got, gotLine);
-    REQUIRE(gotLine == wantedLine);
-  }
-  CHECK_FALSE(std::getline(got, gotLine));
+  checkGolden("wash.txt", trace.text);
 }

@@ -4,32 +4,16 @@
 #include <doctest/doctest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <vector>
 
 #include "app/Program.h"
-#include "base/Embedded.h"
+#include "support/Golden.h"
 #include "support/TestPc.h"
 #include "ui/MessageBox.h"
 #include "ui/frmAbout.h"
 #include "ui/layout/WindowSpec.h"
 
 namespace zub {
-
-std::span<const EmbeddedFile> windowFiles();
-
-// The text is the approved one. ZUB_UPDATE_GOLDEN=tests/ui/windows test_ui writes it; judge the difference.
-inline void checkGolden(const std::string& name, const std::string& text) {
-  CAPTURE(name);
-  if (const char* folder = std::getenv("ZUB_UPDATE_GOLDEN")) {
-    std::ofstream(std::string(folder) + '/' + name, std::ios::binary) << text;
-    return;
-  }
-  const auto golden = std::ranges::find(windowFiles(), name, &EmbeddedFile::name);
-  REQUIRE(golden != windowFiles().end());
-  CHECK(text == golden->text());
-}
 
 // Each control before those inside it, with what holds it (null: the window) and the title of its page.
 template <class Visit>
