@@ -154,7 +154,7 @@ TEST_CASE("a failure ends the load with the lists as far as they came") {
 
   // What could not be read is not written over, and no cookie is removed by it.
   pc.keep.Show();
-  pc.pc.failFile(TestPc::Call::Read, Cookies + "ZUBKeep.inf", ErrorNumber::DeviceIo);
+  pc.pc.fail("read " + Cookies + "ZUBKeep.inf", ErrorNumber::DeviceIo);
   CHECK(pc.rows() == "[a.txt|a.txt]\n");
   pc.keep.cmdOK_Click();
   CHECK(pc.keep.form.Visible);

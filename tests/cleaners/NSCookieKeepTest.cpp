@@ -166,7 +166,7 @@ TEST_CASE("what could not be read is not written over") {
     pc.options.chkNSCookies.Value(1);
     pc.keep.Load();
     const std::string before = pc.cookies(Two);
-    pc.pc.failFile(TestPc::Call::Read, Two + file, ErrorNumber::DeviceIo);
+    pc.pc.fail("read " + Two + file, ErrorNumber::DeviceIo);
     pc.keep.CleanNS6();
     CHECK(pc.cookies(One) == Login);
     CHECK(pc.cookies(Two) == before);

@@ -10,8 +10,7 @@ using namespace zub;
 
 namespace {
 
-constexpr const char* path = "C:\\T\\f.txt";
-using Call = TestPc::Call;
+const std::string path = "C:\\T\\f.txt";
 
 struct Failing : WashFixture {
   explicit Failing(std::vector<std::string> facts = {}) : WashFixture(std::move(facts)) {
@@ -33,21 +32,21 @@ const std::string lockedLine =
 TEST_CASE("every failure is told in its own words, and the animation goes on") {
   enum Route { Refused, Locked, LockedAndScheduled };
   struct {
-    Call call;
+    std::string call;
     ErrorNumber error;
     int nSpecial;
     Route route;
     std::string description;
   } const rows[] = {
-      {Call::Remove, ErrorNumber::PermissionDenied, 0, Locked, "Permission denied"},
-      {Call::OpenedLength, ErrorNumber::PermissionDenied, 1, LockedAndScheduled, "Permission denied"},
-      {Call::Remove, ErrorNumber::PathFileAccess, 0, LockedAndScheduled, "Path/File access error"},
-      {Call::ResetAttributes, ErrorNumber::PathFileAccess, 1, LockedAndScheduled, "Path/File access error"},
-      {Call::Remove, ErrorNumber::DeviceIo, 1, Refused, "Device I/O error"},
-      {Call::OpenedLength, ErrorNumber::TooManyFiles, 0, Refused, "Too many files"},
-      {Call::ResetAttributes, ErrorNumber::DiskNotReady, 1, Refused, "Disk not ready"},
-      {Call::ResetAttributes, ErrorNumber::PathNotFound, 0, Refused, "Path not found"},
-      {Call::OpenedLength, ErrorNumber::BadFileName, 1, Refused, "Bad file name or number"},
+      {"remove ", ErrorNumber::PermissionDenied, 0, Locked, "Permission denied"},
+      {"length ", ErrorNumber::PermissionDenied, 1, LockedAndScheduled, "Permission denied"},
+      {"remove ", ErrorNumber::PathFileAccess, 0, LockedAndScheduled, "Path/File access error"},
+      {"reset attributes of ", ErrorNumber::PathFileAccess, 1, LockedAndScheduled, "Path/File access error"},
+      {"remove ", ErrorNumber::DeviceIo, 1, Refused, "Device I/O error"},
+      {"length ", ErrorNumber::TooManyFiles, 0, Refused, "Too many files"},
+      {"reset attributes of ", ErrorNumber::DiskNotReady, 1, Refused, "Disk not ready"},
+      {"reset attributes of ", ErrorNumber::PathNotFound, 0, Refused, "Path not found"},
+      {"length ", ErrorNumber::BadFileName, 1, Refused, "Bad file name or number"},
   };
   for (const auto& row : rows) {
     for (const int popUps : {0, 1}) {
@@ -56,12 +55,12 @@ TEST_CASE("every failure is told in its own words, and the animation goes on") {
       CAPTURE(popUps);
       Failing pc;
       pc.options.chkSkipMessages.Value(popUps);
-      pc.pc.failFile(row.call, path, row.error);
+      pc.pc.fail(row.call + path, row.error);
       CHECK(pc.engine.deleter->DeleteFile(path, row.nSpecial));
 
       const std::string outcome =
           row.route == Refused ? " cannot be deleted" : " is locked or is on a read only drive/network";
-      const std::string attempt = row.call == Call::Remove ? "\tDeleting file f.txt\r\n" : "";
+      const std::string attempt = row.call == "remove " ? "\tDeleting file f.txt\r\n" : "";
       const bool scheduled = row.route == LockedAndScheduled;
       CHECK(pc.takeReport() == attempt + (scheduled ? lockedLine : "") + "\t" + row.description +
                                    " The file C:\\T\\f.txt" + outcome + "\r\n\r\n");
@@ -99,7 +98,7 @@ TEST_CASE("the file scheduled last stands alone in the profile, on both families
     Failing pc({family});
     const std::string first = "C:\\T\\A long file name.dat";
     pc.pc.file(first);
-    for (const std::string& held : {first, std::string(path)}) {
+    for (const std::string& held : {first, path}) {
       pc.pc.lock(held);
       CHECK(pc.engine.deleter->DeleteFile(held, 1));
       CHECK(pc.pc.bytes("C:\\WINDOWS\\wininit.ini") ==
@@ -113,8 +112,8 @@ TEST_CASE("files and folders that stay do not keep the others") {
   for (const char* name : {"1", "2", "a\\3", "b\\4"}) pc.pc.file(std::string("C:\\T\\") + name, "four");
   pc.pc.folder("C:\\T\\c");
   pc.pc.lock("C:\\T\\a\\3");
-  pc.pc.failFile(Call::Remove, "C:\\T\\1", ErrorNumber::DeviceIo);
-  pc.pc.failFile(Call::DeleteFolder, "C:\\T\\c", ErrorNumber::PermissionDenied);
+  pc.pc.fail("remove C:\\T\\1", ErrorNumber::DeviceIo);
+  pc.pc.fail("remove folder C:\\T\\c", ErrorNumber::PermissionDenied);
   CHECK_FALSE(pc.engine.deleter->DeleteFolder("C:\\T", "*.*"));
   CHECK(pc.pc.hasFile("C:\\T\\1"));
   CHECK_FALSE(pc.pc.hasFile("C:\\T\\2"));
@@ -128,7 +127,7 @@ TEST_CASE("files and folders that stay do not keep the others") {
 TEST_CASE("a folder that cannot be listed is told and counted, and does not keep the others") {
   WashFixture pc;
   for (const char* name : {"1", "a\\2", "b\\3"}) pc.pc.file(std::string("C:\\T\\") + name);
-  pc.pc.failFile(Call::Find, "C:\\T\\a\\*", ErrorNumber::PathFileAccess);
+  pc.pc.fail("search C:\\T\\a\\*", ErrorNumber::PathFileAccess);
   CHECK_FALSE(pc.engine.deleter->DeleteFolder("C:\\T", "*.tmp"));
   CHECK(pc.engine.leftBehind.size() == 1);
   CHECK(pc.engine.leftBehind[0].what == "C:\\T\\a\\");
@@ -139,7 +138,7 @@ TEST_CASE("a folder that cannot be listed is told and counted, and does not keep
   CHECK_FALSE(pc.pc.hasFile("C:\\T\\b\\3"));
 
   pc.takeReport();
-  pc.pc.failFile(Call::Find, "C:\\T\\b\\*.*", ErrorNumber::DeviceIo);
+  pc.pc.fail("search C:\\T\\b\\*.*", ErrorNumber::DeviceIo);
   pc.engine.deleter->DeleteFilesInFolder("C:\\T\\b", "*.*");
   CHECK(pc.takeReport() == "Device I/O error\r\n");
   CHECK(pc.engine.leftBehind.size() == 3);
@@ -183,15 +182,15 @@ TEST_CASE("a sum of bytes beyond 32 bits is that file's failure, which by then i
 }
 
 TEST_CASE("a shredder that fails leaves the outcome to the removal") {
-  for (const Call call : {Call::Open, Call::Write}) {
+  for (const std::string call : {"open to write over ", "write "}) {
     Failing pc;
     pc.options.chkBleach.Value(1);
     pc.pc.file(path, std::string(4096, 'A'));
-    pc.pc.failFile(call, path, ErrorNumber::DiskFull);
+    pc.pc.fail(call + path, ErrorNumber::DiskFull);
     CHECK_FALSE(pc.engine.deleter->DeleteFile(path, 0));
     CHECK_FALSE(pc.pc.hasFile(path));
     CHECK(pc.engine.TotalBytes == 4096);
-    CHECK(pc.takeReport() == (call == Call::Open ? "" : "\tShredding file f.txt\r\n"));
+    CHECK(pc.takeReport() == (call != "write " ? "" : "\tShredding file f.txt\r\n"));
     CHECK(pc.told().empty());
   }
 }

@@ -11,7 +11,6 @@ namespace {
 
 const std::string CU = "HKEY_CURRENT_USER\\";
 using Texts = std::vector<std::string>;
-using KeyCall = TestPc::KeyCall;
 
 // A has the values One and Two and the empty subkey Sub; B the same; C an unnamed value too; D a deeper subkey.
 struct Seeded : WashFixture {
@@ -181,8 +180,7 @@ TEST_CASE(
   CHECK(told(pc.helper().lstValue) == Texts{"[Default]", "padded", "Two", "Zebra", "Zoo"});
 
   // Where not all of a key can be seen, all names are tried under it.
-  for (const auto call : {KeyCall::EnumKey, KeyCall::EnumValue})
-    pc.pc.failKey(call, CU + "D", status::AccessDenied);
+  for (const char* call : {"subkey ", "value "}) pc.pc.fail(call + CU + "D", status::AccessDenied);
   CHECK(pc.helper().DeleteTrace(CU + "D- Key*") == -1);
   CHECK(pc.left("D") == "One Deep");
 }
@@ -209,12 +207,11 @@ TEST_CASE("without a marker the hive itself is opened, and wiped once a key form
 
 TEST_CASE("a key without rights answers -1, and an enumeration that never ends stops at its limit") {
   Seeded pc;
-  pc.pc.failKey(KeyCall::Open, CU + "A", status::AccessDenied);
+  pc.pc.fail("open " + CU + "A", status::AccessDenied);
   CHECK(pc.helper().DeleteTrace(CU + "A+ Value`= One") == -1);
   CHECK(pc.engine.leftBehind.size() == 1);
   pc.pc.clearFaults();
-  pc.pc.failKey(KeyCall::EnumKey, CU + "A", status::AccessDenied);
-  pc.pc.failKey(KeyCall::EnumValue, CU + "A", status::AccessDenied);
+  for (const char* call : {"subkey ", "value "}) pc.pc.fail(call + CU + "A", status::AccessDenied);
   CHECK(pc.helper().DeleteTrace(CU + "A+ Value`= One") == 0);
   CHECK(pc.helper().lstKey.size() == 1);
   CHECK(pc.helper().lstValue.size() == 1);

@@ -6,13 +6,13 @@ using namespace zub;
 
 namespace {
 
-constexpr const char* path = "C:\\T\\f.dat";
+const std::string path = "C:\\T\\f.dat";
 
 // The shredder at work on a file that cannot be removed and so can be looked at afterwards.
 struct Shredding : WashFixture {
   Shredding() {
     options.chkBleach.Value(1);
-    pc.failFile(TestPc::Call::Remove, path, ErrorNumber::DeviceIo);
+    pc.fail("remove " + path, ErrorNumber::DeviceIo);
   }
   std::string shredded(std::size_t length) {
     pc.file(path, std::string(length, 'A'));

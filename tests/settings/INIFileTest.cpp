@@ -187,7 +187,7 @@ TEST_CASE("a store that cannot be opened answers -1 and changes nothing") {
   Settings pc;
   pc.options.chkBleach.Value(1);
   pc.options.chkBleach.Click = [] { FAIL_CHECK("a handler ran"); };
-  pc.pc.failKey(TestPc::KeyCall::Create, Store, status::AccessDenied);
+  pc.pc.fail("open or make " + Store, status::AccessDenied);
   CHECK(pc.put() == -1);
   CHECK(pc.get() == -1);
   CHECK(pc.get2() == -1);
@@ -199,8 +199,8 @@ TEST_CASE("values that can be neither read nor written are off, and no call fail
   Settings pc;
   pc.store("chkBleach", On);
   pc.options.chkRunShutDown.Value(1);
-  pc.pc.failKey(TestPc::KeyCall::Set, Store, status::AccessDenied);
-  pc.pc.failKey(TestPc::KeyCall::Query, Store, status::AccessDenied);
+  pc.pc.fail("set value " + Store, status::AccessDenied);
+  pc.pc.fail("look at value " + Store, status::AccessDenied);
   CHECK(pc.put() == 0);
   CHECK(pc.get() == 0);
   CHECK(pc.options.chkBleach.Value() == 0);

@@ -136,6 +136,7 @@ std::string Screen::changes() {
   }
   if (!before_.empty()) text += shortened(pc.diffSince(before_));
   before_ = pc.snapshot();
+  std::erase(text, '\r');
   return text;
 }
 

@@ -105,6 +105,7 @@ TEST_CASE("the main window shows, tells and keeps what a user does in it, as was
   story.press(faces::Main, "cmdRemovePlugin");
   story.press(faces::Main, "cmdPreview");
   story.press(faces::PreviewReport, "cmdCancel");
+  story.pressAll(faces::Main, {"cmdPreview", "cmdPreview"});
   story.press(faces::Main, "cmdRemove");
   story.step("asked for in a wash", [&] { story.main.ShowTab(3); });
   story.pressAll(faces::Progress, {"cmdLog", "cmdFinish"});

@@ -193,6 +193,7 @@ Actor list(Desk& desk, std::string& log) {
   constexpr float Arrow = 397, Down = 65, Up = 8, Thumb = 27;
   auto control = std::make_unique<ListBox>(desk.kit);
   ListBox& list = *control;
+  list.ItemName(9, "Find History");
   list.ClickSelect = number(log, "select ");
   list.ClickCheck = number(log, "check ");
   list.Initialise();

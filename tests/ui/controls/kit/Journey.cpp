@@ -122,6 +122,14 @@ std::string journeyOf(const Make& make) {
   text << "  " << control.width() << 'x' << control.height() << ", every " << control.timer().Interval
        << " ms, at first " << lookOf(actor) << '\n'
        << mapOf(make);
+  const auto described = [&text](const Described& what, const Box& place) {
+    text << "  role " << static_cast<int>(what.role) << " \"" << what.name << '"'
+         << (what.checkable ? ", can be ticked" : "") << (what.selected ? ", selected" : "") << " at "
+         << place.left << ',' << place.top << ' ' << place.width << 'x' << place.height << '\n';
+  };
+  described(control.described(), control.focusPlace());
+  for (int part = 0; part < control.parts(); ++part)
+    described(control.describedPart(part), control.partPlace(part));
   std::vector<Step> all = gestures(actor);
   std::ranges::move(actor.wishes(), std::back_inserter(all));
   std::string lookBefore;
