@@ -159,8 +159,8 @@ TEST_CASE("a wash of everything makes the calls that were approved, in that orde
   pc.plant(
       {ProgramPc::Temp + "sub\\deep\\b.tmp", "C:\\WINDOWS\\Cache\\c.htm", "C:\\WINDOWS\\TEMP\\held.tmp"});
   pc.pc.lock("C:\\WINDOWS\\TEMP\\held.tmp");
-  pc.pc.failKey(TestPc::KeyCall::DeleteKey, User + "Microsoft\\MediaPlayer\\Player\\RecentURLList",
-                status::AccessDenied);
+  pc.pc.fail("delete the key " + User + "Microsoft\\MediaPlayer\\Player\\RecentURLList",
+             status::AccessDenied);
   CallTrace trace(pc.pc, pc.program->engine, boardOf);
   pc.main().cmdRemove_Click();
   trace.tellChanges();

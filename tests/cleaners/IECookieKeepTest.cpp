@@ -131,7 +131,7 @@ TEST_CASE("what the keep list of Internet Explorer shows and saves, step by step
     story.chapter("What could not be read is not written over, and no cookie is removed by it");
     pc.cookie("ZUBKeep.inf", "a.txt\r\n");
     story.step("Show", [&] { pc.keep.Show(); });
-    pc.pc.failFile(TestPc::Call::Read, Cookies + "ZUBKeep.inf", ErrorNumber::DeviceIo);
+    pc.pc.fail("read " + Cookies + "ZUBKeep.inf", ErrorNumber::DeviceIo);
     story.step("cmdRefresh", [&] { pc.keep.cmdRefresh_Click(); });
     story.step("cmdOK", [&] { pc.keep.cmdOK_Click(); });
     pc.options.chkIECookies.Value(1);

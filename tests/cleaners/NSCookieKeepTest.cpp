@@ -162,7 +162,7 @@ TEST_CASE("what the keep list of Netscape shows and saves, step by step") {
     for (const std::string& profile : {One, Two}) pc.keepFile(profile, ".shop.example\tlogin\t\r\n");
     pc.options.chkNSCookies.Value(1);
     pc.keep.Load();
-    pc.pc.failFile(TestPc::Call::Read, Two + file, ErrorNumber::DeviceIo);
+    pc.pc.fail("read " + Two + file, ErrorNumber::DeviceIo);
     story.settle();
     pc.step("a wash", [&] { pc.keep.CleanNS6(); });
   }

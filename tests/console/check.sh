@@ -1,17 +1,14 @@
 #!/usr/bin/env bash
 # The checks of the console tests; a test begins with `. check.sh`. Its words are those that start the program.
 set -u
-export LC_ALL=C.UTF-8 TZ=UTC
+. "$(dirname "${BASH_SOURCE[0]}")/words.sh"
 program=("$@")
-tests=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-root=$(cd "$tests/../.." && pwd)
 work=$(mktemp -d)
 failures=0
 
 finish() {
   local status=$?
   [ $BASHPID = $$ ] || return  # a job that was killed before its program began
-  jobs -p | while read -r job; do kill -9 "$job" 2>/dev/null; done
   chmod -R u+w "$work"
   rm -rf "$work"
   [ "$failures" -gt 0 ] && echo "$failures checks failed" && exit 1
@@ -60,26 +57,3 @@ refused() {
 
 here() { [ -e "$1" ] || [ -L "$1" ] || fail "is gone: ${1#"$work"/}"; }
 gone() { [ ! -e "$1" ] && [ ! -L "$1" ] || fail "is there: ${1#"$work"/}"; }
-# until_true COMMAND...: waits for a condition, 30 seconds at most; looks every $pause seconds.
-pause=0.02
-until_true() {
-  local end=$((SECONDS + 30))
-  until "$@" 2>/dev/null; do
-    [ "$SECONDS" -lt "$end" ] || { fail "waited in vain for: $*"; return 1; }
-    sleep $pause
-  done
-}
-
-# A host path of a path of the PC in $pc.
-host() { local path=${1//\\//}; echo "$pc/${path/:/}"; }
-# The registry of the PC as sorted lines "KEY" and "KEY -> NAME".
-registry() { LC_ALL=C awk -f "$tests/registry.awk" "$1/registry.reg" | sort; }
-# Everything about the files in a folder, to be compared.
-portrait() { (cd "$1" && find . -printf '%p %y %m %s %T@ %l\n' | sort && find . -type f -exec cksum {} + | sort); }
-# A text made of the words, a line each, under a name below the PC.
-text() {
-  local file=$pc/$1
-  shift
-  mkdir -p "$(dirname "$file")"
-  printf '%s\r\n' "$@" >"$file"
-}

@@ -118,11 +118,11 @@ hostilePc
 printf '\n[HKEY_CURRENT_USER\\%s]\n"AppData"="C:\\\\Data"\n' "$shell" >>"$pc/registry.reg"
 mkdir -p "$pc/C/Data/Mozilla"
 printf '%s\\x.slt\0' "${leadsOut[@]}" "${leadsOut[@]/%/.slt}" >"$pc/C/Data/Mozilla/Registry.dat"
-text "$plugins/Out.zb1" "${leadsOut[@]/%/\\old.tmp}" "${leadsOut[@]/%/\\*.*}" \
+text "$pc/$plugins/Out.zb1" "${leadsOut[@]/%/\\old.tmp}" "${leadsOut[@]/%/\\*.*}" \
   "${leadsOut[@]/%/\\*.tmp >plus subdirectories< }" "${leadsOut[@]}" 'C:\last.tmp'
-text C/last.tmp x
-text "$plugins/Out.zb2" 'No entries.'
-text "$plugins/Out.zb3" '' ''
+text "$pc/C/last.tmp" x
+text "$pc/$plugins/Out.zb2" 'No entries.'
+text "$pc/$plugins/Out.zb3" '' ''
 run 0 --pc "$pc" set "ZUBPlugin Out=1"
 wash
 untouched "paths in a plugin and profiles"

@@ -12,7 +12,6 @@ using namespace zub;
 
 namespace {
 
-using Call = TestPc::Call;
 const std::string File = "C:\\T\\f.txt";
 
 struct Disk : TracedWash {
@@ -63,22 +62,22 @@ TEST_CASE("every failure is told in its own words, and keeps nothing else from g
   pc.options.chkSkipMessages.Value(1);
   const struct {
     const char* title;
-    Call call;
+    std::string call;
     ErrorNumber error;
     int nSpecial;
-  } rows[] = {{"Held, to be left for the next start", Call::OpenedLength, ErrorNumber::PermissionDenied, 1},
-              {"Access error at the removal", Call::Remove, ErrorNumber::PathFileAccess, 0},
-              {"Access error at once, to be left for the next start", Call::ResetAttributes,
+  } rows[] = {{"Held, to be left for the next start", "length ", ErrorNumber::PermissionDenied, 1},
+              {"Access error at the removal", "remove ", ErrorNumber::PathFileAccess, 0},
+              {"Access error at once, to be left for the next start", "reset attributes of ",
                ErrorNumber::PathFileAccess, 1},
-              {"The device, to be left for the next start", Call::Remove, ErrorNumber::DeviceIo, 1},
-              {"The disk", Call::ResetAttributes, ErrorNumber::DiskNotReady, 0},
-              {"The path", Call::ResetAttributes, ErrorNumber::PathNotFound, 1},
-              {"Too many files", Call::OpenedLength, ErrorNumber::TooManyFiles, 0},
-              {"A bad name", Call::OpenedLength, ErrorNumber::BadFileName, 0},
-              {"Held", Call::Remove, ErrorNumber::PermissionDenied, 0}};
+              {"The device, to be left for the next start", "remove ", ErrorNumber::DeviceIo, 1},
+              {"The disk", "reset attributes of ", ErrorNumber::DiskNotReady, 0},
+              {"The path", "reset attributes of ", ErrorNumber::PathNotFound, 1},
+              {"Too many files", "length ", ErrorNumber::TooManyFiles, 0},
+              {"A bad name", "length ", ErrorNumber::BadFileName, 0},
+              {"Held", "remove ", ErrorNumber::PermissionDenied, 0}};
   for (const auto& row : rows) {
     pc.plant({File});
-    pc.pc.failFile(row.call, File, row.error);
+    pc.pc.fail(row.call + File, row.error);
     pc.engine.animated->StartAnimation();
     pc.deleteFile(row.title, File, row.nSpecial);
     pc.pc.clearFaults();
@@ -97,11 +96,11 @@ TEST_CASE("every failure is told in its own words, and keeps nothing else from g
 
   pc.plant({"C:\\S\\1", "C:\\S\\2", "C:\\S\\a\\3", "C:\\S\\b\\4", "C:\\S\\c\\5"});
   pc.pc.lock("C:\\S\\a\\3");
-  pc.pc.failFile(Call::Remove, "C:\\S\\1", ErrorNumber::DeviceIo);
-  pc.pc.failFile(Call::Find, "C:\\S\\c\\*", ErrorNumber::PathFileAccess);
-  pc.pc.failFile(Call::DeleteFolder, "C:\\S\\c", ErrorNumber::PermissionDenied);
+  pc.pc.fail("remove C:\\S\\1", ErrorNumber::DeviceIo);
+  pc.pc.fail("search C:\\S\\c\\*", ErrorNumber::PathFileAccess);
+  pc.pc.fail("remove folder C:\\S\\c", ErrorNumber::PermissionDenied);
   pc.deleteFolder("C:\\S", "*.*");
-  pc.pc.failFile(Call::Find, "C:\\S\\a\\*.*", ErrorNumber::DeviceIo);
+  pc.pc.fail("search C:\\S\\a\\*.*", ErrorNumber::DeviceIo);
   pc.deleteFiles("C:\\S\\a", "*.*");
 
   pc.plant({"C:\\1", "C:\\2"});
@@ -145,8 +144,8 @@ TEST_CASE("each pass of the shredder, and how it fails") {
     pc.options.cmbShredder.type(passes);
     shred("Passes: " + std::string(passes));
   }
-  for (const Call call : {Call::Open, Call::Write}) {
-    pc.pc.failFile(call, File, ErrorNumber::DiskFull);
+  for (const std::string call : {"open to write over ", "write "}) {
+    pc.pc.fail(call + File, ErrorNumber::DiskFull);
     shred("The disk is full: the removal decides");
     pc.pc.clearFaults();
   }
@@ -163,7 +162,7 @@ TEST_CASE("whole blocks are overwritten with zeros, all but the last") {
     CAPTURE(length);
     WashFixture pc;
     pc.options.chkBleach.Value(1);
-    pc.pc.failFile(Call::Remove, File, ErrorNumber::DeviceIo);  // so that it can be looked at
+    pc.pc.fail("remove " + File, ErrorNumber::DeviceIo);  // so that it can be looked at
     pc.pc.file(File, std::string(length, 'A'));
     pc.engine.deleter->DeleteFile(File, 0);
     CHECK(pc.pc.bytes(File) == std::string(overwritten, '\0') + std::string(length - overwritten, 'A'));

@@ -9,7 +9,6 @@ using namespace zub;
 namespace {
 
 const std::string CU = "HKEY_CURRENT_USER\\";
-using KeyCall = TestPc::KeyCall;
 
 // The keys that a trace is to remove: values, an unnamed one, and a subkey, of which that of D is not empty.
 struct Traces : TracedWash {
@@ -143,12 +142,11 @@ TEST_CASE("where not all of a key can be seen all names met are tried under it; 
   pc.pc.onCall = {};
   pc.plant();
   RegistryHelper& helper = pc.engine.registryHelper;
-  for (const auto call : {KeyCall::EnumKey, KeyCall::EnumValue})
-    pc.pc.failKey(call, CU + "D", status::AccessDenied);
+  for (const char* call : {"subkey ", "value "}) pc.pc.fail(call + CU + "D", status::AccessDenied);
   CHECK(helper.DeleteTrace(CU + "A+ Value`= One") == 0);
   CHECK(helper.DeleteTrace(CU + "D- Key*") == -1);
   CHECK(pc.pc.valueNames(CU + "D") == std::vector<std::string>{"One"});
-  pc.pc.failKey(KeyCall::Open, CU + "C", status::AccessDenied);
+  pc.pc.fail("open " + CU + "C", status::AccessDenied);
   CHECK(helper.DeleteTrace(CU + "C+ Value`= One") == -1);
   CHECK(pc.engine.leftBehind.back().what == CU + "C+ Value`= One");
 

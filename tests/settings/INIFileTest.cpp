@@ -107,13 +107,13 @@ TEST_CASE("the calls of saving and reading, the handlers that run, and what is s
   first.options.cmbShredder.ListIndex(4);
   first.options.LstIcons.Check(3, 1);
   first.act("Reading a store where nothing is", [&] { return first.get(); });
-  first.pc.failKey(TestPc::KeyCall::Create, Store, status::AccessDenied);
+  first.pc.fail("open or make " + Store, status::AccessDenied);
   first.act("A store that cannot be opened: saving", [&] { return first.put(); });
   first.act("Reading", [&] { return first.get(); });
   first.act("Reading the standard rows", [&] { return first.get2(); });
   first.pc.clearFaults();
-  first.pc.failKey(TestPc::KeyCall::Set, Store, status::AccessDenied);
-  first.pc.failKey(TestPc::KeyCall::Query, Store, status::AccessDenied);
+  first.pc.fail("set value " + Store, status::AccessDenied);
+  first.pc.fail("look at value " + Store, status::AccessDenied);
   first.options.LstIcons.Check(3, 1);
   first.act("Values that can be neither written nor read: reading", [&] { return first.get(); });
 

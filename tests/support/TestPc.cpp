@@ -45,11 +45,11 @@ class TestPc::Impl {
   Impl(TestPc& owner, const std::vector<std::string>& facts, std::string_view text)
       : pc(preparePc(temp, facts, text)),
         disk(pc.driveFolders(), pc.facts(), failures),
-        log(owner),
-        files(pc.files, fileFaults, log),
-        registry(pc.registry, keyFaults, log),
-        drives(pc.drives, log),
-        desk(owner, log),
+        calls(owner),
+        files(pc.files, calls),
+        registry(pc.registry, calls),
+        drives(pc.drives, calls),
+        desk(owner, calls),
         platform{&pc.codePage, &registry, &files, &drives, &pc.folders, &pc.restart, &desk,
                  &desk,        &desk,     &desk,  &desk,   &desk,       &pc.tasks} {
     for (const auto& [letter, kind] : pc.facts().drives) pc.root().makeDir({letter});
@@ -98,9 +98,7 @@ class TestPc::Impl {
   FolderPc pc;
   HostFailures failures;
   FolderDisk disk;
-  FileFaults fileFaults;
-  KeyFaults keyFaults;
-  CallLog log;
+  Calls calls;
   TestFiles files;
   TestRegistry registry;
   TestDrives drives;
@@ -212,17 +210,16 @@ std::string TestPc::diffSince(std::string_view before) const {
   return diffOf(before, snapshot());
 }
 
-void TestPc::failFile(Call call, std::string_view path, ErrorNumber number) {
-  impl_->fileFaults.add(call, path, number);
+void TestPc::fail(const std::string& call, ErrorNumber number) {
+  impl_->calls.fail(call, static_cast<std::int32_t>(number));
 }
 
-void TestPc::failKey(KeyCall call, std::string_view path, RegistryStatus status) {
-  impl_->keyFaults.add(call, path, status);
+void TestPc::fail(const std::string& call, RegistryStatus status) {
+  impl_->calls.fail(call, status);
 }
 
 void TestPc::clearFaults() {
-  impl_->fileFaults.clear();
-  impl_->keyFaults.clear();
+  impl_->calls.clearFaults();
 }
 
 void TestPc::lock(std::string_view path) {

@@ -74,13 +74,11 @@ class TestPc {
   // dates, upper case) and the steady clock are not told.
   std::function<void(const std::string& call)> onCall;
 
-  // Faults: the call fails as told instead of doing its work, until `clearFaults`. Paths are compared without
-  // case.
-  enum class Call { Find, ResetAttributes, OpenedLength, Open, Read, Write, Remove, DeleteFolder };
-  void failFile(Call call, std::string_view path, ErrorNumber number);
-  enum class KeyCall { Open, Create, EnumKey, EnumValue, Query, Set, DeleteKey };
-  // `path` with its hive, as opened; for the value calls the key's path.
-  void failKey(KeyCall call, std::string_view path, RegistryStatus status);
+  // The call fails as told instead of doing its work, until `clearFaults`. It is named by the words that `onCall` hears
+  // and, where these are on something open, its path: "remove C:\\a.txt", "subkey HKEY_CURRENT_USER\\A". The case of
+  // letters does not count.
+  void fail(const std::string& call, ErrorNumber number);
+  void fail(const std::string& call, RegistryStatus status);
   void clearFaults();
   void lock(std::string_view path);  // held open by another program
   void unlock(std::string_view path);

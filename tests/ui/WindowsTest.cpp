@@ -1,11 +1,10 @@
 // Each window as a text: every control with its place, words, letters and colours, and the member that it shows.
 #include <doctest/doctest.h>
 
-#include <cstdio>
 #include <map>
 #include <sstream>
 
-#include "ui/Windows.h"
+#include "ui/Screen.h"
 
 using namespace zub;
 using namespace zub::layout;
@@ -81,27 +80,6 @@ const void* addressOf(const Shown& shown) {
   return std::visit(of, shown);
 }
 
-// How it begins: out of sight, not to be used, in letters of another colour.
-std::string stateOf(const Shown& shown) {
-  const auto of = []<class State>(const State& state) {
-    std::string text;
-    if constexpr (requires { state->Visible; }) text += state->Visible ? "" : ", hidden";
-    if constexpr (requires { state->Enabled; }) text += state->Enabled ? "" : ", disabled";
-    if constexpr (std::is_same_v<State, const bool*>) text += *state ? "" : ", hidden";
-    if constexpr (requires { state->type(""); }) {
-      for (int row = 0; row < state->ListCount(); ++row) text += (row == 0 ? ": " : "; ") + state->List(row);
-    }
-    if constexpr (requires { state->Bold; }) text += state->Bold ? ", bold" : "";
-    if constexpr (requires { state->ForeColor; }) {
-      char color[16];
-      std::snprintf(color, sizeof color, ", %06x", static_cast<unsigned>(state->ForeColor));
-      if (state->ForeColor != colors::Black) text += color;
-    }
-    return text;
-  };
-  return std::visit(of, shown);
-}
-
 std::string_view nameOf(Kind kind) {
   constexpr std::string_view names[] = {"button", "check",   "group", "icon list", "clock",  "close button",
                                         "label",  "edit",    "memo",  "content",   "report", "list",
@@ -143,10 +121,8 @@ std::string textOf(const WindowSpec& window) {
 
 TEST_CASE("every window is as its text tells, and shows the members that its controls are named for") {
   Windows windows;
-  const std::string names[] = {"main",   "progress",   "report",           "preview", "preview-report",
-                               "editor", "ie-cookies", "netscape-cookies", "about",   "message"};
   for (std::size_t at = 0; at < windows.all.size(); ++at) {
-    checkGolden(names[at] + ".txt", textOf(windows.all[at]));
+    checkGolden(std::string(windowNames[at]) + ".txt", textOf(windows.all[at]));
   }
   Members members = membersOf(windows);
   for (const WindowSpec& window : windows.all) {
@@ -159,86 +135,6 @@ TEST_CASE("every window is as its text tells, and shows the members that its con
     });
   }
   CHECK(members.empty());  // each is shown once
-}
-
-TEST_CASE("the close box of every window closes it; that of the main window ends the program") {
-  Windows windows;
-  for (const WindowSpec& window : windows.all) {
-    if (!window.close) continue;                  // the message box has none
-    if (window.face == faces::Preview) continue;  // it goes when what it shows has stopped
-    CAPTURE(window.face.title);
-    if (window.face == faces::Progress) windows.program.engine.animated->state.form.Show();
-    Form& form = *window.form();
-    form.Show();
-    if (window.face == faces::Main) {
-      CHECK_THROWS_AS(window.close(), EndOfProcess);
-      continue;
-    }
-    window.close();
-    CHECK((window.form() == nullptr || !form.Visible));
-    if (!window.escape) continue;
-    if (window.form() == nullptr) windows.program.engine.animated->state.form.Show();
-    form.Show();
-    window.escape();
-    CHECK((window.form() == nullptr || !form.Visible));
-  }
-}
-
-TEST_CASE("the buttons of the windows do what they say") {
-  Windows windows;
-  Program& program = windows.program;
-  const auto press = [&windows](const Face& face, const char* name) { windows.press(face, name); };
-  constexpr const Face& Editor = faces::Editor;
-  frmPluginEditor::State& editor = program.editor->state;
-  const std::string plugins = "C:\\Program Files\\Zubrane\\Plugins\\";
-
-  press(faces::Main, "cmdNewPlugin");
-  editor.txtName.Text = "Shop";
-  press(Editor, "cmdRegNew");
-  CHECK(editor.lstRegistry.Text() == "");
-  press(Editor, "cmdFFNew");
-  editor.txtPathFF.Text = "C:\\Shop";
-  editor.txtFilePattern.Text = "*.tmp";
-  CHECK_FALSE(editor.chkSubfolders.Value() == 1);
-  press(Editor, "optFilePattern");
-  CHECK(editor.chkSubfolders.Enabled);
-  CHECK_FALSE(editor.txtFileName.Enabled);
-  press(Editor, "cmdAddFF");
-  CHECK(editor.lstFileFolder.Text() == "C:\\Shop\\*.tmp");
-  press(Editor, "optFileName");
-  CHECK_FALSE(editor.chkSubfolders.Enabled);
-  press(Editor, "cmdApply");
-  CHECK(windows.pc.bytes(plugins + "Shop.zb1") == "C:\\Shop\\*.tmp\r\n");
-  CHECK(editor.form.Visible);
-  press(Editor, "cmdOK");  // nothing new to save: it stays
-  CHECK(editor.form.Visible);
-  editor.txtPath.Text = "Software";
-  editor.txtKeyValue.Text = "Shop";
-  press(Editor, "cmdRegistryAdd");
-  press(Editor, "cmdOK");
-  CHECK_FALSE(editor.form.Visible);
-  CHECK(windows.pc.bytes(plugins + "Shop.zb2") == "HKey_Current_User\\Software\\Shop- Key*\r\n");
-  CHECK(program.options.lstFiles.ListCount() == 1);
-
-  DatedEntries& dated = program.main.dated;
-  dated.txtDate.Text = "9/15/2001";
-  dated.txtTime.Text = "10:20";
-  for (const int entries : {1, 2}) {
-    press(faces::Main, "cmdAdd");
-    CHECK(dated.lstSchedule.ListCount() == entries);
-  }
-  dated.lstSchedule.ListIndex(0);
-  press(faces::Main, "cmdRemoveScheduled");
-  CHECK(dated.lstSchedule.ListCount() == 1);
-}
-
-TEST_CASE("a focus that a form asked for is given once") {
-  Windows windows;
-  const WindowSpec& window = windows.of(faces::Editor);
-  CHECK(window.takesFocus() == nullptr);
-  windows.program.editor->NewPlugin();
-  CHECK(window.takesFocus() == &windows.program.editor->state.txtName);
-  CHECK(window.takesFocus() == nullptr);
 }
 
 TEST_CASE("looking at the progress window does not load it") {

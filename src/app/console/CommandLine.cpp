@@ -150,7 +150,7 @@ CommandLine readCommandLine(const std::vector<std::string>& words) {
       return line;
     }
     std::vector<std::string> others = takeCommonOptions(line, words);
-    line.version = others == std::vector<std::string>{"--version"};
+    line.version = !others.empty() && others[0] == "--version";
     if (line.version || (line.help && others.empty())) return line;
     if (others.empty()) throw UsageError("no command is given");
     if (others[0].starts_with("-")) {

@@ -43,7 +43,7 @@ std::vector<std::size_t> CookieChoice::of(const std::vector<CookieRow*>& rows,
   std::vector<std::size_t> places;
   if (first_ > 0) {
     if (last_ > static_cast<int>(rows.size())) {
-      throw Refusal("there is no cookie " + std::to_string(last_));
+      throw Refusal("there is no cookie " + word_.substr(word_.find('-') + 1));
     }
     for (int number = first_; number <= last_; ++number)
       places.push_back(static_cast<std::size_t>(number) - 1);

@@ -6,6 +6,7 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "platform/Wildcard.h"
+#include "platform/pretend/PretendGrip.h"
 
 namespace zub {
 namespace {
@@ -99,9 +100,9 @@ std::string PretendFiles::longName(std::string_view path, std::string_view name)
 }
 
 // Finds out where a folder is and what is known of it. `folder` is told with its separator at the end.
-void PretendFiles::enter(std::string_view folder) {
-  if (!entered_.empty() && entered_ == folder) return;
-  Spot spot;
+const std::shared_ptr<const PretendFiles::Place>& PretendFiles::enter(std::string_view folder) {
+  if (entered_ && !folder.empty() && enteredPath_ == folder) return entered_;
+  Place place;
   const std::string current = systemFolders_.current();
   std::string path(folder);
   const bool withDrive = path.size() > 1 && path[1] == ':';
@@ -112,8 +113,8 @@ void PretendFiles::enter(std::string_view folder) {
     path = (onCurrent ? withBackslash(current) : path.substr(0, 2) + '\\') + path.substr(2);
   }
   std::string told = path.substr(0, 2);
-  spot.path = told;
-  std::vector<std::string> keys{upper(told)};  // of the folders on the way
+  place.path = told;
+  place.key = upper(told);
   for (std::size_t begin = 2; begin < path.size();) {
     const std::size_t end = std::min(path.find_first_of("\\/", begin), path.size());
     const std::string_view part = trimmedName(std::string_view(path).substr(begin, end - begin));
@@ -121,36 +122,37 @@ void PretendFiles::enter(std::string_view folder) {
     if (part.empty()) continue;
     told.append("\\").append(part);
     const std::string name = longName(told, part);
-    spot.path.append("\\").append(name);
+    place.path.append("\\").append(name);
     const std::string key = upper(name);
-    const auto above = folders_.find(keys.back());
+    const auto above = folders_.find(place.key);
     if (above != folders_.end()) {
       const auto own = above->second.own.find(key);
       const bool gone = above->second.gone.contains(key);
-      if (gone) spot.beneath = false;
-      if (own != above->second.own.end() ? own->second.content != nullptr : gone) spot.folderThere = false;
+      if (gone) place.beneath = false;
+      if (own != above->second.own.end() ? own->second.content != nullptr : gone) place.there = false;
     }
-    keys.push_back(keys.back() + '\\' + key);
+    place.key.append("\\").append(key);
   }
-  spot.key = keys.back();
-  spot.beneath &= spot.folderThere;
-  const auto known = folders_.find(spot.key);
-  if (known != folders_.end()) spot.folder = &known->second;
-  entered_ = folder;
-  enteredSpot_ = spot;
+  place.beneath &= place.there;
+  const auto known = folders_.find(place.key);
+  if (known != folders_.end()) place.folder = &known->second;
+  enteredPath_ = folder;
+  entered_ = std::make_shared<const Place>(std::move(place));
+  return entered_;
 }
 
 PretendFiles::Spot PretendFiles::locate(std::string_view path) {
   const bool namesFolder = !path.empty() && isSeparator(path.back());
   path = withoutEnd(path);
   const std::size_t behind = behindFolder(path);
-  enter(path.substr(0, behind));
-  Spot spot = enteredSpot_;
+  Spot spot;
+  spot.in = enter(path.substr(0, behind));
+  spot.folderThere = spot.in->there;
   spot.name = upper(longName(path, trimmedName(path.substr(behind))));
-  if (spot.folder != nullptr) {
-    const auto own = spot.folder->own.find(spot.name);
-    if (own != spot.folder->own.end()) spot.own = &own->second;
-    spot.gone = spot.own == nullptr && spot.folder->gone.contains(spot.name);
+  if (Folder* folder = spot.in->folder) {
+    const auto own = folder->own.find(spot.name);
+    if (own != folder->own.end()) spot.own = &own->second;
+    spot.gone = spot.own == nullptr && folder->gone.contains(spot.name);
   }
   if (namesFolder && spot.own != nullptr && spot.own->content) {  // which leads to no file
     spot.own = nullptr;
@@ -161,10 +163,11 @@ PretendFiles::Spot PretendFiles::locate(std::string_view path) {
 }
 
 PretendFiles::Folder& PretendFiles::changed(const Spot& spot) {
-  if (spot.folder != nullptr) return *spot.folder;
-  entered_.clear();
-  Folder& folder = folders_[spot.key];
-  folder.path = spot.path;
+  ++changes_;
+  if (spot.in->folder != nullptr) return *spot.in->folder;
+  entered_.reset();
+  Folder& folder = folders_[spot.in->key];
+  folder.path = spot.in->path;
   return folder;
 }
 
@@ -174,19 +177,18 @@ void PretendFiles::throwMissing(const Spot& spot) {
 
 std::unique_ptr<FileSearch> PretendFiles::find(std::string_view path) {
   const std::size_t behind = behindFolder(path);
-  enter(path.substr(0, behind));
-  const Spot spot = enteredSpot_;
-  auto beneath = spot.beneath ? beneath_.find(path) : nullptr;
-  if (spot.folder == nullptr) return beneath;
+  const Place& place = *enter(path.substr(0, behind));
+  auto beneath = place.beneath ? beneath_.find(path) : nullptr;
+  if (place.folder == nullptr) return beneath;
   std::deque<FoundFile> own;
   const Wildcard pattern(units(upper(path.substr(behind))));
-  for (const auto& [key, entry] : spot.folder->own) {
+  for (const auto& [key, entry] : place.folder->own) {
     if (!pattern.matches(units(key))) continue;
     FoundFile found{entry.name, entry.content ? entry.attributes : attribute::Directory};
     if (entry.content) setSize(found, entry.content->length());
     own.push_back(found);
   }
-  auto search = std::make_unique<Search>(*this, std::move(beneath), spot.folder, std::move(own));
+  auto search = std::make_unique<Search>(*this, std::move(beneath), place.folder, std::move(own));
   if (!search->any()) return nullptr;
   return search;
 }
@@ -197,72 +199,6 @@ std::uint32_t PretendFiles::attributes(std::string_view path) {
   if (!spot.asksBeneath()) return attribute::Invalid;
   const std::uint32_t bits = beneath_.attributes(path);
   return spot.isReset() && bits != attribute::Invalid ? cleared(bits) : bits;
-}
-
-// The steps of a removal, by the grip of what lies beneath. Nothing goes there, so the path leads where it led.
-class PretendFiles::Grip : public FileGrip {
- public:
-  // `beneath` is null where nothing is there.
-  Grip(PretendFiles& files, std::string_view path, std::unique_ptr<FileGrip> beneath)
-      : files_(files), path_(path), beneath_(std::move(beneath)) {}
-
-  std::uint32_t attributes() override { return files_.attributes(path_); }
-  void resetAttributes() override {
-    const Spot spot = files_.locate(path_);
-    if (spot.own != nullptr) {
-      spot.own->attributes = attribute::Normal;
-      return;
-    }
-    const std::uint32_t kept =
-        attribute::Normal | attribute::Archive | attribute::Directory | attribute::Link;
-    const std::uint32_t bits = beneath(spot).attributes();
-    if (bits == attribute::Invalid) throw RuntimeError(ErrorNumber::FileNotFound);
-    if ((bits & ~kept) != 0) files_.changed(spot).reset.insert(spot.name);
-  }
-  std::int64_t length(ReadOnlyBit bit) override {
-    const Spot spot = files_.locate(path_);
-    if (spot.own != nullptr)
-      return removable(bit == ReadOnlyBit::Counts ? Removal::File : Removal::EvenReadOnly);
-    return beneath(spot).length(spot.isReset() ? ReadOnlyBit::Ignored : bit);
-  }
-  std::unique_ptr<FileChannel> open() override { return files_.open(path_, OpenMode::Binary); }
-  std::int64_t removable(Removal how) override {
-    const Spot spot = files_.locate(path_);
-    if (spot.own == nullptr)
-      return beneath(spot).removable(spot.isReset() && how == Removal::File ? Removal::EvenReadOnly : how);
-    const bool isFolder = !spot.own->content;
-    const bool isReadOnly = (spot.own->attributes & attribute::ReadOnly) != 0;
-    if (isFolder != (how == Removal::EmptyFolder) || (isReadOnly && how == Removal::File))
-      throw RuntimeError(ErrorNumber::PathFileAccess);
-    if (spot.own->overBeneath && beneath_) beneath_->removable(Removal::EvenReadOnly);
-    return isFolder ? 0 : spot.own->content->length();
-  }
-  void remove() override { take(Removal::File); }
-  void take(Removal how) {
-    const std::int64_t length = removable(how);
-    files_.takeOut(files_.locate(path_), how == Removal::EmptyFolder, length);
-  }
-
- private:
-  FileGrip& beneath(const Spot& spot) {
-    if (!spot.asksBeneath() || !beneath_) throw RuntimeError(ErrorNumber::FileNotFound);
-    return *beneath_;
-  }
-
-  PretendFiles& files_;
-  std::string path_;
-  std::unique_ptr<FileGrip> beneath_;
-};
-
-std::unique_ptr<FileGrip> PretendFiles::grip(std::string_view path) {
-  return std::make_unique<Grip>(gripOf(path));
-}
-
-PretendFiles::Grip PretendFiles::gripOf(std::string_view path) {
-  const Spot spot = locate(path);
-  if (spot.own == nullptr && !spot.asksBeneath()) throw RuntimeError(ErrorNumber::FileNotFound);
-  const bool isBeneath = spot.own == nullptr || spot.own->overBeneath;
-  return {*this, path, isBeneath ? beneath_.grip(path) : nullptr};
 }
 
 // The file's own form, made for the first change of its content.
@@ -314,8 +250,9 @@ void PretendFiles::replace(std::string_view path, std::string_view bytes) {
 // The entry is gone from here on, beneath too if it is there.
 void PretendFiles::takeOut(const Spot& spot, bool folder, std::int64_t length) {
   Folder& holder = changed(spot);
-  const bool isBeneath = spot.own == nullptr || spot.own->overBeneath ||
-                         (folder && spot.beneath && beneath_.folderExists(spot.path + '\\' + spot.own->name));
+  const bool isBeneath =
+      spot.own == nullptr || spot.own->overBeneath ||
+      (folder && spot.in->beneath && beneath_.folderExists(spot.in->path + '\\' + spot.own->name));
   if (spot.own != nullptr) holder.own.erase(spot.name);
   holder.reset.erase(spot.name);
   if (!isBeneath) return;
@@ -358,7 +295,7 @@ void PretendFiles::createFolder(std::string_view path) {
   if (there) throw RuntimeError(ErrorNumber::PathFileAccess);
   checkMakeable(path, spot);
   changed(spot).own[spot.name].name = path.substr(behindFolder(path));
-  entered_.clear();
+  entered_.reset();
 }
 
 void PretendFiles::deleteFolder(std::string_view path) {
@@ -401,10 +338,11 @@ void PretendFiles::removeTree(const std::string& path, std::unique_ptr<RuntimeEr
   attempt([&] {
     gripOf(path).take(Removal::EmptyFolder);
     const Spot spot = locate(path);
-    const std::string key = spot.key + '\\' + spot.name;
+    const std::string key = spot.in->key + '\\' + spot.name;
     folders_.erase(key);
     folders_.erase(folders_.lower_bound(key + '\\'), folders_.lower_bound(key + ']'));
-    entered_.clear();
+    entered_.reset();
+    ++changes_;
   });
 }
 

@@ -57,19 +57,24 @@ class PretendFiles : public Files {
     std::unordered_set<std::string> reset;  // with its attributes cleared
     std::map<std::string, Own> own;
   };
-  // A path taken apart.
-  struct Spot {
+  // A folder, and what is known of it here.
+  struct Place {
     Folder* folder = nullptr;  // null where nothing has changed in it
-    std::string key;           // of the folder
-    std::string path;          // of the folder, with long names
-    std::string name;          // folded; empty for a root
-    bool folderThere = true;   // as far as is known here
-    bool beneath = true;       // the folder beneath shows here
+    std::string key;
+    std::string path;     // with long names
+    bool there = true;    // as far as is known here
+    bool beneath = true;  // the folder beneath shows here
+  };
+  // A path taken apart. Good until the next change.
+  struct Spot {
+    std::shared_ptr<const Place> in;
+    std::string name;         // folded; empty for a root
+    bool folderThere = true;  // as far as is known here
     Own* own = nullptr;
     bool gone = false;
 
-    bool asksBeneath() const { return own == nullptr && !gone && beneath; }
-    bool isReset() const { return folder != nullptr && folder->reset.contains(name); }
+    bool asksBeneath() const { return own == nullptr && !gone && in->beneath; }
+    bool isReset() const { return in->folder != nullptr && in->folder->reset.contains(name); }
   };
 
   class Search;
@@ -77,7 +82,7 @@ class PretendFiles : public Files {
 
   Grip gripOf(std::string_view path);
   Spot locate(std::string_view path);
-  void enter(std::string_view folder);
+  const std::shared_ptr<const Place>& enter(std::string_view folder);
   std::string longName(std::string_view path, std::string_view name);
   Folder& changed(const Spot& spot);
   Own& writable(std::string_view path, const Spot& spot);
@@ -95,8 +100,9 @@ class PretendFiles : public Files {
   Sums removed_;
 
   // The folder looked at last.
-  std::string entered_;  // as it was told; empty for none
-  Spot enteredSpot_;     // its own fields, without a name
+  std::string enteredPath_;  // as it was told
+  std::shared_ptr<const Place> entered_;
+  unsigned changes_ = 0;
 };
 
 }  // namespace zub
