@@ -86,11 +86,11 @@ TEST_CASE("every failure is told in its own words, and keeps nothing else from g
   pc.options.chkSkipMessages.Value(0);
   pc.deleteFile("Held, to be left for the next start, without messages", File, 1);
   pc.options.chkSkipMessages.Value(1);
-  const std::string longName = "C:\\T\\A long file name.dat";
-  pc.plant({longName});
-  pc.pc.lock(longName);
-  pc.deleteFile("A long name: the file scheduled last stands alone in the profile", longName, 1);
-  CHECK(pc.pc.bytes("C:\\WINDOWS\\wininit.ini") == "[rename]\r\nnul=C:\\T\\A long file name.dat\r\n");
+  const std::string second = "C:\\T\\SECOND.DAT";
+  pc.plant({second});
+  pc.pc.lock(second);
+  pc.deleteFile("Another one: the file scheduled last stands alone in the profile", second, 1);
+  CHECK(pc.pc.bytes("C:\\WINDOWS\\wininit.ini") == "[rename]\r\nnul=C:\\T\\SECOND.DAT\r\n");
   pc.deleteFile("A missing file: in silence, and the animation stands still", "C:\\none.txt", 1);
   pc.deleteFile("A file of a missing folder", "C:\\none\\none.txt", 1);
 
