@@ -202,8 +202,7 @@ std::string ownOf(const Window& control) {
       {"SysTabControl32", tabsOf},
       {"ComboBox", comboOf},
       {"ListBox",
-       [](const Window& list) { return rowsOf(list) + line("; current ", list.send(LB_GETCURSEL)); }},
-      {"ZubraneControl", [](const Window& kit) { return Accessible(kit).text(); }}};
+       [](const Window& list) { return rowsOf(list) + line("; current ", list.send(LB_GETCURSEL)); }}};
   const std::string name = control.className();
   for (const auto& [className, tell] : all)
     if (lstrcmpiA(name.c_str(), className) == 0) return tell(control);
@@ -226,6 +225,12 @@ std::string lineOf(const Window& control, const Window& window) {
               ' ', hex(GetWindowLongA(control.handle(), GWL_EXSTYLE)), ", keys ",
               hex(control.send(WM_GETDLGCODE)), ownOf(control),
               focus() == control ? ", has the keyboard" : "");
+}
+
+// What it is only in sight.
+std::string seen(const Window& control, const Screen& screen) {
+  const bool isOfTheKit = control.className() == "ZubraneControl";
+  return (isOfTheKit ? Accessible(control).text() : "") + screen.colorsIn(control.place());
 }
 
 std::string lineOf(const Window& window) {
@@ -266,8 +271,8 @@ std::string Told::changes(const Window& window) {
     std::vector<Line> all = {{window.handle(), lineOf(window), ""}};
     const Screen screen;
     for (const Window& control : windowsBelow(window))
-      all.push_back({control.handle(), lineOf(control, window),
-                     control.isVisible() ? screen.colorsIn(control.place()) : ""});
+      all.push_back(
+          {control.handle(), lineOf(control, window), control.isVisible() ? seen(control, screen) : ""});
     for (const Window& tips : zub_.windows())
       if (GetWindow(tips.handle(), GW_OWNER) == window.handle() && tips.className() == TOOLTIPS_CLASSA)
         all.push_back({tips.handle(), tipsOf(tips), ""});
