@@ -1,15 +1,12 @@
 // Whatever the keep files hold: ticks that are written out and read back are the same ticks.
-#include <cstddef>
-#include <cstdint>
-
 #include "cleaners/BrowserFiles.h"
 #include "cleaners/frmIECookieKeep.h"
 #include "cleaners/frmNSCookieKeep.h"
-#include "support/WashFixture.h"
-
-using namespace zub;
+#include "fuzz/Fuzz.h"
 
 namespace {
+
+using namespace zub;
 
 const std::string Profile = "C:\\P\\a.slt";
 
@@ -28,29 +25,23 @@ struct KeepPc : WashFixture {
             cookieLine("a", "n", "v") + cookieLine("a", "m", "v") + cookieLine("b", "n", "v"));
     netscape.Load();
   }
-  std::string ieTicks() {
+  // Of Internet Explorer, a space, of Netscape.
+  std::string ticks() {
     ie.LoadCookies();
-    return ticksOf(ie.lstDelete);
-  }
-  std::string netscapeTicks() {
     netscape.chkSelectAll.Value(0);
     netscape.SelectNS6(Profile);
-    return ticksOf(netscape.lstDelete);
+    return ticksOf(ie.lstDelete) + ' ' + ticksOf(netscape.lstDelete);
   }
 };
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static KeepPc pc;
-  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  pc.pc.file("C:\\Cookies\\ZUBKeep.inf", bytes);
-  pc.pc.file(Profile + "\\ZUBKeepNS6.inf", bytes);
-  const std::string ieTicks = pc.ieTicks();
-  const std::string netscapeTicks = pc.netscapeTicks();
-  pc.ie.cmdOK_Click();
-  pc.netscape.SaveNS6(Profile);
-  if (ieTicks.size() != 2 || pc.ieTicks() != ieTicks) __builtin_trap();
-  if (netscapeTicks.size() != 3 || pc.netscapeTicks() != netscapeTicks) __builtin_trap();
-  return 0;
+void zub::fuzz(std::string_view bytes) {
+  static KeepPc keep;
+  keep.pc.file("C:\\Cookies\\ZUBKeep.inf", bytes);
+  keep.pc.file(Profile + "\\ZUBKeepNS6.inf", bytes);
+  const std::string ticks = keep.ticks();
+  keep.ie.cmdOK_Click();
+  keep.netscape.SaveNS6(Profile);
+  require(ticks.size() == 2 + 1 + 3 && keep.ticks() == ticks);
 }

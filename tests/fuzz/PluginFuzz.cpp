@@ -1,21 +1,15 @@
 // Whatever the lines of a plugin's files are: the editor's boxes and the check stand them, and rows that are edited
 // again and again do not grow.
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
 
 #include "base/Text.h"
+#include "fuzz/Fuzz.h"
 #include "plugins/EditorRows.h"
 #include "plugins/PluginCheck.h"
-#include "support/WashFixture.h"
-
-using namespace zub;
 
 namespace {
 
-void require(bool holds) {
-  if (!holds) __builtin_trap();
-}
+using namespace zub;
 
 // A row that the editor itself made does not grow when it is clicked and added again.
 void rebuildFileRow(const CodePage& codePage, std::string_view line) {
@@ -39,14 +33,13 @@ void rebuildRegistryRow(const CodePage& codePage, std::string_view line) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static WashFixture pc;
-  PluginCheck check(pc.engine);
-  const CodePage& codePage = *pc.engine.pc.codePage;
+void zub::fuzz(std::string_view bytes) {
+  static WashFixture wash;
+  PluginCheck check(wash.engine);
+  const CodePage& codePage = *wash.engine.pc.codePage;
   for (const PluginFile which : {PluginFile::Files, PluginFile::Registry}) {
     check.begin(which);
-    std::string_view text(reinterpret_cast<const char*>(data), size);
-    while (!text.empty()) {
+    for (std::string_view text = bytes; !text.empty();) {
       const auto end = std::min(text.find('\n'), text.size());
       const std::string_view line = text.substr(0, end);
       text.remove_prefix(std::min(end + 1, text.size()));
@@ -55,5 +48,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       rebuildRegistryRow(codePage, line);
     }
   }
-  return 0;
 }

@@ -1,22 +1,16 @@
 // Any bytes are refused or read; what is read can be written, and reads back to the same text.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-
+#include "fuzz/Fuzz.h"
 #include "platform/folder/PcError.h"
 #include "platform/folder/RegistryText.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace zub;
+void zub::fuzz(std::string_view bytes) {
   RegistryTree tree;
   try {
-    tree = readRegistryText({reinterpret_cast<const char*>(data), size}, "fuzz");
+    tree = readRegistryText(bytes, "fuzz");
   } catch (const PcError&) {
-    return 0;
+    return;
   }
   const std::string text = writeRegistryText(tree);
   RegistryTree again = readRegistryText(text, "fuzz");
-  if (writeRegistryText(again) != text) std::abort();
-  return 0;
+  require(writeRegistryText(again) == text);
 }

@@ -16,7 +16,6 @@
 
 #include <cerrno>
 #include <csignal>
-#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -106,100 +105,45 @@ bool allocationFails() {
 
 }  // namespace
 
-#define FAILS(name) (faultAt(name) > 0)
+// A call that fails as a whole, by the name that the library has for it: its parameters, and how it tells a failure.
+#define CALL(Result, name, failure, parameters, ...)           \
+  Result faulty_##name parameters asm(#name);                  \
+  Result faulty_##name parameters {                            \
+    static auto* const call = next<Result parameters>(#name);  \
+    return faultAt(#name) > 0 ? (failure) : call(__VA_ARGS__); \
+  }
+// One that may do a part of what is asked for.
+#define TRANSFER(name, Buffer)                                                           \
+  ssize_t faulty_##name(int file, Buffer buffer, size_t size, off_t offset) asm(#name);  \
+  ssize_t faulty_##name(int file, Buffer buffer, size_t size, off_t offset) {            \
+    const int fault = faultAt(#name);                                                    \
+    if (fault > 0) return -1;                                                            \
+    if (fault == Zero) return 0;                                                         \
+    if (fault == Short) size = (size + 1) / 2;                                           \
+    return next<ssize_t(int, Buffer, size_t, off_t)>(#name)(file, buffer, size, offset); \
+  }
 
 extern "C" {
 
-int open(const char* path, int flags, ...) {
-  va_list rest;
-  va_start(rest, flags);
-  const auto mode = va_arg(rest, mode_t);
-  va_end(rest);
-  return FAILS("open") ? -1 : next<int(const char*, int, ...)>("open")(path, flags, mode);
-}
-
-int openat(int folder, const char* path, int flags, ...) {
-  va_list rest;
-  va_start(rest, flags);
-  const auto mode = va_arg(rest, mode_t);
-  va_end(rest);
-  return FAILS("openat") ? -1 : next<int(int, const char*, int, ...)>("openat")(folder, path, flags, mode);
-}
-
-int fstat(int file, struct stat* facts) noexcept {
-  return FAILS("fstat") ? -1 : next<int(int, struct stat*)>("fstat")(file, facts);
-}
-
-int fstatat(int folder, const char* path, struct stat* facts, int flags) noexcept {
-  return FAILS("fstatat")
-             ? -1
-             : next<int(int, const char*, struct stat*, int)>("fstatat")(folder, path, facts, flags);
-}
-
-DIR* fdopendir(int folder) {
-  return FAILS("fdopendir") ? nullptr : next<DIR*(int)>("fdopendir")(folder);
-}
-
-struct dirent* readdir(DIR* folder) {
-  static auto* const call = next<struct dirent*(DIR*)>("readdir");
-  return FAILS("readdir") ? nullptr : call(folder);
-}
-
-ssize_t pread(int file, void* buffer, size_t size, off_t offset) {
-  const int fault = faultAt("pread");
-  if (fault > 0) return -1;
-  if (fault == Zero) return 0;
-  if (fault == Short) size = (size + 1) / 2;
-  return next<ssize_t(int, void*, size_t, off_t)>("pread")(file, buffer, size, offset);
-}
-
-ssize_t pwrite(int file, const void* bytes, size_t size, off_t offset) {
-  const int fault = faultAt("pwrite");
-  if (fault > 0) return -1;
-  if (fault == Zero) return 0;
-  if (fault == Short) size = (size + 1) / 2;
-  return next<ssize_t(int, const void*, size_t, off_t)>("pwrite")(file, bytes, size, offset);
-}
-
-int fsync(int file) {
-  return FAILS("fsync") ? -1 : next<int(int)>("fsync")(file);
-}
-
-int fdatasync(int file) {
-  return FAILS("fdatasync") ? -1 : next<int(int)>("fdatasync")(file);
-}
-
-int ftruncate(int file, off_t size) noexcept {
-  return FAILS("ftruncate") ? -1 : next<int(int, off_t)>("ftruncate")(file, size);
-}
-
-int flock(int file, int how) noexcept {
-  return FAILS("flock") ? -1 : next<int(int, int)>("flock")(file, how);
-}
-
-int unlinkat(int folder, const char* path, int flags) noexcept {
-  return FAILS("unlinkat") ? -1 : next<int(int, const char*, int)>("unlinkat")(folder, path, flags);
-}
-
-int renameat(int from, const char* old, int to, const char* path) noexcept {
-  return FAILS("renameat") ? -1
-                           : next<int(int, const char*, int, const char*)>("renameat")(from, old, to, path);
-}
-
-int mkdirat(int folder, const char* path, mode_t mode) noexcept {
-  return FAILS("mkdirat") ? -1 : next<int(int, const char*, mode_t)>("mkdirat")(folder, path, mode);
-}
-
-int fchmodat(int folder, const char* path, mode_t mode, int flags) noexcept {
-  return FAILS("fchmodat") ? -1
-                           : next<int(int, const char*, mode_t, int)>("fchmodat")(folder, path, mode, flags);
-}
-
-int fchownat(int folder, const char* path, uid_t user, gid_t group, int flags) noexcept {
-  return FAILS("fchownat")
-             ? -1
-             : next<int(int, const char*, uid_t, gid_t, int)>("fchownat")(folder, path, user, group, flags);
-}
+CALL(int, open, -1, (const char* path, int flags, mode_t mode), path, flags, mode)
+CALL(int, openat, -1, (int folder, const char* path, int flags, mode_t mode), folder, path, flags, mode)
+CALL(int, fstat, -1, (int file, struct stat* facts), file, facts)
+CALL(int, fstatat, -1, (int folder, const char* path, struct stat* facts, int flags), folder, path, facts,
+     flags)
+CALL(DIR*, fdopendir, nullptr, (int folder), folder)
+CALL(dirent*, readdir, nullptr, (DIR * folder), folder)
+TRANSFER(pread, void*)
+TRANSFER(pwrite, const void*)
+CALL(int, fsync, -1, (int file), file)
+CALL(int, fdatasync, -1, (int file), file)
+CALL(int, ftruncate, -1, (int file, off_t size), file, size)
+CALL(int, flock, -1, (int file, int how), file, how)
+CALL(int, unlinkat, -1, (int folder, const char* path, int flags), folder, path, flags)
+CALL(int, renameat, -1, (int from, const char* old, int to, const char* path), from, old, to, path)
+CALL(int, mkdirat, -1, (int folder, const char* path, mode_t mode), folder, path, mode)
+CALL(int, fchmodat, -1, (int folder, const char* path, mode_t mode, int flags), folder, path, mode, flags)
+CALL(int, fchownat, -1, (int folder, const char* path, uid_t user, gid_t group, int flags), folder, path,
+     user, group, flags)
 
 void* __libc_malloc(size_t size);
 

@@ -80,7 +80,7 @@ void WashChoice::apply(Program& program) {
   Options& options = program.options;
   for (int row = 0; row < IconChecks::Count; ++row) {
     checks_[static_cast<std::size_t>(row)] = options.LstIcons.Check(row);
-    options.LstIcons.Check(row, std::ranges::count(tasks_, row) > 0 ? 1 : 0);
+    options.LstIcons.Check(row, std::ranges::count(tasks_, row) > 0);
   }
   custom_ = ticksOf(options.lstFiles);
   standard_ = ticksOf(options.standardlist);
