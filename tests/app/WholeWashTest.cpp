@@ -6,6 +6,7 @@
 
 #include "app/ProgramPc.h"
 #include "cleaners/BrowserFiles.h"
+#include "support/CallTrace.h"
 #include "support/Golden.h"
 
 using namespace zub;
@@ -122,12 +123,8 @@ TEST_CASE("after a wash that empties keys the Office values take their whole key
 
 namespace {
 
-std::string kindOfRemoval(int kind) {
-  constexpr const char* kinds[] = {"nothing", "registry", "files", "folder"};
-  return kinds[kind];
-}
-
-// The numbers of the labels that are lit, with "!" where in bold, and of the marks that tell what is done.
+// What is told now, the numbers of the labels that are lit, with "!" where in bold, and of the marks that tell what is
+// done.
 std::string boardOf(const frmAnimated::State& shown) {
   const std::pair<int, const Label*> labels[] = {
       {1, &shown.Label1}, {2, &shown.Label2},   {3, &shown.Label3},   {4, &shown.Label4},
@@ -137,7 +134,8 @@ std::string boardOf(const frmAnimated::State& shown) {
       {3, &shown.Image3},   {4, &shown.Image4},   {5, &shown.Image5},   {6, &shown.Image6},
       {7, &shown.Image7},   {8, &shown.Image8},   {9, &shown.Image9},   {10, &shown.Image10},
       {11, &shown.Image11}, {12, &shown.Image12}, {13, &shown.Image13}, {14, &shown.Image14}};
-  std::string text = ", lit";
+  std::string text =
+      shown.lblApplication.Caption + " (" + shown.StatusBar1[0] + "), " + kindOfRemoval(shown) + ", lit";
   for (const auto& [number, label] : labels) {
     if (label->ForeColor == colors::Green) text += " " + std::to_string(number) + (label->Bold ? "!" : "");
   }
@@ -145,52 +143,11 @@ std::string boardOf(const frmAnimated::State& shown) {
   for (const auto& [number, mark] : marks) {
     if (mark->picture == Picture::DoneMark) text += " " + std::to_string(number);
   }
-  return text;
+  return text + ", " + shown.StatusBar1[1];
 }
-
-// Each call to the PC, and what report and progress window have come to before it.
-struct CallTrace {
-  explicit CallTrace(WholePc& washed) : pc(washed) {
-    pc.pc.onCall = [this](const std::string& call) {
-      tellChanges();
-      const bool again = call == last, goesOn = call.starts_with("  ") && !last.empty();
-      if (again || goesOn) text.back() = ';';
-      text += (goesOn ? call.substr(1) : again ? " again" : call) + "\n";
-      last = call;
-    };
-  }
-  void tellChanges() {
-    const std::string& report = pc.program->engine.clean.txtResult;
-    if (report.size() < told) told = 0;
-    std::string news = report.substr(told);
-    told = report.size();
-    std::erase(news, '\r');
-    for (; !news.empty(); news.erase(0, news.find('\n') + 1))
-      tell("|" + news.substr(0, news.find('\n')) + "\n");
-
-    const frmAnimated::State& shown = pc.progress().peek().state;
-    const std::string now = "= " + shown.lblApplication.Caption + " (" + shown.StatusBar1[0] +
-                            "), removing " + kindOfRemoval(shown.RemoveEntries) +
-                            (shown.Timer.Enabled ? ", moving" : ", still") + boardOf(shown) + ", " +
-                            shown.StatusBar1[1] + "\n";
-    if (now != window) tell(now);
-    window = now;
-  }
-  void tell(const std::string& line) {
-    text += line;
-    last.clear();
-  }
-
-  WholePc& pc;
-  std::string text, last;  // the last call, where nothing was told since
-  std::size_t told = 0;    // characters of the report
-  std::string window;
-};
 
 }  // namespace
 
-// The lines of the golden list: calls, those for something that is open behind what opened it; "|" a line of the
-// report; "=" what the progress window shows.
 TEST_CASE("a wash of everything makes the calls that were approved, in that order") {
   WholePc pc;
   pc.chooseAll();
@@ -204,7 +161,7 @@ TEST_CASE("a wash of everything makes the calls that were approved, in that orde
   pc.pc.lock("C:\\WINDOWS\\TEMP\\held.tmp");
   pc.pc.fail("delete the key " + User + "Microsoft\\MediaPlayer\\Player\\RecentURLList",
              status::AccessDenied);
-  CallTrace trace(pc);
+  CallTrace trace(pc.pc, pc.program->engine, boardOf);
   pc.main().cmdRemove_Click();
   trace.tellChanges();
   const frmAnimated::State& shown = pc.progress().peek().state;

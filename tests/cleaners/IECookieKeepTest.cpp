@@ -3,6 +3,8 @@
 #include "cleaners/BrowserFiles.h"
 #include "cleaners/CleanIE.h"
 #include "cleaners/frmIECookieKeep.h"
+#include "support/Golden.h"
+#include "support/Story.h"
 #include "support/WashFixture.h"
 
 using namespace zub;
@@ -11,29 +13,40 @@ using namespace std::string_literals;
 namespace {
 
 const std::string Cookies = "C:\\WINDOWS\\Cookies\\";
+using Files = std::initializer_list<std::pair<std::string, std::string>>;
 
 struct CookiePc : WashFixture {
   frmIECookieKeep keep{engine};
 
-  explicit CookiePc(std::initializer_list<const char*> cookies)
-      : WashFixture({"hidden = C:\\WINDOWS\\Cookies\\hidden.txt"}) {
+  // A fresh PC with these files in its folder of cookies, whose window goes on with the story.
+  CookiePc(Story& story, std::initializer_list<const char*> cookies, std::vector<std::string> facts = {})
+      : WashFixture(std::move(facts)) {
+    pc.hide(Cookies + "hidden.txt");
     pc.shellFolder("Cookies", "C:\\WINDOWS\\Cookies");
     for (const char* name : cookies) cookie(name);
     for (const char* decoy : {"hidden.txt", "note.doc", "Sub\\deep.txt"}) cookie(decoy);
+    story.look = [this] { return shown(); };
+    story.settle();
   }
   void cookie(std::string_view name, std::string_view bytes = "x") {
     pc.file(Cookies + std::string(name), bytes);
   }
-  // What a load of the lists shows, one line per row: shown text, file, and "*" where it is kept.
-  std::string rows() {
-    keep.LoadCookies();
-    REQUIRE(keep.lstDelete.ListCount() == keep.lstFiles.ListCount());
-    std::string text;
+  Story::Things shown() {
+    std::string rows, left;
     for (int row = 0; row < keep.lstDelete.ListCount(); ++row) {
-      text += "[" + keep.lstDelete.List(row) + "|" + keep.lstFiles.List(row) + "]";
-      text += keep.lstDelete.Selected(row) ? "*\n" : "\n";
+      rows += (keep.lstDelete.Selected(row) ? "*[" : "[") + keep.lstDelete.List(row) + "|" +
+              keep.lstFiles.List(row) + "]";
     }
-    return text;
+    for (const LeftBehind& each : engine.leftBehind) left += each.what + ": " + each.why;
+    const bool index = pc.hasFile(Cookies + "index.dat"), list = pc.hasFile(Cookies + "ZUBKeep.inf");
+    return {{"window", keep.form.Visible ? "shown " + std::to_string(keep.form.shown) : "hidden"},
+            {"g_strPath", keep.g_strPath},
+            {"rows", rows},
+            {"txtKeep", keep.txtKeep.Text},
+            {"all read", keep.allRead ? "yes" : "no"},
+            {"index.dat", index ? std::to_string(pc.bytes(Cookies + "index.dat").size()) + " bytes" : "none"},
+            {"ZUBKeep.inf", list ? "[" + pc.bytes(Cookies + "ZUBKeep.inf") + "]" : "none"},
+            {"left behind", left}};
   }
 };
 
@@ -43,140 +56,95 @@ TEST_CASE("a record puts its site beside the cookie file that it names") {
   const std::string file = "me@shop[1].txt";
   const std::string url = cookieRecord("me", "shop.example/", file);
   const std::string longest(141, 's');
-  const std::string bare = "[me@shop[1].txt|me@shop[1].txt]\n";
-  const std::string sited = "[http://shop.example/ |me@shop[1].txt ]\n";
   const struct {
     std::string what;
     std::string records;
-    std::string rows;
   } cases[] = {
-      {"a cookie", url, sited},
-      {"left over", indexRecord("LEAK", url.substr(97)), sited},
-      {"another tag", indexRecord("REDR", url.substr(97)), bare},
-      {"other case", cookieRecord("me", "shop.example/", "ME@Shop[1].TXT"),
-       "[http://shop.example/ |ME@Shop[1].TXT ]\n"},
-      {"the first of two records wins", url + cookieRecord("me", "late.example/", file), sited},
-      {"no @ before the name", indexRecord("URL ", "Visited:shop\0plain.txt\0"s),
-       "[http://Visited:shop |plain.txt ]\n" + bare},
+      {"a cookie", url},
+      {"left over", indexRecord("LEAK", url.substr(97))},
+      {"another tag", indexRecord("REDR", url.substr(97))},
+      {"other case", cookieRecord("me", "shop.example/", "ME@Shop[1].TXT")},
+      {"the first of two records wins", url + cookieRecord("me", "late.example/", file)},
+      {"no @ before the name", indexRecord("URL ", "Visited:shop\0plain.txt\0"s)},
       {"bytes that are no text",
-       indexRecord("URL ", "\1\2x\xF0\r me@!sh\x80\x7Fop~/\0\0me@shop[1].txt\0\r\xF0\xAD"s),
-       "[http://!shop~/ |me@shop[1].txt ]\n"},
-      {"a text that fills the record", indexRecord("URL ", "me@" + longest + "\0"s + file),
-       "[http://" + longest + " |me@shop[1].txt]\n"},
+       indexRecord("URL ", "\1\2x\xF0\r me@!sh\x80\x7Fop~/\0\0me@shop[1].txt\0\r\xF0\xAD"s)},
+      {"a text that fills the record", indexRecord("URL ", "me@" + longest + "\0"s + file)},
       {"names of other files",
        cookieRecord("me", "up/", "..\\me@shop[1].txt") + cookieRecord("me", "root/", "C:\\me@shop[1].txt") +
            cookieRecord("me", "sub/", "Sub\\deep.txt") + cookieRecord("me", "all/", "*.txt") +
-           cookieRecord("me", "doc/", "note.doc") + cookieRecord("me", "hidden/", "hidden.txt"),
-       bare},
-      {"off the walk by half a chunk", std::string(128, '\0') + url, bare},
-      {"a longer record before it", indexRecord("URL ", "x") + std::string(256, 'y') + url, sited},
-      {"the file cut off behind the name", url.substr(0, 150), sited},
-      {"the file cut off within the name", url.substr(0, 125), bare},
+           cookieRecord("me", "doc/", "note.doc") + cookieRecord("me", "hidden/", "hidden.txt")},
+      {"off the walk by half a chunk", std::string(128, '\0') + url},
+      {"a longer record before it", indexRecord("URL ", "x") + std::string(256, 'y') + url},
+      {"the file cut off behind the name", url.substr(0, 150)},
+      {"the file cut off within the name", url.substr(0, 125)},
+      {"rows in the order of the records, the others behind them by name",
+       cookieRecord("me", "gone/", "gone.txt") + cookieRecord("me", "last/", file) +
+           cookieRecord("me", "b/", "b.txt")},
   };
+  Story story;
   for (const auto& c : cases) {
-    CAPTURE(c.what);
-    CookiePc pc({file.c_str()});
-    if (c.what == "no @ before the name") pc.cookie("plain.txt");
+    CookiePc pc(story, {file.c_str(), "plain.txt", "c.txt", "b.txt"});
     pc.cookie("index.dat", indexFile({c.records}));
-    CHECK(pc.rows() == c.rows);
+    story.settle();
+    story.step(c.what, [&] { pc.keep.LoadCookies(); });
   }
+  checkGolden("ie-index.txt", story.text);
 }
 
-TEST_CASE("indexed cookies come in the order of their records, the others after them by name") {
-  CookiePc pc({"z.txt", "c.txt", "b.txt", "a.txt"});
-  pc.cookie("index.dat",
-            indexFile({cookieRecord("me", "gone/", "gone.txt"), cookieRecord("me", "last/", "z.txt"),
-                       cookieRecord("me", "first/", "b.txt")}));
-  CHECK(pc.rows() == "[http://last/ |z.txt ]\n[http://first/ |b.txt ]\n[a.txt|a.txt]\n[c.txt|c.txt]\n");
-}
-
-TEST_CASE("a keep line ticks the rows that read like it") {
-  const struct {
-    std::string lines;
-    std::string kept;
-  } cases[] = {
-      {"http://shop.example/ \r\n", "http://shop.example/ "},
-      {"  HTTP://Shop.Example/", "http://shop.example/ "},
-      {"http://other/ \r\n\r\n\r\nBARE.TXT", "bare.txt"},
-      {"http://shop.example", ""},
-      {"\0\1\xFF\x1A\r\r\n\n"s, ""},
-      {"", ""},
-  };
-  for (const auto& c : cases) {
-    CAPTURE(c.lines);
-    CookiePc pc({"shop.txt", "bare.txt"});
+TEST_CASE("what the keep list of Internet Explorer shows and saves, step by step") {
+  Story story;
+  story.text = "# What a keep line ticks\n";
+  const auto load = [&](CookiePc& pc) { story.step("LoadCookies", [&] { pc.keep.LoadCookies(); }); };
+  for (const std::string& lines :
+       {"http://shop.example/ \r\n"s, "  HTTP://Shop.Example/"s, "http://other/ \r\n\r\n\r\nBARE.TXT"s,
+        "http://shop.example"s, "\0\1\xFF\x1A\r\r\n\n"s, ""s}) {
+    CookiePc pc(story, {"shop.txt", "bare.txt"});
     pc.cookie("index.dat", indexFile({cookieRecord("me", "shop.example/", "shop.txt")}));
-    pc.cookie("ZUBKeep.inf", c.lines);
-    pc.keep.LoadCookies();
-    REQUIRE(pc.keep.lstDelete.ListCount() == 2);
-    for (int row = 0; row < 2; ++row) {
-      CHECK(pc.keep.lstDelete.Selected(row) == (pc.keep.lstDelete.List(row) == c.kept));
-    }
+    pc.cookie("ZUBKeep.inf", lines);
+    load(pc);
   }
-}
-
-TEST_CASE("saved ticks come back, unsaved ones are lost by a refresh") {
-  CookiePc pc({"a.txt", "b.txt", "c.txt"});
-  pc.cookie("index.dat", indexFile({cookieRecord("me", "see/", "c.txt")}));
-  pc.keep.Show();
-  pc.keep.chkSelectAll.Value(1);
-  pc.keep.lstDelete.Selected(1, false);
-  pc.keep.cmdOK_Click();
-  CHECK(!pc.keep.form.Visible);
-  CHECK(pc.pc.bytes(Cookies + "ZUBKeep.inf") == "http://see/ \r\nb.txt\r\n");
-
-  pc.keep.Show();
-  pc.keep.chkSelectAll.Value(0);
-  CHECK(pc.keep.lstDelete.SelCount() == 0);
-  CHECK(pc.rows() == "[http://see/ |c.txt ]*\n[a.txt|a.txt]\n[b.txt|b.txt]*\n");
-
-  pc.pc.lock(Cookies + "ZUBKeep.inf");
-  pc.keep.cmdOK_Click();
-  CHECK(pc.keep.form.Visible);  // what cannot be written leaves the window open
-}
-
-TEST_CASE("a click shows the cookie's lines that a line feed ends") {
-  CookiePc pc({});
-  pc.cookie("a.txt", "name\nvalue\n\n\nsite/\r\n*\ntail");
-  pc.keep.LoadCookies();
-  pc.keep.lstDelete.ListIndex(0);
-  CHECK(pc.keep.txtKeep.Text == "name\r\nvalue\r\nsite/\r\r\n*\r\n");
-  pc.pc.lock(Cookies + "a.txt");
-  pc.keep.lstDelete.ListIndex(0);
-  CHECK(pc.keep.txtKeep.Text == "");
-}
-
-TEST_CASE("a failure ends the load with the lists as far as they came") {
-  CookiePc pc({"a.txt"});
-  pc.cookie("ZUBKeep.inf", "a.txt\r\n");
-  CHECK(pc.rows() == "[a.txt|a.txt]*\n");
-  CHECK(pc.pc.bytes(Cookies + "index.dat") == "");  // came into being
-
-  // What could not be read is not written over, and no cookie is removed by it.
-  pc.keep.Show();
-  pc.pc.fail("read " + Cookies + "ZUBKeep.inf", ErrorNumber::DeviceIo);
-  CHECK(pc.rows() == "[a.txt|a.txt]\n");
-  pc.keep.cmdOK_Click();
-  CHECK(pc.keep.form.Visible);
-  CHECK(pc.pc.bytes(Cookies + "ZUBKeep.inf") == "a.txt\r\n");
-  pc.options.chkIECookies.Value(1);
-  CleanIE(pc.engine, pc.keep);
-  CHECK(pc.pc.hasFile(Cookies + "a.txt"));
-  CHECK(pc.engine.leftBehind.size() == 1);
-
-  pc.pc.lock(Cookies + "index.dat");
-  CHECK(pc.rows() == "");
-  pc.pc.shellFolder("Cookies", "C:\\Nowhere");
-  CHECK(pc.rows() == "");
-  CHECK(!pc.pc.hasFolder("C:\\Nowhere"));
-}
-
-TEST_CASE("cookies of a disk that cannot be written are listed") {
-  WashFixture pc({"read only = C"});
-  pc.pc.shellFolder("Cookies", "C:\\WINDOWS\\Cookies");
-  pc.pc.file(Cookies + "a.txt");
-  frmIECookieKeep keep(pc.engine);
-  keep.LoadCookies();
-  CHECK(keep.lstDelete.List(0) == "a.txt");
-  CHECK(!pc.pc.hasFile(Cookies + "index.dat"));
+  {
+    CookiePc pc(story, {"a.txt", "b.txt", "c.txt"});
+    story.chapter("Saved ticks come back, unsaved ones are lost by a refresh");
+    pc.cookie("index.dat", indexFile({cookieRecord("me", "see/", "c.txt")}));
+    story.step("Show", [&] { pc.keep.Show(); });
+    story.step("chkSelectAll on", [&] { pc.keep.chkSelectAll.Value(1); });
+    story.step("the second row unticked", [&] { pc.keep.lstDelete.Selected(1, false); });
+    story.step("cmdOK", [&] { pc.keep.cmdOK_Click(); });
+    story.step("Show", [&] { pc.keep.Show(); });
+    story.step("chkSelectAll off", [&] { pc.keep.chkSelectAll.Value(0); });
+    story.step("cmdRefresh", [&] { pc.keep.cmdRefresh_Click(); });
+    pc.pc.lock(Cookies + "ZUBKeep.inf");
+    story.step("cmdOK where the keep file cannot be written", [&] { pc.keep.cmdOK_Click(); });
+  }
+  {
+    CookiePc pc(story, {});
+    story.chapter("A click shows the lines of the cookie that a line feed ends");
+    pc.cookie("a.txt", "name\nvalue\n\n\nsite/\r\n*\ntail");
+    load(pc);
+    story.step("a click", [&] { pc.keep.lstDelete.ListIndex(0); });
+    pc.pc.lock(Cookies + "a.txt");
+    story.step("a click, and another program holds the cookie", [&] { pc.keep.lstDelete.ListIndex(0); });
+  }
+  {
+    CookiePc pc(story, {"a.txt"});
+    story.chapter("What could not be read is not written over, and no cookie is removed by it");
+    pc.cookie("ZUBKeep.inf", "a.txt\r\n");
+    story.step("Show", [&] { pc.keep.Show(); });
+    pc.pc.fail("read " + Cookies + "ZUBKeep.inf", ErrorNumber::DeviceIo);
+    story.step("cmdRefresh", [&] { pc.keep.cmdRefresh_Click(); });
+    story.step("cmdOK", [&] { pc.keep.cmdOK_Click(); });
+    pc.options.chkIECookies.Value(1);
+    story.step("a wash", [&] { CleanIE(pc.engine, pc.keep); });
+    CHECK(pc.pc.hasFile(Cookies + "a.txt"));
+    pc.pc.lock(Cookies + "index.dat");
+    load(pc);
+    pc.pc.shellFolder("Cookies", "C:\\Nowhere");
+    load(pc);
+    CHECK_FALSE(pc.pc.hasFolder("C:\\Nowhere"));
+  }
+  CookiePc pc(story, {"a.txt"}, {"read only = C"});
+  story.chapter("Cookies of a disk that cannot be written are listed");
+  load(pc);
+  checkGolden("ie-cookies.txt", story.text);
 }

@@ -2,22 +2,21 @@
 #pragma once
 
 #include "cleaners/BrowserFiles.h"
-#include "cleaners/CleanerPc.h"
 #include "cleaners/frmNSCookieKeep.h"
+#include "support/TracedWash.h"
 
 namespace zub {
 
 inline const std::string One = "C:\\W\\Mozilla\\Profiles\\default\\abcd.slt";
 inline const std::string Two = "C:\\W\\Mozilla\\Profiles\\work\\wxyz.slt";
 inline const std::string ProfileRegistry = "C:\\W\\Mozilla\\Registry.dat";
-inline const std::string RootKeep = "C:\\ZUBKeepNS6.inf";
 
 // The cookies of both profiles.
 inline const std::string Basket = cookieLine(".shop.example", "basket", "17");
 inline const std::string Login = ".shop.example\tTRUE\t/\tFALSE\t1023456789\tlogin\tme\r\n";
 inline const std::string News = cookieLine("news.example", "a,b", "1");
 
-struct NetscapePc : CleanerPc {
+struct NetscapePc : TracedWash {
   frmNSCookieKeep keep{engine};
 
   NetscapePc() { pc.shellFolder("AppData", "C:\\W"); }
@@ -32,7 +31,6 @@ struct NetscapePc : CleanerPc {
   }
   std::string kept(const std::string& profile) const { return pc.bytes(profile + "\\ZUBKeepNS6.inf"); }
   std::string cookies(const std::string& profile) const { return pc.bytes(profile + "\\Cookies.txt"); }
-  std::string ticks() const { return ticksOf(keep.lstDelete); }
 };
 
 }  // namespace zub

@@ -1,92 +1,71 @@
 #include <doctest/doctest.h>
 
+#include <map>
+
+#include "support/Golden.h"
+#include "support/Story.h"
 #include "support/WashFixture.h"
 
 using namespace zub;
 
-TEST_CASE("the animation runs through pictures 1 to 4, never 5, and rests on 0") {
+TEST_CASE("what the progress window and the report show, step by step") {
   WashFixture pc;
-  frmAnimated::State& shown = pc.progress();
-  pc.engine.animated->StartAnimation();
-  for (const Picture expected : {Picture::Frame1, Picture::Frame2, Picture::Frame3, Picture::Frame4,
-                                 Picture::Frame1, Picture::Frame2}) {
-    pc.engine.animated->Timer_Tick();
-    CHECK(shown.ImgAnimate.picture == expected);
+  AutoLoad<frmAnimated>& window = pc.engine.animated;
+  frmClean& report = pc.engine.clean;
+  const std::map<Picture, std::string> marks{{Picture::None, "none"},
+                                             {Picture::KindRegistry, "registry"},
+                                             {Picture::KindFolder, "folder"},
+                                             {Picture::KindFiles, "files"}};
+  Story story;
+  story.look = [&]() -> Story::Things {
+    const frmAnimated::State& shown = window.peek().state;
+    std::string told;
+    for (const std::string& call : pc.owner.calls) told += call + " ";
+    return {{"loaded", window.loaded() ? "yes" : "no"},
+            {"visible", shown.form.Visible ? "yes" : "no"},
+            {"animation",
+             std::to_string(static_cast<int>(shown.ImgAnimate.picture) - static_cast<int>(Picture::Frame0)) +
+                 (shown.Timer.Enabled ? " moving" : " still")},
+            {"mark", marks.at(shown.ImgEntries.picture)},
+            {"RemoveEntries", std::to_string(shown.RemoveEntries)},
+            {"lblRemove", shown.lblRemove.Caption},
+            {"lblApplication", shown.lblApplication.Caption},
+            {"lblCurrent", shown.lblCurrent.Caption},
+            {"status bar", shown.StatusBar1[0] + " | " + shown.StatusBar1[1]},
+            {"buttons", shown.cmdFinish.Caption + (shown.cmdLog.Visible ? " " + shown.cmdLog.Caption : "")},
+            {"closes by itself", shown.CloseWindowTimer.Enabled ? "yes" : "no"},
+            {"report", std::string(report.form.Visible ? "on show: " : "hidden: ") + report.txtResult},
+            {"lblLastRemoval", pc.options.lblLastRemoval.Caption},
+            {"the main window is told", told}};
+  };
+  const auto press = [&](std::string_view what, void (frmAnimated::*click)()) {
+    story.step(what, [&] { ((*window).*click)(); });
+  };
+  story.chapter("The animation runs through pictures 1 to 4, and rests on 0");
+  press("StartAnimation", &frmAnimated::StartAnimation);
+  for (int tick = 0; tick < 6; ++tick) press("Timer", &frmAnimated::Timer_Tick);
+  story.chapter("The kind of removal; one that is unknown is only kept");
+  for (const int kind : {1, 2, 3, 4, -1, 0, 2}) {
+    story.step("RemoveEntries " + std::to_string(kind), [&] { window->RemoveEntries(kind); });
   }
-  pc.engine.animated->AppName("Task");
-  pc.engine.animated->RemoveEntries(removing::Files);
-  pc.engine.animated->StopAnimation();
-  CHECK_FALSE(shown.Timer.Enabled);
-  CHECK(shown.ImgAnimate.picture == Picture::Frame0);
-  CHECK(shown.ImgEntries.picture == Picture::None);
-  CHECK(shown.cmdFinish.Caption == "&Finish");
-  CHECK(shown.cmdLog.Visible);
-  CHECK(shown.StatusBar1[0] == "Finished");
-  CHECK(shown.lblApplication.Caption == "Finished");
-  CHECK(shown.lblCurrent.Caption == "Select Finish to close this dialog");
-  pc.engine.animated->StartAnimation();
-  CHECK(shown.Timer.Enabled);
-  CHECK(shown.cmdFinish.Caption == "&Cancel");
-  CHECK_FALSE(shown.cmdLog.Visible);
-}
-
-TEST_CASE("the kind of removal shows its text and its mark; an unknown kind is only kept") {
-  struct {
-    int kind;
-    const char* text;
-    Picture mark;
-  } const rows[] = {{1, "Removing registry entries.", Picture::KindRegistry},
-                    {2, "Removing files", Picture::KindFiles},
-                    {3, "Removing folder", Picture::KindFolder},
-                    {4, "Removing folder", Picture::KindFolder},
-                    {-1, "Removing folder", Picture::KindFolder},
-                    {0, "", Picture::None}};
-  WashFixture pc;
-  for (const auto& row : rows) {
-    pc.engine.animated->RemoveEntries(row.kind);
-    CHECK(pc.engine.animated->RemoveEntries() == row.kind);
-    CHECK(pc.progress().lblRemove.Caption == row.text);
-    CHECK(pc.progress().ImgEntries.picture == row.mark);
+  story.chapter("A line with a leading tab goes to the window too");
+  for (const char* line : {"\tdetail\tand more", "heading", "\t"}) {
+    story.step(line, [&] { report.AddItem(line); });
   }
-}
-
-TEST_CASE("a line with a leading tab also goes to the progress window, without the tab") {
-  WashFixture pc;
-  const std::string& current = pc.progress().lblCurrent.Caption;
-  pc.engine.clean.AddItem("\tdetail\tand more");
-  pc.engine.clean.AddItem("heading");
-  CHECK(current == "detail\tand more");
-  pc.engine.clean.AddItem("\t");
-  CHECK(current.empty());
-  CHECK(pc.takeReport() == "\tdetail\tand more\r\nheading\r\n\t\r\n");
-}
-
-TEST_CASE("the closing figures group the bytes by thousands") {
-  struct {
-    std::int32_t bytes;
-    const char* figure;
-  } const rows[] = {{0, "100"}, {1, "1"}, {999, "999"}, {1000, "1,000"}, {1234567, "1,234,567"}};
-  for (const auto& [bytes, figure] : rows) {
-    WashFixture pc;
+  story.step("AppName Task", [&] { window->AppName("Task"); });
+  story.chapter("The closing figures, by thousands; nothing counts as a hundred");
+  for (const int bytes : {1, 999, 1000, 1234567, 0}) {
     pc.engine.TotalBytes = bytes;
-    pc.engine.animated->StopAnimation();
-    CHECK(pc.progress().lblRemove.Caption ==
-          std::string("Total amount of space restored: ") + figure + " Bytes");
+    press(std::to_string(bytes) + " bytes, StopAnimation", &frmAnimated::StopAnimation);
   }
-}
-
-TEST_CASE("the report outlives the progress window, and hides without losing its text") {
-  WashFixture pc;
-  pc.engine.animated->StartClean();
-  pc.engine.animated->cmdLog_Click();
-  CHECK(pc.engine.clean.form.Visible);
-  pc.engine.animated->cmdFinish_Click();
-  pc.engine.clean.cmdCancel_Click();
-  CHECK_FALSE(pc.engine.clean.form.Visible);
-  pc.engine.clean.form.Show();
-  pc.owner.calls.clear();
-  pc.engine.clean.CloseBox();
-  CHECK_FALSE(pc.engine.clean.form.Visible);
-  CHECK(pc.owner.calls == std::vector<std::string>{"Enable"});
-  CHECK(pc.takeReport().starts_with("Zubrone\r\n"));
+  press("StartAnimation", &frmAnimated::StartAnimation);
+  story.chapter("A wash of nothing, and its report, which outlives the window");
+  pc.engine.TotalBytes = 99;
+  press("StartClean", &frmAnimated::StartClean);
+  press("cmdLog", &frmAnimated::cmdLog_Click);
+  press("cmdFinish", &frmAnimated::cmdFinish_Click);
+  story.step("cmdCancel of the report", [&] { report.cmdCancel_Click(); });
+  story.step("the report is shown again", [&] { report.form.Show(); });
+  story.step("its close box", [&] { report.CloseBox(); });
+  checkGolden("progress.txt", story.text);
 }

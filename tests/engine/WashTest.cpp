@@ -61,23 +61,3 @@ TEST_CASE("a plugin list that changes under its own run is read safely") {
   };
   CHECK(pc.wash() == "A plugin with a long name");
 }
-
-TEST_CASE("a wash with nothing selected writes its two headings, its time and the fixed figure") {
-  RecordedWash pc;
-  pc.engine.clean.txtResult = "the report of the wash before";
-  pc.engine.TotalBytes = 99;
-  CHECK(pc.wash() == "");
-  CHECK(pc.takeReport() == "Zubrone\r\n\r\nLog file generated at 10:20:30 AM on 9/14/2001\r\n\r\n");
-  CHECK(pc.progress().StatusBar1[1] == "Number of tasks competed: 0");
-  CHECK(pc.progress().lblRemove.Caption == "Total amount of space restored: 100 Bytes");
-  for (Image frmAnimated::State::*image : {&frmAnimated::State::Image13, &frmAnimated::State::Image14}) {
-    CHECK((pc.progress().*image).picture == Picture::OpenMark);
-  }
-  CHECK(pc.options.lblLastRemoval.Caption == "Last removal on 9/14/2001 at 10:20:30 AM");
-  CHECK(pc.progress().form.Visible);
-  CHECK_FALSE(pc.progress().CloseWindowTimer.Enabled);  // it waits for the user
-  CHECK(pc.owner.calls.empty());
-  pc.engine.animated->cmdFinish_Click();
-  CHECK(pc.owner.calls == std::vector<std::string>{"Enable", "FinishedCleaning"});
-  CHECK_FALSE(pc.engine.animated.loaded());
-}

@@ -2,7 +2,8 @@
 
 #include "base/Text.h"
 #include "settings/INIFile.h"
-#include "support/TestPc.h"
+#include "support/Golden.h"
+#include "support/WashFixture.h"
 
 using namespace zub;
 
@@ -31,6 +32,29 @@ struct Settings {
     pc.value(Store, name, ValueType::Binary, data);
   }
   std::string stored(std::string_view name) { return pc.data(Store, name).value_or("none"); }
+
+  // An act under a title: its calls, the handlers that run, what the store and the options have come to.
+  std::string text;
+  template <class Action>
+  void act(std::string_view title, Action action) {
+    text.append("\n# ").append(title) += '\n';
+    pc.onCall = [this](const std::string& call) { text += call + "\n"; };
+    for (const FlagName& flag : flagNames) {
+      CheckOption& option = options.*flag.option;
+      option.Click = [this, &option, flag] {
+        text += joined({"    ", flag.stored, option.Value() == 1 ? " on\n" : " off\n"});
+      };
+    }
+    options.cmbShredder.Click = [this] { text += "    cmbShredder " + options.cmbShredder.Text() + "\n"; };
+    options.ComboInterval.Click = [this] {
+      text += "    ComboInterval " + options.ComboInterval.Text() + "\n";
+    };
+    const std::string before = pc.snapshot();
+    text += "answers " + std::to_string(action()) + "\n";
+    text += pc.diffSince(before) + "lblLastRemoval [" + options.lblLastRemoval.Caption + "], icons ";
+    for (int row = 0; row < IconChecks::Count; ++row) text += std::to_string(options.LstIcons.Check(row));
+    text += ", custom " + ticksOf(options.lstFiles) + ", standard " + ticksOf(options.standardlist) + "\n";
+  }
 };
 
 }  // namespace
@@ -63,38 +87,42 @@ TEST_CASE("every option is kept under its own name and comes back from it") {
   }
 }
 
-TEST_CASE("texts, digits and plugin rows are written byte for byte and read back") {
-  for (const std::string family : {"9x", "nt"}) {
-    CAPTURE(family);
-    Settings pc(family);
-    pc.options.lblLastRemoval.Caption = "  padded ";
-    pc.options.cmbShredder.ListIndex(8);
-    pc.options.ComboInterval.type("every now and then");
-    for (const char* row : {" Custom one ", "   ", "Custom two"}) pc.options.lstFiles.AddItem(row);
-    pc.options.lstFiles.selectAll(true);
-    pc.options.lstFiles.Selected(2, false);
-    for (const char* row : {"Adobe Photoshop 6.x", ""}) pc.options.standardlist.AddItem(row);
-    pc.options.standardlist.selectAll(true);
-    CHECK(pc.put() == 0);
-    // The system stores the NUL behind a text, too, and on the 9x family nothing behind the first one.
-    struct {
-      const char* name;
-      std::string bytes;
-    } const rows[] = {{"ZUBPath", padded("C:\\Program Files\\Zubrane", 25)},
-                      {"lblLastRemoval", padded("padded", family == "nt" ? 9 : 7)},
-                      {"cmbShredder", padded("8", 2)},
-                      {"ComboInterval", padded("-1", 3)},
-                      {"ZUBPlugin  Custom one ", On},
-                      {"ZUBPlugin Custom two", Off},
-                      {"ZUBStandardPlugin Adobe Photoshop 6.x", On}};
-    for (const auto& [name, bytes] : rows) CHECK(pc.stored(name) == bytes);
-    CHECK(pc.pc.valueNames(Store).size() == iconNames.size() + flagNames.size() + std::size(rows));
-    CHECK(contains(pc.pc.snapshot(), "\"chkBleach\" = 1:0%00"));  // of the text type
-    CHECK(pc.get() == 0);
-    CHECK(pc.options.lblLastRemoval.Caption == "padded");
-    CHECK(pc.options.cmbShredder.ListIndex() == 8);
-    CHECK(pc.options.ComboInterval.ListIndex() == 0);
-  }
+TEST_CASE("the calls of saving and reading, the handlers that run, and what is stored and shown") {
+  Settings pc;
+  pc.options.lblLastRemoval.Caption = "  padded ";
+  pc.options.cmbShredder.ListIndex(8);
+  pc.options.ComboInterval.type("every now and then");
+  pc.options.LstIcons.Check(3, 1);
+  for (const char* row : {" Custom one ", "   ", "Custom two"}) pc.options.lstFiles.AddItem(row);
+  for (const char* row : {"Adobe Photoshop 6.x", "", "Other"}) pc.options.standardlist.AddItem(row);
+  pc.options.lstFiles.Selected(0, true);
+  pc.options.standardlist.Selected(2, true);
+  pc.act("Saving", [&] { return pc.put(); });
+  pc.options.lstFiles.selectAll(true);  // a blank row has no value, in either direction
+  pc.options.standardlist.selectAll(true);
+  pc.act("Reading; the standard rows wait for their own call", [&] { return pc.get(); });
+  pc.act("Reading the standard rows", [&] { return pc.get2(); });
+
+  Settings first;
+  first.options.cmbShredder.ListIndex(4);
+  first.options.LstIcons.Check(3, 1);
+  first.act("Reading a store where nothing is", [&] { return first.get(); });
+  first.pc.fail("open or make " + Store, status::AccessDenied);
+  first.act("A store that cannot be opened: saving", [&] { return first.put(); });
+  first.act("Reading", [&] { return first.get(); });
+  first.act("Reading the standard rows", [&] { return first.get2(); });
+  first.pc.clearFaults();
+  first.pc.fail("set value " + Store, status::AccessDenied);
+  first.pc.fail("look at value " + Store, status::AccessDenied);
+  first.options.LstIcons.Check(3, 1);
+  first.act("Values that can be neither written nor read: reading", [&] { return first.get(); });
+
+  // The 9x family stores nothing behind the first NUL.
+  Settings old("9x");
+  old.options.lblLastRemoval.Caption = "  padded ";
+  old.put();
+  CHECK(old.stored("lblLastRemoval") == padded("padded", 7));
+  checkGolden("settings.txt", pc.text + first.text);
 }
 
 TEST_CASE("a stored value is read by its kind, and one that has no room is repaired") {
@@ -135,75 +163,4 @@ TEST_CASE("a stored value is read by its kind, and one that has no room is repai
     CHECK(pc.stored(row.name) == row.after);
     CHECK(pc.options.lstFiles.Selected(0));  // what comes behind is read all the same
   }
-}
-
-TEST_CASE("a plugin's mark follows its name; the standard rows wait for their own call") {
-  Settings pc;
-  for (const char* row : {"A", "  ", "B"}) pc.options.lstFiles.AddItem(row);
-  pc.options.standardlist.AddItem("A");
-  pc.options.lstFiles.selectAll(true);
-  pc.store("ZUBPlugin B", On);
-  pc.store("ZUBStandardPlugin A", On);
-  pc.get();
-  CHECK_FALSE(pc.options.lstFiles.Selected(0));
-  CHECK(pc.options.lstFiles.Selected(1));  // a blank row has no value, in either direction
-  CHECK(pc.options.lstFiles.Selected(2));
-  CHECK_FALSE(pc.options.standardlist.Selected(0));
-  pc.get2();
-  CHECK(pc.options.standardlist.Selected(0));
-}
-
-TEST_CASE("a read runs the handlers of all options in their order, and stores what is missing") {
-  Settings pc;
-  pc.store("chkIECache", On);
-  pc.store("chkRunAuto", On);
-  pc.options.LstIcons.Check(3, 1);
-  pc.options.cmbShredder.ListIndex(4);
-  std::string ran;
-  std::string expected;
-  for (const FlagName& flag : flagNames) {
-    CheckOption& option = pc.options.*flag.option;
-    const bool on = flag.option == &Options::chkIECache || flag.option == &Options::chkRunAuto;
-    option.Value(on ? 0 : 1);
-    option.Click = [&ran, &option, flag] {
-      ran.append(flag.stored).append(option.Value() == 1 ? " on " : " off ");
-    };
-    expected.append(flag.stored).append(on ? " on " : " off ");
-  }
-  pc.options.cmbShredder.Click = [&] { ran += "cmbShredder "; };
-  pc.options.ComboInterval.Click = [&] { ran += "ComboInterval "; };
-  pc.get();
-  CHECK(ran == expected + "cmbShredder ComboInterval ");
-  CHECK(pc.options.lblLastRemoval.Caption.empty());
-  CHECK(pc.options.LstIcons.Check(3) == 0);
-  CHECK(pc.options.cmbShredder.Text() == "1");
-  CHECK(pc.options.ComboInterval.Text() == "Every Hour");
-  CHECK(pc.pc.valueNames(Store).size() == iconNames.size() + flagNames.size() + 3);
-  CHECK(pc.stored("lblLastRemoval") == padded("", 2));
-  CHECK(pc.stored("cmbShredder") == Off);
-}
-
-TEST_CASE("a store that cannot be opened answers -1 and changes nothing") {
-  Settings pc;
-  pc.options.chkBleach.Value(1);
-  pc.options.chkBleach.Click = [] { FAIL_CHECK("a handler ran"); };
-  pc.pc.fail("open or make " + Store, status::AccessDenied);
-  CHECK(pc.put() == -1);
-  CHECK(pc.get() == -1);
-  CHECK(pc.get2() == -1);
-  CHECK(pc.options.chkBleach.Value() == 1);
-  CHECK(pc.options.lblLastRemoval.Caption == "Last removal on : NEVER USED");
-}
-
-TEST_CASE("values that can be neither read nor written are off, and no call fails for it") {
-  Settings pc;
-  pc.store("chkBleach", On);
-  pc.options.chkRunShutDown.Value(1);
-  pc.pc.fail("set value " + Store, status::AccessDenied);
-  pc.pc.fail("look at value " + Store, status::AccessDenied);
-  CHECK(pc.put() == 0);
-  CHECK(pc.get() == 0);
-  CHECK(pc.options.chkBleach.Value() == 0);
-  CHECK(pc.options.chkRunShutDown.Value() == 0);
-  CHECK(pc.stored("chkBleach") == On);
 }
