@@ -28,41 +28,6 @@ wash() {
   [ $status -le "${worst:-1}" ] || fail "the wash ended with $status: $(tail -1 "$work/err")"
 }
 
-# Links in folders that a wash empties: they go, as links.
-newPc
-temp=$pc/C/WINDOWS/TEMP
-mkdir -p "$temp/folder" "$pc/C/RECYCLED"
-ln -s "$outside" "$temp/folder link"
-ln -s ../../../../outside "$temp/relative link"
-ln -s "$outside/old.tmp" "$temp/folder/file link.tmp"
-ln -s "$outside/nothing" "$temp/dead link"
-ln -s . "$temp/round link"
-ln -s "$outside/INFO2" "$pc/C/RECYCLED/INFO2"
-ln -s "$outside" "$pc/C/RECYCLED/DC1"
-ln -s "$outside/scandisk.log" "$pc/C/scandisk.log"
-mkfifo "$temp/pipe.tmp"
-wash
-untouched "links in emptied folders"
-for name in "folder link" "relative link" "dead link" "round link" folder; do gone "$temp/$name"; done
-for name in INFO2 DC1; do gone "$pc/C/RECYCLED/$name"; done
-
-# Names that a code page lacks or that look like a way out, beside what they could be taken for.
-newPc
-mkdir -p "$temp/．．＼keepdir" "$pc/C/WINDOWS/keepdir"
-for name in "$temp/ā.tmp" "$temp/..\\keep" "$temp/nul" "$pc/C/WINDOWS/keep"; do echo x >"$name"; done
-wash
-check "the report tells names as they are" grep -q '^.Shredding file ā.tmp$' "$work/out"
-for name in "．．＼keepdir" "ā.tmp" "..\\keep" nul; do gone "$temp/$name"; done
-check "a folder beside was taken" [ -d "$pc/C/WINDOWS/keepdir" ]
-check "a file beside was taken" [ -f "$pc/C/WINDOWS/keep" ]
-
-# A start folder that is a link is told and not entered.
-newPc
-rm -rf "$temp"
-ln -s "$outside" "$temp"
-run 1 --pc "$pc" wash
-check "the link is not told" grep -qxF 'zub: C/WINDOWS/TEMP: a link, which is not entered' "$work/err"
-
 # Links in place of the folders of the PC, of a drive and of the texts that hold the PC.
 for place in C/WINDOWS/TEMP C/WINDOWS C/RECYCLED C D "C/Program Files/Zubrane/Plugins" "C/Program Files"; do
   newPc

@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
-# killed.sh PROGRAM FAULTS: washes that are killed before each call that changes something. The registry text is whole:
+# Washes that are killed before each call that changes something. The registry text is whole:
 # the old one before it is put in place, the new one from then on, also while a second wash goes on in the same start.
-# A later wash does the rest. One that is interrupted ends by itself, behind the file at which it is.
+# A later wash does the rest.
 . "$(dirname "$0")/check.sh"
-faults=${program[1]} program=("${program[0]}")
 pc=$work/pc
 calls=$work/calls
 
@@ -38,27 +37,4 @@ for words in wash "start /STARTUP /SCHEDULER"; do
     check "the later wash has another registry" cmp <(timeless "$pc/registry.reg") "$work/new"
     check "a file beside the registry stays" eval '! compgen -G "$pc/registry.reg.*" >/dev/null'
   done
-done
-
-# The signal comes while the first of three files is removed, or shredded, before the next task.
-words=wash
-run 0 --pc "$work/first" set chkScanDisk=1
-for name in work{1..3}.tmp; do head -c 3000 /dev/zero | tr '\0' x >"$work/first/C/WINDOWS/TEMP/$name"; done
-for row in "2 130 unlinkat 0" "15 143 unlinkat 0" "1 129 pwrite 1"; do
-  read -r signal status call shred <<<"$row"
-  run 0 --pc "$work/first" set chkBleach="$shred" passes=2  # what a pass wrote goes to the disk at its end
-  makePc
-  echo lost >"$pc/C/FILE0000.CHK"
-  : >"$calls"
-  killedAt 0 >"$work/out" 2>&1
-  at=$(grep -nx "$call" "$calls" | head -1 | cut -d: -f1)
-  makePc
-  echo lost >"$pc/C/FILE0000.CHK"
-  ZUB_FAULT_AT=$at ZUB_FAULT=signal$signal LD_PRELOAD=$faults zub --pc "$pc" wash
-  check "signal $signal ends it with $?" [ $? -eq "$status" ]
-  check "$(left) files are left" [ "$(left)" -eq 2 ]
-  here "$pc/C/FILE0000.CHK"
-  says "The wash was interrupted. Space restored so far: 3,000 Bytes"
-  check "a file is half shredded" [ "$(cat "$pc"/C/WINDOWS/TEMP/work*.tmp | tr -d x | wc -c)" -eq 0 ]
-  check "the registry was not saved" [ "$(grep -c RunMRU "$pc/registry.reg")" -eq 0 ]
 done

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "plugins/frmPluginEditor.h"
+#include "ui/controls/Art.h"
 
 namespace zub {
 namespace {
@@ -61,9 +62,7 @@ std::string stateOf(const layout::Shown& shown) {
     if constexpr (std::is_same_v<State, const std::array<std::string, 2>*>)
       text += (*state)[0].empty() ? "" : " \"" + (*state)[0] + "\" \"" + (*state)[1] + '"';
     if constexpr (std::is_same_v<State, const Image*>)
-      text += state->picture == Picture::None
-                  ? ""
-                  : " picture " + std::to_string(static_cast<int>(state->picture));
+      text += (state->picture == Picture::None ? "" : " ") + std::string(controls::artOf(state->picture));
     if constexpr (std::is_same_v<State, const ClockDisplay*>)
       text += state->text + (state->colon ? " with colon" : "");
     if constexpr (std::is_same_v<State, CheckOption*>) text += state->Value() == 1 ? ", ticked" : "";

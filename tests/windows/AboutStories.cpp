@@ -1,41 +1,9 @@
-// The about box, and the drawn message box.
-#include <cstdlib>
-
+// The about box.
 #include "windows/Story.h"
 // Behind it.
 #include <shlwapi.h>
 
 using namespace zub::drive;
-
-namespace {
-
-// How much the pixels of a part of the screen differ from that in its corner, at most: 0 to 3 * 255.
-int contrastIn(const RECT& part) {
-  const HDC screen = GetDC(nullptr);
-  const auto pixel = [&](LONG x, LONG y) {
-    return GetPixel(screen, static_cast<int>(x), static_cast<int>(y));
-  };
-  const COLORREF corner = pixel(part.left, part.top);
-  int most = 0;
-  for (LONG y = part.top; y < part.bottom; ++y) {
-    for (LONG x = part.left; x < part.right; ++x) {
-      const COLORREF here = pixel(x, y);
-      most = std::max(most, std::abs(GetRValue(here) - GetRValue(corner)) +
-                                std::abs(GetGValue(here) - GetGValue(corner)) +
-                                std::abs(GetBValue(here) - GetBValue(corner)));
-    }
-  }
-  ReleaseDC(nullptr, screen);
-  return most;
-}
-
-bool haveOneMiddle(const RECT& one, const RECT& other) {
-  const auto isNear = [](LONG first, LONG second) { return std::abs(first - second) <= 2; };
-  return isNear(one.left + one.right, other.left + other.right) &&
-         isNear(one.top + one.bottom, other.top + other.bottom);
-}
-
-}  // namespace
 
 TEST_CASE("the about box lies over the middle of the main window, wherever that is, until it is closed") {
   const Story story;
@@ -45,7 +13,7 @@ TEST_CASE("the about box lies over the middle of the main window, wherever that 
     SetWindowPos(main.handle(), nullptr, corner, corner, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     main.child("About").click();
     const Window about = zub.window(title::About);
-    CHECK(haveOneMiddle(about.place(), main.place()));
+    CHECK(about.isInTheMiddleOf(main.place()));
     CHECK_FALSE(main.isEnabled());
     REQUIRE(about.comesToFront());
     return about;
@@ -100,20 +68,4 @@ TEST_CASE("the about box stays modal while a wash runs and ends under it") {
     if (!closedFirst) about.child("&OK").click();
     CHECK(soon([&] { return main.isEnabled(); }));
   }
-}
-
-TEST_CASE("the drawn message box shows its texts, its icon and its buttons on its background") {
-  const Story story;
-  const Zub program("", "show_message_box.exe");
-  const Window box = program.window("Zubrone");
-  const Window yes = box.child("&Yes");
-  constexpr int Plain = 90;
-  for (const Window& control :
-       {box.child("Zubrone"), box.child("Are you sure?"), box.child("ZubraneControl", 0),
-        box.child("ZubraneControl", 1), yes, box.child("&No")}) {
-    CAPTURE(control.caption());
-    CHECK(soon([&] { return contrastIn(control.place()) > Plain; }, 5));
-  }
-  yes.click();
-  CHECK(box.isVisible());  // the buttons lead nowhere
 }

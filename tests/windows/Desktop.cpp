@@ -106,6 +106,17 @@ RECT Window::place() const {
   return place;
 }
 
+bool Window::isInTheMiddleOf(const RECT& other) const {
+  const RECT own = place();
+  const auto isNear = [](LONG first, LONG second) { return std::abs(first - second) <= 2; };
+  return isNear(own.left + own.right, other.left + other.right) &&
+         isNear(own.top + own.bottom, other.top + other.bottom);
+}
+
+RECT wholeScreen() {
+  return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+}
+
 bool Window::hasChild(std::string_view text) const {
   return std::ranges::any_of(
       windowsBelow(*this), [&](const Window& child) { return child.isVisible() && child.caption() == text; });

@@ -37,6 +37,7 @@ class Window {
   bool isVisible() const { return handle_ != nullptr && IsWindowVisible(handle_) != 0; }
   bool isEnabled() const { return IsWindowEnabled(handle_) != 0; }
   RECT place() const;  // on the screen
+  bool isInTheMiddleOf(const RECT& other) const;
 
   // The visible control with this text (its access key's "&" counts), or the n-th of a class in Tab order.
   Window child(std::string_view text) const;
@@ -61,6 +62,8 @@ class Window {
 
 // From pixels of 96 an inch to those of this screen.
 int scaled(int pixels);
+
+RECT wholeScreen();
 
 // All windows of a process, and all below a window, hidden ones included.
 std::vector<Window> windowsOf(DWORD process);

@@ -135,29 +135,6 @@ TEST_CASE("the editor comes up on its first tab each time, and refuses an entry 
   CHECK(zub.hides(title::Editor));
 }
 
-TEST_CASE("Select All ticks every plugin, and a row's description is shown") {
-  const Story story;
-  const Zub zub;
-  const Window main = zub.main();
-  const Window custom = pluginList(main);
-  main.child("Select All").tick();
-  for (int row = 0; row < 3; ++row) CHECK(soon([&] { return rows::isChecked(custom, row); }));
-  openTab(main, " Standard Plugins");
-  const Window standard = main.child("SysListView32", 0);
-  const Window description = main.child("STATIC", 0);
-  CHECK(description.text() == "Please select a plugin to see the description");
-  rows::click(standard, 0);
-  CHECK(soon([&] { return description.text() != "Please select a plugin to see the description"; }));
-  const std::string first = rows::text(standard, 0), last = rows::text(standard, rows::count(standard) - 1);
-  main.child("Select All").tick();
-  REQUIRE(soon([&] { return rows::isChecked(standard, 0); }));
-  rows::clickCheck(standard, 0);
-  zub.close();
-  CHECK(pc::storedOption("ZUBPlugin Card Shop Deluxe") == "1");
-  CHECK(pc::storedOption("ZUBStandardPlugin " + first) == "0");
-  CHECK(pc::storedOption("ZUBStandardPlugin " + last) == "1");
-}
-
 TEST_CASE("the system's folder picker fills the path box") {
   const Story story;
   const Zub zub;

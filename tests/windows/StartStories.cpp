@@ -3,26 +3,6 @@
 
 using namespace zub::drive;
 
-TEST_CASE("the first start shows the main window in the middle of the screen") {
-  const Story story;
-  const Zub zub;
-  const Window main = zub.main();
-  const RECT room{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-  const RECT place = main.place();
-  CHECK(std::abs((place.left - room.left) - (room.right - place.right)) <= 1);
-  CHECK(std::abs((place.top - room.top) - (room.bottom - place.bottom)) <= 1);
-
-  CHECK(main.hasChild("Current time:"));
-  CHECK(main.hasChild("Downloaded Programs"));    // the choices of the first picture
-  CHECK_FALSE(main.hasChild("Mail"));             // not those of another
-  CHECK_FALSE(main.hasChild("&View Log"));        // nothing to view yet
-  CHECK(main.child("STATIC", 0).text().empty());  // the help
-  for (const char* tab : {"Custom Plugins", "Options", "Scheduler", " Standard Plugins", "Main"})
-    openTab(main, tab);
-  CHECK(main.child("STATIC", 0).text() == "Click on the item you need help with!");
-  zub.close();
-}
-
 TEST_CASE("everything chosen is there again at the next start") {
   const Story story;
   {

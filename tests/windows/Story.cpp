@@ -85,7 +85,7 @@ Zub::~Zub() {
 }
 
 bool Zub::shows(std::string_view title) const {
-  return std::ranges::any_of(windowsOf(process_.dwProcessId),
+  return std::ranges::any_of(windows(),
                              [&](const Window& one) { return one.isVisible() && one.caption() == title; });
 }
 
@@ -96,7 +96,7 @@ bool Zub::hides(std::string_view title) const {
 Window Zub::find(std::string_view title, bool isDialog) const {
   Window found;
   soon([&] {
-    for (const Window& one : windowsOf(process_.dwProcessId)) {
+    for (const Window& one : windows()) {
       const bool fits = one.caption() == title && (one.className() == "#32770") == isDialog;
       if (fits && one.isVisible()) found = one;
     }
@@ -143,9 +143,9 @@ void Zub::trayEntry(char letter) const {
 Zub::Handles Zub::handles() const {
   main().settle();
   const auto counted = static_cast<int>(GetGuiResources(process_.hProcess, GR_GDIOBJECTS));
-  std::size_t windows = 0;
-  for (const Window& window : windowsOf(process_.dwProcessId)) windows += 1 + windowsBelow(window).size();
-  return {counted != 0 ? counted : graphicHandlesOf(process_.hProcess), static_cast<int>(windows)};
+  std::size_t all = 0;
+  for (const Window& window : windows()) all += 1 + windowsBelow(window).size();
+  return {counted != 0 ? counted : graphicHandlesOf(process_.hProcess), static_cast<int>(all)};
 }
 
 bool Zub::ends(int seconds) const {

@@ -42,6 +42,8 @@ class Zub {
   void clickTray(bool right = false) const;
   void trayEntry(char letter) const;
 
+  std::vector<Window> windows() const { return windowsOf(process_.dwProcessId); }  // hidden ones included
+
   // What the process holds of the system: pens, brushes, fonts, bitmaps, device contexts; windows, hidden ones
   // included.
   struct Handles {

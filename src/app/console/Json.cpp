@@ -7,12 +7,13 @@
 namespace zub {
 namespace {
 
-bool isHigh(char16_t unit) {
-  return unit >= 0xD800 && unit < 0xDC00;
+// Of a pair, which stands for one character; a second half alone stands for a byte that is no UTF-8.
+bool isFirstHalf(char16_t unit) {
+  return (unit & 0xFC00u) == 0xD800;
 }
 
-bool isLow(char16_t unit) {
-  return unit >= 0xDC00 && unit < 0xE000;
+bool isSecondHalf(char16_t unit) {
+  return (unit & 0xFC00u) == 0xDC00;
 }
 
 std::string escape(char16_t unit) {
@@ -35,10 +36,10 @@ std::string jsonText(std::string_view utf8) {
       text += "\\t";  // before each line of a report
     } else if (unit < 32 || (unit >= 127 && unit < 160)) {
       text += escape(unit);
-    } else if (isHigh(unit) && i + 1 < units.size() && isLow(units[i + 1])) {
+    } else if (isFirstHalf(unit)) {
       appendUtf8(text, ((unit - 0xD7C0u) << 10) | (units[++i] & 0x3FFu));
     } else {
-      appendUtf8(text, isHigh(unit) || isLow(unit) ? Unknown : unit);
+      appendUtf8(text, isSecondHalf(unit) ? Unknown : unit);
     }
   }
   return text + '"';

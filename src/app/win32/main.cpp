@@ -71,7 +71,7 @@ bool tellsSwitches(const char* arguments) {
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR arguments, int) {
   if (tellsSwitches(arguments)) return 0;
   // One by one: a library that does not know a kind of classes refuses all that are asked for with it.
-  for (const DWORD classes : {ICC_WIN95_CLASSES, ICC_STANDARD_CLASSES}) {
+  for (const DWORD classes : {DWORD{ICC_WIN95_CLASSES}, DWORD{ICC_STANDARD_CLASSES}}) {
     const INITCOMMONCONTROLSEX controls{sizeof controls, classes};
     InitCommonControlsEx(&controls);
   }

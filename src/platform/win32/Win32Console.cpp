@@ -81,7 +81,7 @@ std::wstring takeProgram(std::wstring_view& line) {
   const bool quoted = line.starts_with(L'"');
   const std::size_t begin = quoted ? 1 : 0;
   const std::size_t end = std::min(line.find_first_of(quoted ? L"\"" : L" \t", begin), line.size());
-  const std::wstring name(line.substr(begin, end - begin));
+  std::wstring name(line.substr(begin, end - begin));
   line.remove_prefix(std::min(line.find_first_not_of(L" \t\"", end), line.size()));
   return name;
 }

@@ -35,7 +35,7 @@ struct Win32Platform::Services {
   Platform platform;
 };
 
-Win32Platform::Win32Platform(EventLoop& events, Tray& tray, OwnerWindow owner)
+Win32Platform::Win32Platform(EventLoop& events, Tray& tray, const OwnerWindow& owner)
     : services_(std::make_unique<Services>(events, tray, owner)) {}
 
 Win32Platform::~Win32Platform() = default;

@@ -11,7 +11,7 @@ namespace zub {
 class Win32Platform {
  public:
   // The event loop and the tray belong to the caller and outlive this object.
-  Win32Platform(EventLoop& events, Tray& tray, OwnerWindow owner);
+  Win32Platform(EventLoop& events, Tray& tray, const OwnerWindow& owner);
   Win32Platform(const Win32Platform&) = delete;
   Win32Platform& operator=(const Win32Platform&) = delete;
   ~Win32Platform();

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/Embedded.h"
+#include "state/Controls.h"
 #include "ui/controls/Bitmap.h"
 
 namespace zub {
@@ -29,5 +30,8 @@ class Art {
   std::map<std::string_view, Bitmap> pictures_;
   Bitmap none_;
 };
+
+// The name of a picture that a form shows; empty for none.
+std::string_view artOf(Picture picture);
 
 }  // namespace zub::controls

@@ -157,7 +157,7 @@ STDMETHODIMP KitAccessible::accDoDefaultAction(VARIANT child) {
   if (!finds(child, part)) return E_INVALIDARG;
   if (IsWindowEnabled(GetAncestor(window_, GA_ROOT)) == 0)
     return DISP_E_MEMBERNOTFOUND;  // a modal window is there
-  PostMessageA(window_, BM_CLICK, static_cast<WPARAM>(part + 1), 0);
+  PostMessageA(window_, BM_CLICK, static_cast<WPARAM>(part) + 1, 0);
   return S_OK;
 }
 

@@ -114,7 +114,7 @@ KitHost::Parts picture(const ViewSite& site) {
   auto& picture = make<PictureControl>(parts, site);
   picture.picture(site.spec.caption);
   if (const auto* image = site.bound<const Image*>())
-    parts.show = [&picture, image] { picture.picture(artOf(image->picture)); };
+    parts.show = [&picture, image] { picture.picture(controls::artOf(image->picture)); };
   if (const auto* shown = site.bound<const bool*>()) parts.visible = [shown] { return *shown; };
   return parts;
 }
@@ -137,23 +137,6 @@ KitHost::Parts partsOf(const ViewSite& site) {
 }
 
 }  // namespace
-
-std::string_view artOf(Picture picture) {
-  constexpr std::string_view Names[] = {"",
-                                        "mark-open",
-                                        "mark-done",
-                                        "animation-0",
-                                        "animation-1",
-                                        "animation-2",
-                                        "animation-3",
-                                        "animation-4",
-                                        "animation-5",
-                                        "kind-registry",
-                                        "kind-folder",
-                                        "kind-files"};
-  static_assert(std::size(Names) == static_cast<std::size_t>(Picture::KindFiles) + 1);
-  return Names[static_cast<std::size_t>(picture)];
-}
 
 std::unique_ptr<View> makeKitView(const ViewSite& site) {
   KitHost::Parts parts = partsOf(site);

@@ -95,7 +95,7 @@ class PlainListView : public RowsView {
       widest = std::max(widest, site_.ui.text.measure(row.text, {}).width);
     }
     constexpr int Margin = 8;
-    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest + Margin));
+    send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest) + Margin);
   }
   void select(int row) override { send(LB_SETCURSEL, static_cast<WPARAM>(row)); }
 };

@@ -33,7 +33,4 @@ class LineControl : public controls::Control {
   Color color_;
 };
 
-// The bitmap of a picture that a form shows.
-std::string_view artOf(Picture picture);
-
 }  // namespace zub

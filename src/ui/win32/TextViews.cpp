@@ -52,8 +52,10 @@ class EditView : public NativeView {
   }
 
   void show() override {
-    const bool recolored = changes(foreColor_, box_->ForeColor) | changes(backColor_, box_->BackColor);
-    if (recolored) RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
+    const bool foreColored = changes(foreColor_, box_->ForeColor);
+    const bool backColored = changes(backColor_, box_->BackColor);
+    if (foreColored || backColored)
+      RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
     if (changes(enabled_, box_->Enabled)) EnableWindow(hwnd(), enabled_ ? TRUE : FALSE);
     if (shown_ == box_->Text) return;
     shown_ = box_->Text;

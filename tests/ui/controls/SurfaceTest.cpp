@@ -75,21 +75,6 @@ TEST_CASE("copying stretches to the mean of what lies under a pixel, and clips a
   }
 }
 
-TEST_CASE("opacity mixes each colour by itself") {
-  const struct {
-    std::uint32_t over, result;
-  } cases[] = {
-      {0x00FFFFFF, 0x204060}, {0xFF102030, 0x102030}, {0x80FFFFFF, 0x90A0B0}, {0x40000000, 0x183048}};
-  for (const auto& [over, result] : cases) {
-    const std::uint32_t color = over;
-    const std::vector<unsigned char> file = pictureFile(1, 1, [color](int, int) { return color; });
-    Canvas canvas(1, 1);
-    canvas.surface().clear(rgb(0x20, 0x40, 0x60));
-    canvas.surface().draw(Bitmap(file), {});
-    CHECK(canvas.at(0, 0) == result);
-  }
-}
-
 TEST_CASE("a part of a surface has its own corner and never paints outside") {
   const std::vector<unsigned char> file = pictureFile(4, 2, counted);
   Canvas canvas = black(6, 4);
@@ -100,14 +85,4 @@ TEST_CASE("a part of a surface has its own corner and never paints outside") {
   panel.draw(Bitmap(file), {1, 0});
   panel.fill({-3, 2, 5, 9}, rgb(0, 0, 9));
   CHECK(canvas.drawing() == "000000\n00bcd0\n099000\n000000\n");
-}
-
-TEST_CASE("twips go to the nearest pixel") {
-  const int cases[][3] = {{0, 15, 0},   {7, 15, 0},    {8, 15, 1},    {-7, 15, 0},
-                          {-8, 15, -1}, {-15, 15, -1}, {732, 12, 61}, {-12, 12, -1}};
-  for (const auto& [twips, scale, expected] : cases) {
-    CAPTURE(twips);
-    CHECK(Scale().pixels(twips, scale) == expected);
-  }
-  CHECK(Scale().pixels(Box{-12, 36, 732, 276}, 12) == Box{-1, 3, 61, 23});
 }

@@ -1,0 +1,28 @@
+// All that the windows of the program tell those who ask them, as text: the places and styles of the controls, what they
+// say, hold and are to a screen reader, and the colours in which they are seen.
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "windows/Story.h"
+
+namespace zub::drive {
+
+class Told {
+ public:
+  explicit Told(const Zub& zub) : zub_(zub) {}
+
+  // What this window, which is in front, tells otherwise than at the last time: a line for each control, a deeper one
+  // further in. Times and dates are told as "#".
+  std::string changes(const Window& window);
+
+ private:
+  const Zub& zub_;
+  std::map<HWND, std::string> told_, seen_;
+};
+
+// As a screen reader does: a control of the kit, or a part of it, numbered from 1.
+void press(const Window& control, long part = 0);
+
+}  // namespace zub::drive
