@@ -50,19 +50,6 @@ struct Fenced {
 
 }  // namespace
 
-TEST_CASE("what is remembered of a folder's names hides nothing that the program makes or removes") {
-  TestPc pc;
-  Files& files = *pc.platform().files;
-  pc.file("C:\\T\\A long name.txt");
-  CHECK_FALSE(files.fileExists("C:\\T\\new.txt"));
-  files.open("C:\\T\\NEW.TXT", OpenMode::Binary)->close();
-  CHECK(files.fileExists("C:\\T\\new.txt"));
-  files.createFolder("C:\\T\\SUB");
-  CHECK(files.folderExists("C:\\T\\sub"));
-  files.grip("C:\\T\\a LONG name.txt")->remove();
-  CHECK_FALSE(files.fileExists("C:\\T\\a LONG name.txt"));
-}
-
 TEST_CASE("no path leads out of the folder") {
   Fenced fenced;
   Files& files = fenced.files();
