@@ -11,7 +11,7 @@ program=("$@")
 approved=$tests/transcripts/$name.txt scratch=$(mktemp -d)
 trap 'chmod -R u+w "$scratch"; rm -rf "$scratch"' EXIT
 mkdir "$scratch/bin" "$scratch/here"
-ln -s "${@: -1}" "$scratch/bin/zub"
+ln -s "$(realpath "${@: -1}")" "$scratch/bin/zub"
 [ $# -eq 1 ] || zub() { "${program[@]}" "$@"; }
 PATH=$scratch/bin:$PATH
 cd "$scratch/here" || exit 1
