@@ -150,7 +150,7 @@ class Accessible {
   }
 
  private:
-  using Get = HRESULT (IAccessible::*)(VARIANT, BSTR*);
+  using Get = HRESULT (STDMETHODCALLTYPE IAccessible::*)(VARIANT, BSTR*);
 
   static VARIANT number(LONG value) {
     VARIANT variant{};
