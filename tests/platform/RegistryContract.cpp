@@ -16,10 +16,11 @@ class Story {
   template <class Pc>
   explicit Story(Pc& pc) : registry_(*pc.platform().registry), base_(pc.key()) {}
 
-  RegistryKey open(RegistryKey parent, const std::string& path, bool make = false) {
+  RegistryKey open(RegistryKey parent, const std::string& path, bool make = false,
+                   std::uint32_t rights = access::All) {
     RegistryKey key = Untouched;
-    const RegistryStatus status = make ? registry_.create(parent, path, access::All, key)
-                                       : registry_.open(parent, path, access::All, key);
+    const RegistryStatus status =
+        make ? registry_.create(parent, path, rights, key) : registry_.open(parent, path, rights, key);
     CHECK((status == status::Success) == (key != Untouched));
     const bool isBase = path.starts_with(base_);
     tell((make ? "make " : "open ") + (isBase ? "it" + path.substr(base_.size()) : path), status);
@@ -192,6 +193,43 @@ TEST_CASE_TEMPLATE("registry: each told name leads back to its own key", Pc, CON
   it.keys(key);
   it.close(key);
   checkGolden("registry-names.txt", it.told);
+}
+
+// Only a PC in a folder has keys without rights, and tells what becomes of an open key that is deleted.
+TEST_CASE("registry: what is refused where rights are missing, and by a key that was deleted") {
+  FolderContractPc pc(
+      "nt", "REGEDIT4\n[HKEY_USERS\\Closed\\Below]\n\"v\"=\"x\"\n[HKEY_USERS\\Open\\Closed\\Below]\n",
+      "no rights = HKEY_USERS\\Closed\nno rights = HKEY_USERS\\open\\closed");
+  Story it(pc);
+  const RegistryKey users = pc.platform().registry->hive(Hive::Users);
+  for (const char* path : {"closed", "Closed\\Below", "Open\\Closed", "Open"}) it.close(it.open(users, path));
+  for (const char* path : {"Closed\\New", "Closed2"}) it.close(it.make(users, path));
+  const RegistryKey read = it.open(users, "Closed", false, access::QueryValue | access::EnumerateSubKeys);
+  it.keys(read);
+  it.values(read);
+  it.set(read, "v", ValueType::Text, "");
+  it.removeValue(read, "v");
+  it.make(read, "New");
+  for (const char* path : {"Closed\\Below", "Open", "Closed2"}) it.remove(users, path);
+  it.close(read);
+  const RegistryKey blind = it.open(users, "Open", false, access::SetValue);
+  it.query(blind, "v");
+  CHECK(it.subkey(blind, 0) == status::AccessDenied);
+  CHECK(it.value(blind, 0) == status::AccessDenied);
+  it.remove(users, "Open\\Closed");
+  it.close(blind);
+
+  it.told += "== a key that was deleted\n";
+  const RegistryKey gone = it.make(users, "Gone");
+  it.remove(users, "Gone");
+  it.removeValue(gone, "v");
+  it.remove(gone, "");
+  it.open(gone, "x");
+  it.make(gone, "");
+  it.query(gone, "v");
+  CHECK(it.subkey(gone, 0) == status::KeyDeleted);
+  for (int again = 0; again < 2; ++again) it.close(gone);
+  checkGolden("registry-refusals.txt", it.told);
 }
 
 // Its user is a branch of all users, and its classes are a part of the machine.
