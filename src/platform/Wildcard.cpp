@@ -20,6 +20,7 @@ bool Wildcard::matches(std::u16string_view name) const {
   std::size_t n = 0;
   std::size_t afterStar = none;  // where the pattern goes on behind the last star
   std::size_t starEnd = 0;       // how much of the name that star has taken
+  const std::size_t lastDot = name.rfind('.');
   while (true) {
     const bool nameEnds = n == name.size();
     if (p == pattern_.size() && nameEnds) return true;
@@ -45,6 +46,7 @@ bool Wildcard::matches(std::u16string_view name) const {
       continue;
     }
     if (afterStar == none || starEnd == name.size()) return false;
+    if (starEnd == lastDot && afterStar < pattern_.size() && pattern_[afterStar] == '.') return false;
     p = afterStar;
     n = ++starEnd;
   }

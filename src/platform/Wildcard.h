@@ -7,7 +7,8 @@
 namespace zub {
 
 // "*" is any text, "?" one character, or none before a dot and at the end; no regard to case. "*.*" is every
-// name and "name.*" also "name". A dot at the end asks for a name without an extension; other dots and blanks
+// name and "name.*" also "name"; a star before a dot stops at the name's last dot, so that "*.???" is names without an
+// extension or with one of at most three characters. A dot at the end asks for a name without an extension; other dots and blanks
 // at the end do not count. The empty pattern matches nothing. Pattern and names come in upper case, in UTF-16.
 class Wildcard {
  public:

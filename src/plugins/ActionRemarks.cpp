@@ -36,10 +36,12 @@ bool holdsImpossible(const Place& place) {
          std::ranges::any_of(place.path, isControl);
 }
 
-// Windows itself takes away a part that .. follows, and reads no wildcard in a path that begins with \\?\.
+constexpr std::string_view Verbatim = "\\\\?\\";  // begins a path that Windows takes as it stands
+
+// Windows itself takes away a part that .. follows, and reads no wildcard in a path that it takes as it stands.
 bool hasWildcardFolder(const Place& place) {
   const std::string_view folder = place.search.folder;
-  return hasWildcard(folder) && !contains(folder, "..") && !folder.starts_with("\\\\?\\");
+  return hasWildcard(folder) && !contains(folder, "..") && !folder.starts_with(Verbatim);
 }
 
 constexpr Remark<Place> reasons[] = {
@@ -64,9 +66,14 @@ bool isWhole(const std::string_view& path) {
   return isSeparator(path[0]) || (path.size() > 2 && path[1] == ':' && isSeparator(path[2]));
 }
 
+// The place behind the colon of a drive, where the path names one.
+std::size_t behindDrive(std::string_view path) {
+  return path.starts_with(Verbatim) ? Verbatim.size() + 2 : 2;
+}
+
 constexpr Remark<std::string_view> pathRemarks[] = {
     {[](const std::string_view& path) { return !isWhole(path); }, "looked for from the current folder"},
-    {[](const std::string_view& path) { return path.find(':', 2) != path.npos; },
+    {[](const std::string_view& path) { return path.find(':', behindDrive(path)) != path.npos; },
      "a second colon names a stream of a file"},
 };
 

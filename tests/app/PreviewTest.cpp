@@ -1,50 +1,81 @@
 // The preview that the main window asks for.
 #include <doctest/doctest.h>
 
-#include "app/ProgramPc.h"
+#include "app/ToldPc.h"
 #include "cleaners/BrowserFiles.h"
+#include "support/Golden.h"
 
 using namespace zub;
 
 namespace {
 
-struct PreviewPc : ProgramPc {
-  frmPreview& window() { return main().preview; }
-  bool tells(std::string_view text) { return contains(window().txtResult, text); }
-  // What the wash of the temp folder, ticked on the screen alone, would remove.
-  void begin() {
-    tempFiles();
-    setting("chkTempFolder", "0");
-    start();
-    options().LstIcons.Check(iconRow::TempFolder, 1);
-  }
-};
+bool tells(ProgramPc& pc, std::string_view text) {
+  return contains(pc.main().preview.txtResult, text);
+}
 
 }  // namespace
 
-TEST_CASE("a preview goes by the ticks on the screen, and leaves the PC and the program as they are") {
-  PreviewPc pc;
-  pc.begin();
-  const std::string before = pc.pc.snapshot();
-  pc.main().cmdPreview_Click();
-  CHECK(pc.pc.diffSince(before) == "");
-  CHECK(pc.tells("PREVIEW: nothing has been removed."));
-  CHECK(pc.tells("\tDeleting file a\r\n"));
-  CHECK(pc.tells("\r\nWould go: 3 files of 3 bytes, 0 folders, 0 registry keys, 0 values\r\n"));
-  CHECK(pc.tells("\r\nNothing to remove for: Search/Find History\r\n"));
-  CHECK(pc.window().report.Visible);
-  CHECK_FALSE(pc.window().form.Visible);
-  CHECK(pc.main().form.Visible);
-  CHECK(pc.main().form.Enabled);
-  CHECK_FALSE(pc.main().cmdViewLog.Visible);
-  CHECK(pc.options().lblLastRemoval.Caption == "");
-  CHECK(pc.program->engine.clean.txtResult == "");
-  CHECK_FALSE(pc.progress().loaded());
-  CHECK(pc.washes == 0);
-
-  pc.main().cmdRemove_Click();
-  CHECK(pc.tempFilesLeft() == 0);
-  CHECK_FALSE(pc.window().report.Visible);  // what it told is past
+TEST_CASE("previews, step by step") {
+  Story story;
+  // What the wash of the temp folder, ticked on the screen alone, would remove.
+  const auto begin = [&](ToldPc& pc) {
+    pc.tempFiles();
+    pc.setting("chkTempFolder", "0");
+    pc.begin();
+    pc.options().LstIcons.Check(iconRow::TempFolder, 1);
+  };
+  const auto preview = [](ToldPc& pc) { pc.press("cmdPreview", &frmMain::cmdPreview_Click); };
+  {
+    ToldPc pc(story,
+              "By the ticks on the screen; the PC and the program stay as they are. A wash then takes its "
+              "report away");
+    begin(pc);
+    const std::string before = pc.pc.snapshot();
+    preview(pc);
+    CHECK(pc.pc.diffSince(before) == "");
+    CHECK(pc.program->engine.clean.txtResult == "");
+    pc.press("cmdRemove", &frmMain::cmdRemove_Click);
+  }
+  {
+    ToldPc pc(story, "A message that a wash would show is a line of it, and so is what would stay");
+    begin(pc);
+    pc.options().chkSkipMessages.Value(1);
+    pc.pc.lock(ProgramPc::Temp + "b");
+    story.settle();
+    preview(pc);
+  }
+  {
+    ToldPc pc(story, "Stop ends it in its turn, without a report; until then its animation moves");
+    begin(pc);
+    pc.pc.onDoEvents = [&](int turn) {
+      pc.serve(pc.pc.ticks += 100);
+      if (turn == 1) pc.press("cmdPreview: a second one does not begin", &frmMain::cmdPreview_Click);
+      if (turn == 4) pc.step("cmdStop", [&] { pc.main().preview.cmdStop_Click(); });
+    };
+    preview(pc);
+  }
+  {
+    ToldPc pc(story, "A wash that begins in a turn is whole, and nothing is told of the preview");
+    begin(pc);
+    pc.pc.onDoEvents = [&](int turn) {
+      if (turn == 3) pc.step("mnuRemove in turn 3", [&] { pc.icon().mnuRemove_Click(); });
+      // In the wash's turns: its display is closed, and the user asks for a preview again.
+      if (turn == 6) pc.finish();
+      if (turn != 7) return;
+      preview(pc);
+      pc.step("cmdCancel of the report", [&] { pc.main().preview.cmdCancel_Click(); });
+    };
+    preview(pc);
+  }
+  {
+    ToldPc pc(story, "The process ends in its midst as it does else, with the settings saved");
+    begin(pc);
+    pc.pc.onDoEvents = [&](int turn) {
+      if (turn == 3) story.step("mnuExit in turn 3", [&] { pc.icon().mnuExit_Click(); });
+    };
+    preview(pc);
+  }
+  checkGolden("previews.txt", story.text);
 }
 
 TEST_CASE(
@@ -52,7 +83,7 @@ TEST_CASE(
   const std::string key = "HKEY_CURRENT_USER\\Software\\Shop";
   for (const bool inForce : {false, true}) {
     CAPTURE(inForce);
-    PreviewPc pc;
+    ProgramPc pc;
     pc.plugin("Shop", "No entries.\r\n");
     pc.pc.file("C:\\Program Files\\Zubrane\\Plugins\\Shop.zb2",
                "HKey_Current_User\\Software\\Shop+ Value`= Last\r\n");
@@ -63,14 +94,14 @@ TEST_CASE(
     RegistryHelper& traces = pc.program->engine.registryHelper;
     if (inForce) traces.DeleteTrace("HKEY_CURRENT_USER\\Software\\Gone- Key*");
     pc.main().cmdPreview_Click();
-    CHECK(pc.tells(inForce ? "1 registry key, 2 values" : "0 registry keys, 1 value"));
+    CHECK(tells(pc, inForce ? "1 registry key, 2 values" : "0 registry keys, 1 value"));
     CHECK(traces.KeyMode == inForce);
     CHECK_FALSE(traces.ValueMode);
   }
 }
 
 TEST_CASE("a preview looks at the profiles that the program has found, as its wash does") {
-  PreviewPc pc;
+  ProgramPc pc;
   const std::string profiles = "C:\\W\\Mozilla\\Registry.dat", profile = "C:\\W\\Mozilla\\ann.slt";
   pc.pc.shellFolder("AppData", "C:\\W");
   pc.pc.file(profiles, profileRegistry({profile}));
@@ -83,75 +114,5 @@ TEST_CASE("a preview looks at the profiles that the program has found, as its wa
   const std::string before = pc.pc.snapshot();
   pc.main().cmdPreview_Click();
   CHECK(pc.pc.diffSince(before) == "");  // choosing a profile saves the keep list of the one before
-  CHECK(pc.tells("Would go: 1 file of 1 byte,"));
-}
-
-TEST_CASE("Stop ends a preview in its turn, without a report; until then its animation moves") {
-  PreviewPc pc;
-  pc.begin();
-  Timers timers(*pc.program);
-  pc.pc.onDoEvents = [&](int turn) {
-    timers.serve(pc.pc.ticks += 100);
-    if (turn == 1) {
-      CHECK(pc.window().form.Visible);
-      CHECK_FALSE(pc.main().form.Enabled);
-      pc.main().cmdPreview_Click();  // a second one does not begin
-      CHECK(pc.pc.turns == 1);
-    }
-    if (turn == 4) pc.window().cmdStop_Click();
-  };
-  pc.main().cmdPreview_Click();
-  CHECK(pc.pc.turns == 4);
-  CHECK_FALSE(pc.window().form.Visible);
-  CHECK_FALSE(pc.window().report.Visible);
-  CHECK(pc.main().form.Enabled);
-  CHECK(pc.window().ImgAnimate.picture == Picture::Frame3);
-  CHECK_FALSE(pc.window().Timer.Enabled);
-}
-
-TEST_CASE("a message that a wash would show is a line of the preview, and so is what would stay") {
-  PreviewPc pc;
-  pc.begin();
-  pc.options().chkSkipMessages.Value(1);
-  pc.pc.lock(ProgramPc::Temp + "b");
-  pc.main().cmdPreview_Click();
-  CHECK(pc.pc.messages.empty());
-  const std::string file = ProgramPc::Temp + "b";
-  CHECK(pc.tells("\tA message would say: Permission denied: The file " + file + " is locked"));
-  CHECK(pc.tells("\r\nWould stay: " + file + ": Permission denied\r\n"));
-  CHECK(pc.tells("Would go: 2 files of 2 bytes"));
-}
-
-TEST_CASE("a wash that begins in a turn of a preview is whole, and nothing is told of the preview") {
-  PreviewPc pc;
-  pc.begin();
-  bool again = false;
-  pc.pc.onDoEvents = [&](int turn) {
-    if (turn == 3) pc.icon().mnuRemove_Click();
-    // In the wash's turns: its display is closed, and the user asks for a preview again.
-    if (turn == 6) pc.progress()->cmdFinish_Click();
-    if (turn == 7 && !again) {
-      again = true;
-      pc.main().cmdPreview_Click();
-      CHECK(pc.window().report.Visible);
-      pc.window().cmdCancel_Click();
-    }
-  };
-  pc.main().cmdPreview_Click();
-  CHECK(again);
-  CHECK(pc.washes == 1);
-  CHECK(pc.tempFilesLeft() == 0);
-  CHECK_FALSE(pc.window().form.Visible);
-  CHECK_FALSE(pc.window().report.Visible);
-}
-
-TEST_CASE("the process ends in the midst of a preview as it does else, with the settings saved") {
-  PreviewPc pc;
-  pc.begin();
-  pc.pc.onDoEvents = [&](int turn) {
-    if (turn == 3) pc.icon().mnuExit_Click();
-  };
-  CHECK(ProgramPc::ends([&] { pc.main().cmdPreview_Click(); }));
-  CHECK(pc.pc.turns == 3);
-  CHECK(pc.stored("chkTempFolder") == "1");
+  CHECK(tells(pc, "Would go: 1 file of 1 byte,"));
 }

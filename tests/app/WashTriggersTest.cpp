@@ -2,250 +2,155 @@
 
 #include <algorithm>
 
-#include "app/ProgramPc.h"
+#include "app/ToldPc.h"
+#include "support/Golden.h"
 
 using namespace zub;
 
-namespace {
-
-void comeDue(ProgramPc& pc) {
-  pc.options().ComboInterval.ListIndex(2);
-  pc.options().chkRunAuto.Value(1);
-  Timers timers(*pc.program);
-  timers.serve(0);
-  pc.pc.now.wMinute = 35;
-  timers.serve(1000);
-}
-
-void endSession(ProgramPc& pc) {
-  pc.options().chkRunShutDown.Value(1);
-  pc.main().QueryUnload(UnloadMode::WindowsEnds);
-}
-
-}  // namespace
-
 TEST_CASE("every trigger runs the one wash, and its end gives back the window as it was") {
-  struct {
-    std::string name;
-    const char* commandLine;  // of a wash at the start
-    void (*pull)(ProgramPc&);
-  } const triggers[] = {
-      {"the button", nullptr, [](ProgramPc& pc) { pc.main().cmdRemove_Click(); }},
-      {"the tray menu", nullptr, [](ProgramPc& pc) { pc.icon().mnuRemove_Click(); }},
-      {"the interval", nullptr, comeDue},
-      {"the end of the session", nullptr, endSession},
-      {"the start with Windows", "/STARTUP", nullptr},
-      {"the task scheduler", "/SCHEDULER", nullptr},
+  Story story;
+  const std::pair<const char*, void (*)(ToldPc&)> triggers[] = {
+      {"The button", [](ToldPc& pc) { pc.press("cmdRemove", &frmMain::cmdRemove_Click); }},
+      {"The tray menu", [](ToldPc& pc) { pc.step("mnuRemove", [&] { pc.icon().mnuRemove_Click(); }); }},
+      {"The interval", [](ToldPc& pc) { pc.comeDue(); }},
+      {"The end of the session", [](ToldPc& pc) {
+         pc.options().chkRunShutDown.Value(1);
+         pc.step("the session ends", [&] { pc.main().QueryUnload(UnloadMode::WindowsEnds); });
+       }}};
+  const auto wash = [&](ToldPc& pc) {
+    // The menu bars itself, also where its entry did not.
+    return [&pc] { pc.step("in the wash, mnuRemove", [&] { pc.icon().mnuRemove_Click(); }); };
   };
-  for (const auto& trigger : triggers) {
+  for (const auto& [name, pull] : triggers) {
     for (const bool visible : {true, false}) {
-      const bool atStart = trigger.commandLine != nullptr;
-      if (atStart && visible) continue;
-      CAPTURE(trigger.name);
-      CAPTURE(visible);
-      ProgramPc pc;
-      pc.setting("chkRunStarted", "1");
-      const Handler inWash = [&] {
-        CHECK(pc.main().WasVisible == visible);
-        CHECK_FALSE(pc.main().form.Visible);
-        CHECK(pc.main().form.Enabled == !visible);
-        CHECK_FALSE(pc.icon().mnuRemove.Enabled);
-        CHECK(pc.icon().SetTopForm() == 1);
-        CHECK(pc.main().cmdViewLog.Visible);
-        CHECK(pc.progress()->state.form.Visible);
-        CHECK(pc.main().automatic.timer.Enabled == (trigger.pull != comeDue));
-        pc.icon().mnuRemove_Click();  // bars itself, also where the menu did not
-      };
-      pc.start(atStart ? trigger.commandLine : "", inWash);
-      if (!atStart) {
-        CHECK(pc.washes == 0);
-        if (!visible) pc.icon().mnuShow_Click();
-        trigger.pull(pc);
-      }
-      CHECK(pc.washes == 1);
-      CHECK(pc.icon().SetTopForm() == 1);  // until the progress window goes
-      const unsigned shown = pc.main().form.shown;
-      pc.progress()->cmdFinish_Click();
-      CHECK(pc.main().form.Visible == visible);
-      CHECK(pc.main().form.shown == shown + (visible ? 1 : 0));
-      CHECK(pc.main().form.Enabled);
-      CHECK(pc.icon().mnuRemove.Enabled);
-      CHECK(pc.icon().SetTopForm() == 0);
-      CHECK(pc.main().automatic.timer.Enabled);
-      CHECK_FALSE(pc.progress().loaded());
+      ToldPc pc(story, "");
+      pc.begin("", wash(pc));
+      if (name == std::string("The interval")) pc.runAuto();
+      if (!visible) pc.icon().mnuShow_Click();
+      story.settle();
+      story.chapter(std::string(name) + (visible ? ", the window visible" : ", the window hidden"));
+      pull(pc);
+      pc.finish();
     }
   }
+  for (const char* commandLine : {"", "/STARTUP", "/SCHEDULER", "/SCHEDULER /STARTUP", "-x/STARTUPS",
+                                  "/startup /Scheduler", "STARTUP SCHEDULER"}) {
+    for (const char* chkRunStarted : {"1", "0"}) {
+      if (*chkRunStarted == '0' && commandLine != std::string("/STARTUP")) continue;
+      ToldPc pc(story, "");
+      pc.setting("chkRunStarted", chkRunStarted);
+      pc.plugin("Shop", "C:\\Shop.dat\r\n");
+      pc.setting("ZUBPlugin Shop", "1");
+      pc.setting("ZUBStandardPlugin Gold Wave Editor", "1");
+      pc.pc.file("C:\\Shop.dat");
+      pc.pc.file("C:\\WINDOWS\\goldwave.ini");
+      story.chapter("Started with \"" + std::string(commandLine) + "\", chkRunStarted " + chkRunStarted);
+      pc.step("the start", [&] { pc.start(commandLine, wash(pc)); });
+      // A wash inside the start comes before the list of standard plugins, and a later one runs them.
+      CHECK(pc.pc.hasFile("C:\\Shop.dat") == (pc.washes == 0));
+      CHECK(pc.pc.hasFile("C:\\WINDOWS\\goldwave.ini"));
+      if (pc.washes != 1) continue;
+      pc.finish();
+      pc.press("cmdRemove", &frmMain::cmdRemove_Click);
+      CHECK_FALSE(pc.pc.hasFile("C:\\WINDOWS\\goldwave.ini"));
+    }
+  }
+  checkGolden("triggers.txt", story.text);
 }
 
-TEST_CASE("Cancel in the midst closes the display, and the wash goes on unseen to its end") {
-  ProgramPc pc;
-  pc.tempFiles();
-  for (const char* name : {"chkRunHistory", "chkWMP"}) pc.setting(name, "1");
-  pc.start();
-  int leftAtCancel = 0;
-  pc.pc.onDoEvents = [&](int turn) {
-    if (turn != 5) return;
-    leftAtCancel = pc.tempFilesLeft();
-    pc.progress()->cmdFinish_Click();
-    CHECK_FALSE(pc.progress().loaded());
-    CHECK(pc.main().form.Visible);
-    CHECK(pc.main().form.Enabled);
-    CHECK(pc.icon().mnuRemove.Enabled);
-    CHECK(pc.icon().SetTopForm() == 0);
-  };
-  pc.main().cmdRemove_Click();
-  CHECK(leftAtCancel > 0);
-  CHECK(pc.tempFilesLeft() == 0);
-  CHECK(pc.options().lblLastRemoval.Caption == WashedNow);
-  REQUIRE(pc.progress().loaded());
-  const frmAnimated::State& unseen = pc.progress().peek().state;
-  CHECK_FALSE(unseen.form.Visible);
-  CHECK(unseen.lblCompleted.Caption == "2");  // begun anew: the temp folder and the media player
-  CHECK(unseen.Image5.picture == Picture::OpenMark);
-  CHECK(unseen.Image12.picture == Picture::DoneMark);
-  CHECK(pc.main().form.Visible);
-
-  // The next wash does not go on where the unseen rest has ended.
-  pc.pc.onDoEvents = {};
-  pc.main().cmdRemove_Click();
-  CHECK(unseen.form.Visible);
-  CHECK(unseen.lblCompleted.Caption == "3");
-}
-
-TEST_CASE("a process that ends in a turn of a wash leaves the rest, with its settings saved") {
-  struct {
-    std::string how;
-    const char* chkCloseAfterWash;
-    void (*end)(ProgramPc&);
-  } const rows[] = {
-      {"Exit in the tray", "0", [](ProgramPc& pc) { pc.icon().mnuExit_Click(); }},
-      {"Cancel of a wash that is to close the program", "1",
-       [](ProgramPc& pc) { pc.progress()->cmdFinish_Click(); }},
-      {"the session ends", "0", [](ProgramPc& pc) { pc.main().Unload(); }},
-  };
-  for (const auto& row : rows) {
-    CAPTURE(row.how);
-    ProgramPc pc;
+TEST_CASE("what comes in the turns of a wash, step by step") {
+  Story story;
+  const auto begin = [](ToldPc& pc, const char* chkCloseAfterWash = "0") {
     pc.tempFiles();
-    pc.setting("chkCloseAfterWash", row.chkCloseAfterWash);
+    pc.setting("chkCloseAfterWash", chkCloseAfterWash);
     pc.setting("lblLastRemoval", "before");
-    pc.start();
-    pc.options().chkSkipMessages.Value(1);  // not yet saved
-    pc.pc.onDoEvents = [&](int turn) {
-      if (turn == 5) row.end(pc);
-    };
-    CHECK(ProgramPc::ends([&] { pc.main().cmdRemove_Click(); }));
-    CHECK(pc.pc.turns == 5);
-    CHECK(pc.tempFilesLeft() == 2);
-    CHECK(pc.stored("chkSkipMessages") == "1");
-    CHECK(pc.stored("lblLastRemoval") == "before");
-    CHECK(pc.pc.tray.back() == "remove");
-  }
-}
-
-TEST_CASE("a wash that is to close the program does so after six seconds, or at Finish") {
-  for (const bool byTimer : {true, false}) {
-    ProgramPc pc;
-    pc.setting("chkCloseAfterWash", "1");
-    pc.start();
-    pc.pc.ticks = 5000000000;  // more than 32 bits: a PC that has run for months
-    Timers timers(*pc.program);
-    timers.serve(pc.pc.ticks);
-    pc.main().cmdRemove_Click();
-    CHECK(pc.progress()->state.lblCurrent.Caption == "Press finish to close this application");
-    timers.serve(pc.pc.ticks);
-    timers.serve(pc.pc.ticks + 5999);
-    CHECK(pc.stored("lblLastRemoval") == "");
-    CHECK(ProgramPc::ends([&] {
-      if (byTimer) timers.serve(pc.pc.ticks + 6000);
-      if (!byTimer) pc.progress()->cmdFinish_Click();
-    }));
-    CHECK(pc.washes == 1);
-    CHECK(pc.stored("lblLastRemoval") == WashedNow);
-    CHECK(pc.pc.tray.back() == "remove");
-  }
-}
-
-TEST_CASE("only the end of the session washes before the program ends, and only where it is asked for") {
-  struct {
-    UnloadMode mode;
-    int chkRunShutDown;
-    int chkCloseAfterWash;
-    int washes;
-  } const rows[] = {{UnloadMode::WindowsEnds, 1, 0, 1},
-                    {UnloadMode::WindowsEnds, 1, 1, 1},
-                    {UnloadMode::WindowsEnds, 0, 0, 0},
-                    {UnloadMode::ControlMenu, 1, 0, 0},
-                    {UnloadMode::Code, 1, 1, 0}};
-  for (const auto& row : rows) {
-    ProgramPc pc;
-    pc.tempFiles();
-    pc.start();
-    pc.options().chkRunShutDown.Value(row.chkRunShutDown);
-    pc.options().chkCloseAfterWash.Value(row.chkCloseAfterWash);
-    Timers timers(*pc.program);
-    pc.pc.onDoEvents = [&](int) { timers.serve(pc.pc.ticks += 4000); };
-    CHECK_FALSE(ProgramPc::ends([&] { pc.main().QueryUnload(row.mode); }));
-    CHECK(pc.washes == row.washes);
-    CHECK(ProgramPc::ends([&] { pc.main().Unload(); }));
-    CHECK(pc.washes == row.washes);
-    CHECK(pc.tempFilesLeft() == (row.washes == 1 ? 0 : 3));
-    CHECK(pc.stored("lblLastRemoval") == (row.washes == 1 ? WashedNow : ""));
-  }
-}
-
-TEST_CASE("an interval that comes due in a turn of the user's wash starts a further wash inside it") {
-  ProgramPc pc;
-  pc.tempFiles();
-  pc.start();
-  pc.options().ComboInterval.ListIndex(2);
-  pc.options().chkRunAuto.Value(1);
-  Timers timers(*pc.program);
-  pc.pc.onDoEvents = [&](int turn) {
-    if (turn == 4) pc.pc.now.wMinute = 35;
-    timers.serve(pc.pc.ticks += 1000);
+    for (const char* name : {"chkRunHistory", "chkWMP"}) pc.setting(name, "1");
+    pc.begin();
   };
-  pc.main().cmdRemove_Click();
-  CHECK(pc.washes == 2);
-  CHECK(pc.tempFilesLeft() == 0);
-  CHECK_FALSE(pc.main().automatic.timer.Enabled);
-  pc.progress()->cmdFinish_Click();
-  CHECK(pc.main().automatic.timer.Enabled);
-  CHECK_FALSE(pc.main().form.Visible);  // the wash inside found it hidden
+  const auto inTurn = [](ToldPc& pc, int due, std::string_view what, const Handler& act) {
+    pc.pc.onDoEvents = [&pc, due, what, act](int turn) {
+      if (turn == due) pc.story.step(what, act);
+    };
+  };
+  {
+    ToldPc pc(story, "Cancel in the midst closes the display, and the wash goes on unseen to its end");
+    begin(pc);
+    inTurn(pc, 5, "cmdFinish in turn 5", [&] { pc.progress()->cmdFinish_Click(); });
+    pc.press("cmdRemove", &frmMain::cmdRemove_Click);
+    pc.press("cmdRemove again, which begins anew", &frmMain::cmdRemove_Click);
+  }
+  const std::pair<const char*, void (*)(ToldPc&)> ends[] = {
+      {"Exit in the tray", [](ToldPc& pc) { pc.icon().mnuExit_Click(); }},
+      {"Cancel of a wash that is to close the program", [](ToldPc& pc) { pc.progress()->cmdFinish_Click(); }},
+      {"the session ends", [](ToldPc& pc) { pc.main().Unload(); }}};
+  for (const auto& [how, end] : ends) {
+    ToldPc pc(story, "The process ends in a turn, with its settings saved: " + std::string(how));
+    begin(pc, how == ends[1].first ? "1" : "0");
+    pc.options().chkSkipMessages.Value(1);  // not yet saved
+    inTurn(pc, 5, how, [&] { end(pc); });
+    pc.press("cmdRemove", &frmMain::cmdRemove_Click);
+  }
+  for (const bool byTimer : {true, false}) {
+    ToldPc pc(story, "A wash that is to close the program does so after six seconds, or at Finish");
+    begin(pc, "1");
+    pc.pc.ticks = 5000000000;  // more than 32 bits: a PC that has run for months
+    pc.timers->serve(pc.pc.ticks);
+    pc.press("cmdRemove", &frmMain::cmdRemove_Click);
+    pc.serve(pc.pc.ticks);
+    pc.serve(pc.pc.ticks + 5999);
+    if (byTimer) pc.serve(pc.pc.ticks + 6000);
+    if (!byTimer) pc.finish();
+  }
+  for (const auto& [mode, chkRunShutDown] : {std::pair{UnloadMode::WindowsEnds, 1},
+                                             {UnloadMode::WindowsEnds, 0},
+                                             {UnloadMode::ControlMenu, 1},
+                                             {UnloadMode::Code, 1}}) {
+    ToldPc pc(story, "The program is to end, why: " + std::to_string(static_cast<int>(mode)) +
+                         ", chkRunShutDown " + std::to_string(chkRunShutDown));
+    begin(pc, "1");
+    pc.options().chkRunShutDown.Value(chkRunShutDown);
+    pc.pc.onDoEvents = [&](int) { pc.timers->serve(pc.pc.ticks += 4000); };
+    pc.step("QueryUnload", [&] { pc.main().QueryUnload(mode); });
+    pc.step("Unload", [&] { pc.main().Unload(); });
+  }
+  {
+    ToldPc pc(story,
+              "An interval that comes due in a turn of the user's wash starts a further wash inside it");
+    begin(pc);
+    pc.runAuto();
+    inTurn(pc, 4, "turn 4", [&] { pc.comeDue(); });
+    pc.press("cmdRemove", &frmMain::cmdRemove_Click);
+    pc.finish();
+  }
+  {
+    ToldPc pc(story, "A wash that the interval starts counts the next one from its beginning");
+    begin(pc, "1");
+    pc.runAuto();
+    // The tick of one timer runs the whole wash, so that the time of its turn is long past when it returns.
+    pc.pc.onDoEvents = [&](int) { pc.timers->serve(pc.pc.ticks += 10000); };
+    pc.comeDue();
+    for (const std::uint64_t later : {10U, 5999U, 6010U}) pc.serve(pc.pc.ticks + later);
+  }
+  checkGolden("turns.txt", story.text);
 }
 
-TEST_CASE(
-    "a wash of the interval counts the next one from its beginning; a time that passes in it is lost for the "
-    "day") {
-  for (const int minutesInTurn : {1, 5}) {
-    CAPTURE(minutesInTurn);
-    ProgramPc pc;
-    pc.tempFiles();
-    pc.start();
-    pc.options().ComboInterval.ListIndex(2);
-    pc.options().chkRunAuto.Value(1);
-    Timers timers(*pc.program);
-    const auto tickAt = [&](int minute) {
-      pc.pc.now = timeFromSeconds(secondsOf({2001, 9, 5, 14, 10, 0, 0, 0}) + minute * 60);
-      timers.serve(pc.pc.ticks += 1000);
-    };
-    int minute = 35;
-    pc.pc.onDoEvents = [&](int) { tickAt(minute += minutesInTurn); };
-    tickAt(20);
-    tickAt(34);
-    CHECK(pc.washes == 0);
-    tickAt(35);
-    CHECK(pc.washes == 1);
-    CHECK(pc.main().automatic.NextRemoval.wMinute == 50);
-    const bool passed = minute > 50;
-    CHECK(passed == (minutesInTurn == 5));
-    pc.pc.onDoEvents = {};
-    pc.progress()->cmdFinish_Click();
-    tickAt(passed ? minute : 49);
-    tickAt(passed ? minute + 1 : 50);
-    CHECK(pc.washes == (passed ? 1 : 2));
-    if (!passed) continue;
-    tickAt(24 * 60 + 50);
-    CHECK(pc.washes == 2);
-  }
+TEST_CASE("a second instance saves what it read and ends, whatever it was started for") {
+  ProgramPc pc;
+  pc.plugin("Shop", "No entries.\r\n");
+  for (const char* kept : {"chkBleach", "ZUBPlugin Shop", "ZUBStandardPlugin Gold Wave Editor"})
+    pc.setting(kept, "1");
+  pc.setting("lblLastRemoval", "some time ago");
+  pc.start();
+  ProgramPc::ends([&] { pc.main().Unload(); });
+  pc.pc.tray.clear();
+  pc.setting("ZUBPath", "D:\\Elsewhere");
+  pc.pc.otherInstance = true;
+  const std::string before = pc.pc.snapshot();
+  CHECK(pc.start("/SCHEDULER"));
+  CHECK(pc.washes == 0);
+  CHECK_FALSE(pc.main().form.Visible);
+  CHECK(pc.pc.tray == std::vector<std::string>{"remove"});
+  // Every other value is stored as it was read.
+  CHECK(pc.stored("ZUBPath") == "C:\\Program Files\\Zubrane");
+  CHECK(std::ranges::count(pc.pc.diffSince(before), '\n') == 2);
 }

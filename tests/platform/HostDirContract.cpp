@@ -1,146 +1,116 @@
-#include <doctest/doctest.h>
-
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "platform/host/HostDir.h"
+#include "support/Golden.h"
+#include "support/Snapshot.h"
 #include "support/TempFolder.h"
 
 namespace zub {
 namespace {
 
-struct Host {
-  Host() : dir(openHostDir(temp.path())) { REQUIRE(dir); }
+using Name = std::string;
 
-  void write(const std::string& name, std::string_view bytes) { writeHostFile(*dir, name, bytes); }
-  std::string read(const std::string& name) { return readHostFile(*dir, name); }
-  HostError open(const std::string& name, HostOpen mode) {
-    std::unique_ptr<HostFile> file;
-    const HostError error = dir->openFile(name, mode, file);
-    CHECK((error == HostError::None) == (file != nullptr));
-    return error;
-  }
-  HostError openDir(const std::string& name) {
-    std::unique_ptr<HostDir> child;
-    return dir->openDir(name, child);
-  }
-  HostStat stat(const std::string& name) {
-    HostStat result;
-    CHECK(dir->stat(name, result) == HostError::None);
-    return result;
-  }
-  std::string names() {
-    std::unique_ptr<HostList> listing;
-    REQUIRE(dir->list(listing) == HostError::None);
-    std::vector<std::string> all;
-    for (HostEntry entry; listing->next(entry);) all.push_back(entry.name);
-    std::ranges::sort(all);
-    std::string text;
-    for (const std::string& name : all) text += name + ' ';
-    return text;
-  }
+constexpr const char* Words[] = {"done",          "not found", "no folder", "no file",        "taken",
+                                 "not empty",     "no rights", "in use",    "read-only disk", "disk full",
+                                 "too many open", "bad name",  "failed"};
 
-  TempFolder temp;
-  std::unique_ptr<HostDir> dir;
-};
+HostError open(HostDir& dir, const std::string& name, HostOpen mode) {
+  std::unique_ptr<HostFile> file;
+  const HostError error = dir.openFile(name, mode, file);
+  CHECK((error == HostError::None) == (file != nullptr));
+  return error;
+}
+
+// Its names in their order, with their kinds, lengths and bits.
+std::string content(HostDir& dir) {
+  constexpr const char* kinds[] = {"file", "folder", "link", "other"};
+  std::unique_ptr<HostList> listing;
+  REQUIRE(dir.list(listing) == HostError::None);
+  std::vector<std::string> all;
+  for (HostEntry entry; listing->next(entry);) {
+    HostStat stat;
+    REQUIRE(dir.stat(entry.name, stat) == HostError::None);
+    CHECK(stat.kind == entry.stat.kind);
+    all.push_back(std::string(stat.readOnly ? " read-only " : " ") + kinds[static_cast<int>(stat.kind)] +
+                  ' ' + printable(entry.name) +
+                  (stat.kind == HostKind::File ? ' ' + std::to_string(stat.size) : ""));
+  }
+  std::ranges::sort(all);
+  std::string text;
+  for (const std::string& name : all) text += name + ';';
+  return text;
+}
 
 }  // namespace
 
-TEST_CASE("host folder: a name is one part, and nothing else") {
-  Host host;
-  std::unique_ptr<HostFile> file;
-  HostStat stat;
-  for (const std::string& name : {std::string(), std::string("."), std::string(".."), std::string("a/b"),
-                                  std::string("../x"), std::string("a\0b", 3)}) {
-    CAPTURE(name);
-    CHECK(host.openDir(name) == HostError::BadName);
-    CHECK(host.open(name, HostOpen::Make) == HostError::BadName);
-    CHECK(host.dir->stat(name, stat) == HostError::BadName);
-    CHECK(host.dir->removeFile(name) == HostError::BadName);
-    CHECK(host.dir->removeDir(name) == HostError::BadName);
-    CHECK(host.dir->makeDir(name) == HostError::BadName);
-    CHECK(host.dir->setReadOnly(name, true) == HostError::BadName);
-    CHECK(host.dir->rename("x", name) == HostError::BadName);
-  }
-  CHECK(host.names().empty());
-  CHECK(openHostDir(host.temp.path() + "/missing") == nullptr);
-}
-
-TEST_CASE("host folder: what each way of opening needs and makes") {
-  Host host;
-  REQUIRE(host.dir->makeDir("folder") == HostError::None);
+// The calls are made one after the other, so that what one leaves the next one meets.
+TEST_CASE("host folder: what each call answers for each name, and what it leaves") {
   const struct {
-    HostOpen mode;
-    HostError missing;
-    HostError present;
-    const char* left;  // of "0123456789"
-  } rows[] = {
-      {HostOpen::Read, HostError::NotFound, HostError::None, "0123456789"},
-      {HostOpen::ReadWrite, HostError::NotFound, HostError::None, "0123456789"},
-      {HostOpen::Make, HostError::None, HostError::None, "0123456789"},
-      {HostOpen::Empty, HostError::None, HostError::None, ""},
-      {HostOpen::New, HostError::None, HostError::Exists, "0123456789"},
+    const char* what;
+    std::function<HostError(HostDir&, const Name&)> make;
+  } calls[] = {
+      {"look",
+       [](HostDir& dir, const Name& name) {
+         HostStat stat;
+         return dir.stat(name, stat);
+       }},
+      {"enter",
+       [](HostDir& dir, const Name& name) {
+         std::unique_ptr<HostDir> child;
+         return dir.openDir(name, child);
+       }},
+      {"open to read", [](HostDir& dir, const Name& name) { return open(dir, name, HostOpen::Read); }},
+      {"open to read and write",
+       [](HostDir& dir, const Name& name) { return open(dir, name, HostOpen::ReadWrite); }},
+      {"protect", [](HostDir& dir, const Name& name) { return dir.setReadOnly(name, true); }},
+      {"unprotect", [](HostDir& dir, const Name& name) { return dir.setReadOnly(name, false); }},
+      {"make a folder", [](HostDir& dir, const Name& name) { return dir.makeDir(name); }},
+      {"remove the folder", [](HostDir& dir, const Name& name) { return dir.removeDir(name); }},
+      {"take its place", [](HostDir& dir, const Name& name) { return dir.rename("new", name); }},
+      {"make", [](HostDir& dir, const Name& name) { return open(dir, name, HostOpen::Make); }},
+      {"may go", [](HostDir& dir, const Name& name) { return dir.mayRemove(name); }},
+      {"make anew", [](HostDir& dir, const Name& name) { return open(dir, name, HostOpen::New); }},
+      {"make empty", [](HostDir& dir, const Name& name) { return open(dir, name, HostOpen::Empty); }},
+      {"remove the file", [](HostDir& dir, const Name& name) { return dir.removeFile(name); }},
+      {"make a folder", [](HostDir& dir, const Name& name) { return dir.makeDir(name); }},
+      {"rename", [](HostDir& dir, const Name& name) { return dir.rename(name, "renamed"); }},
   };
-  for (const auto& row : rows) {
-    CAPTURE(static_cast<int>(row.mode));
-    CHECK(host.open("file", row.mode) == row.missing);
-    host.write("file", "0123456789");
-    CHECK(host.open("file", row.mode) == row.present);
-    CHECK(host.read("file") == row.left);
-    CHECK(host.open("folder", row.mode) ==
-          (row.mode == HostOpen::New ? HostError::Exists : HostError::NotAFile));
-    CHECK(host.dir->removeFile("file") == HostError::None);
+  using namespace std::string_literals;
+  std::string told;
+  for (const std::string& name :
+       {"file"s, "folder"s, "none"s, "\xC3\xA9\xE2\x82\xAC"s, ""s, "."s, ".."s, "a/b"s, "../x"s, "a\0b"s}) {
+    TempFolder temp;
+    HostDir& dir = temp.dir();
+    for (const char* folder : {"folder", "full"}) REQUIRE(dir.makeDir(folder) == HostError::None);
+    std::unique_ptr<HostDir> full;
+    REQUIRE(dir.openDir("full", full) == HostError::None);
+    for (HostDir* at : {&dir, full.get()}) writeHostFile(*at, "file", "0123456789");
+    full.reset();
+    writeHostFile(dir, "new", "new");
+    std::string before = content(dir);
+    told += "== " + printable(name) + "; there are" + before + '\n';
+    for (const auto& call : calls) {
+      told += call.what + ": "s + Words[static_cast<int>(call.make(dir, name))];
+      const std::string now = content(dir);
+      told += (now == before ? "" : "; there are" + now) + '\n';
+      before = now;
+    }
+    CHECK(dir.removeDir("full") == HostError::NotEmpty);
+    CHECK(openHostDir(temp.path() + "/missing") == nullptr);
   }
-}
-
-TEST_CASE("host folder: names come and go") {
-  Host host;
-  CHECK(host.dir->makeDir("folder") == HostError::None);
-  CHECK(host.dir->makeDir("folder") == HostError::Exists);
-  host.write("file", "12345");
-  host.write("\xC3\xA9\xE2\x82\xAC", "x");
-  CHECK(host.names() == "file folder \xC3\xA9\xE2\x82\xAC ");
-  CHECK(host.stat("file").kind == HostKind::File);
-  CHECK(host.stat("file").size == 5);
-  CHECK(host.stat("folder").kind == HostKind::Folder);
-  HostStat none;
-  CHECK(host.dir->stat("none", none) == HostError::NotFound);
-
-  CHECK(host.openDir("file") == HostError::NotAFolder);
-  CHECK(host.openDir("none") == HostError::NotFound);
-  CHECK(host.dir->removeDir("file") == HostError::NotAFolder);
-  CHECK(host.dir->removeFile("folder") == HostError::NotAFile);
-  CHECK(host.dir->removeFile("none") == HostError::NotFound);
-  CHECK(host.dir->removeDir("none") == HostError::NotFound);
-  {
-    std::unique_ptr<HostDir> child;
-    REQUIRE(host.dir->openDir("folder", child) == HostError::None);
-    CHECK(child->makeDir("inner") == HostError::None);
-    CHECK(host.dir->removeDir("folder") == HostError::NotEmpty);
-    CHECK(child->removeDir("inner") == HostError::None);
-  }
-  CHECK(host.dir->removeDir("folder") == HostError::None);
-
-  host.write("new", "new");
-  CHECK(host.dir->rename("new", "file") == HostError::None);
-  CHECK(host.read("file") == "new");
-  CHECK(host.dir->rename("none", "file") == HostError::NotFound);
-  for (const bool readOnly : {true, false}) {
-    CHECK(host.dir->setReadOnly("file", readOnly) == HostError::None);
-    CHECK(host.stat("file").readOnly == readOnly);
-  }
-  CHECK(host.names() == "file \xC3\xA9\xE2\x82\xAC ");
+  checkGolden("host.txt", told);
 }
 
 TEST_CASE("host folder: many names are all told, and two listings do not meet") {
-  Host host;
+  TempFolder temp;
   for (int number = 0; number < 700; ++number)
-    host.write("a long name of a file " + std::to_string(number), "");
-  std::unique_ptr<HostList> one;
-  std::unique_ptr<HostList> two;
-  REQUIRE(host.dir->list(one) == HostError::None);
-  REQUIRE(host.dir->list(two) == HostError::None);
+    writeHostFile(temp.dir(), "a long name of a file " + std::to_string(number), "");
+  std::unique_ptr<HostList> one, two;
+  REQUIRE(temp.dir().list(one) == HostError::None);
+  REQUIRE(temp.dir().list(two) == HostError::None);
   HostEntry entry;
   REQUIRE(two->next(entry));
   const auto left = [&entry](HostList& listing) {

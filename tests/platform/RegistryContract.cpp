@@ -1,60 +1,86 @@
 #include <algorithm>
+#include <functional>
 #include <utility>
 #include <vector>
 
 #include "platform/ContractPc.h"
+#include "support/Golden.h"
+#include "support/Snapshot.h"
 
 namespace zub {
 namespace {
 
-// The scratch key, open, with shorter calls.
-struct Scratch {
+// Calls that tell what they are answered, one line each.
+class Story {
+ public:
   template <class Pc>
-  explicit Scratch(Pc& pc) : registry(*pc.platform().registry), path(pc.key()), key(registry) {
-    REQUIRE(key.create(Hive::CurrentUser, path, access::All) == status::Success);
+  explicit Story(Pc& pc) : registry_(*pc.platform().registry), base_(pc.key()) {}
+
+  RegistryKey open(RegistryKey parent, const std::string& path, bool make = false,
+                   std::uint32_t rights = access::All) {
+    RegistryKey key = Untouched;
+    const RegistryStatus status =
+        make ? registry_.create(parent, path, rights, key) : registry_.open(parent, path, rights, key);
+    CHECK((status == status::Success) == (key != Untouched));
+    const bool isBase = path.starts_with(base_);
+    tell((make ? "make " : "open ") + (isBase ? "it" + path.substr(base_.size()) : path), status);
+    return status == status::Success ? key : 0;
+  }
+  RegistryKey make(RegistryKey parent, const std::string& path) { return open(parent, path, true); }
+  void close(RegistryKey key) { tell("close", registry_.close(key)); }
+  void set(RegistryKey key, const std::string& which, ValueType type, std::string_view data) {
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(data.data());
+    tell("set " + which + " to " + dataText(type, data),
+         registry_.set(key, which, type, {bytes, data.size()}));
+  }
+  void query(RegistryKey key, const std::string& which, std::uint32_t room = 1024) {
+    ValueType type{};
+    const RegistryStatus status = registry_.query(key, which, type, buffer_, room);
+    tell("query " + which, status, [&] { return dataText(type, {reinterpret_cast<char*>(buffer_), room}); });
+    if (status == status::MoreData) told += "  which needs " + std::to_string(room) + '\n';
+  }
+  void removeValue(RegistryKey key, const std::string& which) {
+    tell("remove value " + which, registry_.deleteValue(key, which));
+  }
+  void remove(RegistryKey key, const std::string& path) {
+    tell("remove key " + path, registry_.deleteKey(key, path));
+  }
+  // All subkeys, or all values with their data, sorted; they stand in one order, and nothing is behind them.
+  void keys(RegistryKey key) {
+    list(
+        "keys", [&](std::uint32_t index) { return subkey(key, index); }, [] { return std::string(); });
+  }
+  void values(RegistryKey key) {
+    list(
+        "values", [&](std::uint32_t index) { return value(key, index); },
+        [&] {
+          return '=' + dataText(type_, {reinterpret_cast<char*>(buffer_), length_});
+        });
+  }
+  RegistryStatus subkey(RegistryKey key, std::uint32_t index, std::uint32_t room = 256) {
+    return registry_.enumKey(key, index, name, room);
+  }
+  RegistryStatus value(RegistryKey key, std::uint32_t index, std::uint32_t nameRoom = 256,
+                       std::uint32_t dataRoom = 1024) {
+    length_ = dataRoom;
+    return registry_.enumValue(key, index, name, nameRoom, type_, buffer_, length_);
   }
 
-  RegistryStatus set(std::string_view which, ValueType of, std::string_view data) {
-    return registry.set(key.get(), which, of,
-                        {reinterpret_cast<const std::uint8_t*>(data.data()), data.size()});
-  }
-  RegistryStatus make(const std::string& below) {
-    return OpenKey(registry).create(Hive::CurrentUser, path + '\\' + below, access::All);
-  }
-  bool has(const std::string& below) {
-    return OpenKey(registry).open(Hive::CurrentUser, path + '\\' + below, access::All) == status::Success;
-  }
-  RegistryStatus query(std::string_view which, std::uint32_t room = 1024) {
-    length = room;
-    return registry.query(key.get(), which, type, buffer, length);
-  }
-  RegistryStatus subkey(std::uint32_t index, std::uint32_t room = 256) {
-    return registry.enumKey(key.get(), index, name, room);
-  }
-  RegistryStatus value(std::uint32_t index, std::uint32_t nameRoom = 256, std::uint32_t dataRoom = 1024) {
-    length = dataRoom;
-    return registry.enumValue(key.get(), index, name, nameRoom, type, buffer, length);
-  }
-  std::string data() const { return {reinterpret_cast<const char*>(buffer), length}; }
-  // The names of the subkeys, or those of the values with their data, sorted; and that they stand in one order.
-  std::string subkeys() {
-    return told([&](std::uint32_t index) { return subkey(index); }, [] { return std::string(); });
-  }
-  std::string values() {
-    return told([&](std::uint32_t index) { return value(index); }, [&] { return '=' + data(); });
-  }
-
-  Registry& registry;
-  std::string path;
-  OpenKey key;
-  ValueType type{};
-  std::uint32_t length = 0;
-  std::uint8_t buffer[1024] = {};
+  std::string told;
   char name[256] = "";
 
  private:
+  static constexpr RegistryKey Untouched = 77;
+  static std::string dataText(ValueType type, std::string_view data) {
+    return std::to_string(static_cast<std::uint32_t>(type)) + ':' + printable(data);
+  }
+  void tell(const std::string& call, RegistryStatus status, const std::function<std::string()>& result = {}) {
+    told += call + ": ";
+    told += status != status::Success ? std::to_string(status) : result ? result() : "done";
+    told += '\n';
+  }
   template <class Next, class Detail>
-  std::string told(Next next, Detail detail) {
+  void list(const char* what, Next next, Detail detail) {
     std::vector<std::string> entries, again;
     for (std::vector<std::string>* all : {&entries, &again}) {
       while (next(static_cast<std::uint32_t>(all->size())) == status::Success)
@@ -64,136 +90,95 @@ struct Scratch {
     }
     CHECK(entries == again);
     std::ranges::sort(entries);
-    std::string text;
-    for (const std::string& entry : entries) text += entry + "; ";
-    return text;
+    told += std::string(what) + ':';
+    for (const std::string& entry : entries) told += ' ' + entry + ';';
+    told += '\n';
   }
+
+  Registry& registry_;
+  std::string base_;
+  std::uint8_t buffer_[1024] = {};
+  ValueType type_{};
+  std::uint32_t length_ = 0;
 };
 
 }  // namespace
 
-TEST_CASE_TEMPLATE("registry: a key is opened, made with its parents, and refused", Pc, CONTRACT_PCS) {
-  Pc pc;
-  Registry& registry = *pc.platform().registry;
-  const RegistryKey user = registry.hive(Hive::CurrentUser);
-  RegistryKey key = 77;
-  CHECK(registry.open(user, pc.key(), access::All, key) == status::FileNotFound);
-  CHECK(key == 77);
-  REQUIRE(registry.create(user, pc.key() + "\\One\\Two", access::All, key) == status::Success);
-  CHECK(registry.close(key) == status::Success);
-  // Names have no case; making what is there opens it with what it holds; the empty path is the key itself.
-  RegistryKey parent = 0;
-  REQUIRE(registry.open(user, pc.key() + "\\ONE", access::All, parent) == status::Success);
-  CHECK(registry.set(parent, "kept", ValueType::Text, {}) == status::Success);
-  RegistryKey same = 0;
-  REQUIRE(registry.create(user, pc.key() + "\\one", access::All, same) == status::Success);
-  RegistryKey itself = 0;
-  REQUIRE(registry.open(same, "", access::All, itself) == status::Success);
-  CHECK(registry.deleteValue(itself, "KEPT") == status::Success);
-  CHECK(registry.deleteKey(itself, "Two") == status::Success);
-  for (const RegistryKey opened : {parent, same, itself}) CHECK(registry.close(opened) == status::Success);
-
-  CHECK(registry.hive(Hive::None) == 0);
-  CHECK(registry.open(0, "Software", access::All, key) == status::InvalidHandle);
-  CHECK(registry.create(0, "Software", access::All, key) == status::InvalidHandle);
-  CHECK(registry.close(0) == status::InvalidHandle);
-}
-
-TEST_CASE_TEMPLATE("registry: subkeys are told as written, in a standing order, to the end", Pc,
-                   CONTRACT_PCS) {
-  Pc pc;
-  Scratch scratch(pc);
-  for (const char* name : {"Alpha", "beta", "gAMMA", "delta x", "ALPHA\\below"})
-    CHECK(scratch.make(name) == status::Success);
-  CHECK(scratch.subkeys() == "Alpha; beta; delta x; gAMMA; ");
-  // The room counts the NUL: one less than the name needs is refused, and nothing is written.
-  REQUIRE(scratch.subkey(0) == status::Success);
-  const std::string first = std::exchange(scratch.name[0], '?') + std::string(scratch.name + 1);
-  const auto length = static_cast<std::uint32_t>(first.size());
-  CHECK(scratch.subkey(0, length) == status::MoreData);
-  CHECK(scratch.name[0] == '?');
-  CHECK(scratch.subkey(0, length + 1) == status::Success);
-  CHECK(scratch.name == first);
-}
-
-TEST_CASE_TEMPLATE("registry: a value keeps its type and its bytes, a text as its family stores it", Pc,
-                   CONTRACT_PCS) {
+TEST_CASE_TEMPLATE("registry: what each call answers, on each family", Pc, CONTRACT_PCS) {
   using namespace std::string_literals;
   Pc pc;
-  Scratch scratch(pc);
-  const bool nt = isNt(pc);
-  const struct {
-    const char* name;
-    ValueType type;
-    std::string data;
-    std::string stored = data;
-  } rows[] = {
-      {"text", ValueType::Text, "C:\\Temp\0"s},
-      {"text without a NUL", ValueType::Text, "1"s, "1\0"s},
-      {"text with a NUL inside", ValueType::Text, "one\0two\0"s, nt ? "one\0two\0"s : "one\0"s},
-      {"text that ends inside", ValueType::Text, "one\0tw"s, nt ? "one\0tw\0"s : "one\0"s},
-      {"text beyond ASCII", ValueType::Text, "\xE9\xDF\xFC\x80\0"s},
-      {"no text at all", ValueType::Text, ""s, nt ? ""s : "\0"s},
-      {"expand", ValueType::ExpandText, "%TEMP%\0"s},
-      {"expand without a NUL", ValueType::ExpandText, "%TEMP%"s, nt ? "%TEMP%\0"s : "%TEMP%"s},
-      {"binary", ValueType::Binary, "\0\1\xFF\0"s},
-      {"no bytes", ValueType::Binary, ""s},
-      {"number", ValueType::Number, "\1\2\3\4"s},
-      {"several", ValueType::SeveralTexts, "a\0b\0\0"s},
-      {"none", ValueType::None, "xyz"s},
-  };
-  for (const auto& row : rows) REQUIRE(scratch.set(row.name, row.type, row.data) == status::Success);
-  for (const auto& row : rows) {
-    CAPTURE(std::string(row.name));
-    REQUIRE(scratch.query(row.name) == status::Success);
-    CHECK(scratch.type == row.type);
-    CHECK(scratch.data() == row.stored);
+  Story it(pc);
+  const RegistryKey user = pc.platform().registry->hive(Hive::CurrentUser);
+  it.told = "== keys are made with those on the way, names have no case, the empty path is the key itself\n";
+  it.open(user, pc.key());
+  it.close(it.make(user, pc.key() + "\\One\\Two"));
+  const RegistryKey key = it.open(user, pc.key() + "\\");
+  const RegistryKey one = it.open(key, "ONE"), same = it.make(key, "one"), itself = it.open(same, "");
+  it.set(one, "kept", ValueType::Text, "");
+  it.removeValue(itself, "KEPT");
+  it.remove(itself, "two");
+  for (const RegistryKey opened : {one, same, itself, RegistryKey{0}}) it.close(opened);
+  CHECK(pc.platform().registry->hive(Hive::None) == 0);
+  it.open(0, "Software");
+  it.make(0, "Software");
+
+  it.told += "== subkeys are told as written\n";
+  for (const char* name : {"Alpha", "beta", "gAMMA", "delta x", "ALPHA\\below", "One"})
+    it.close(it.make(key, name));
+  it.keys(key);
+  // The room counts the NUL: one less than the name needs is refused, and nothing is written.
+  REQUIRE(it.subkey(key, 0) == status::Success);
+  const std::string first = std::exchange(it.name[0], '?') + std::string(it.name + 1);
+  const auto length = static_cast<std::uint32_t>(first.size());
+  CHECK(it.subkey(key, 0, length) == status::MoreData);
+  CHECK(it.name[0] == '?');
+  CHECK(it.subkey(key, 0, length + 1) == status::Success);
+  CHECK(it.name == first);
+
+  it.told += "== a value keeps its type and its bytes, a text as its family stores it\n";
+  const std::pair<ValueType, std::string> data[] = {{ValueType::Text, "C:\\Temp\0"s},
+                                                    {ValueType::Text, "no NUL"s},
+                                                    {ValueType::Text, "one\0two\0"s},
+                                                    {ValueType::Text, "one\0tw"s},
+                                                    {ValueType::Text, "\xE9\xDF\xFC\x80\0"s},
+                                                    {ValueType::Text, ""s},
+                                                    {ValueType::ExpandText, "%TEMP%\0"s},
+                                                    {ValueType::ExpandText, "%TEMP%"s},
+                                                    {ValueType::Binary, "\0\1\xFF\0"s},
+                                                    {ValueType::Binary, ""s},
+                                                    {ValueType::Number, "\1\2\3\4"s},
+                                                    {ValueType::SeveralTexts, "a\0b\0\0"s},
+                                                    {ValueType::None, "xyz"s}};
+  for (const auto& [type, bytes] : data) {
+    it.set(key, "v", type, bytes);
+    it.query(key, "V");
   }
-  // The exact room is enough; less is told with the length that is needed.
-  CHECK(scratch.query("text", 8) == status::Success);
-  CHECK(scratch.query("text", 7) == status::MoreData);
-  CHECK(scratch.length == 8);
-  CHECK(scratch.query("missing") == status::FileNotFound);
-  CHECK(scratch.query("") == status::FileNotFound);
-}
+  it.query(key, "v", 3);
+  it.query(key, "v", 2);
+  for (const char* missing : {"missing", ""}) it.query(key, missing);
 
-TEST_CASE_TEMPLATE("registry: values are found without case, replaced, told and deleted", Pc, CONTRACT_PCS) {
-  Pc pc;
-  Scratch scratch(pc);
-  CHECK(scratch.values() == "");
-  for (const auto& [name, data] :
-       {std::pair{"Name", "old"}, {"NAME", "12345678"}, {"", "unnamed"}, {" blank", "B"}})
-    CHECK(scratch.set(name, ValueType::Binary, data) == status::Success);
-  CHECK(scratch.values() == " blank=B; =unnamed; Name=12345678; ");
-  CHECK(scratch.query("name") == status::Success);
-  const auto remove = [&](const char* name) { return scratch.registry.deleteValue(scratch.key.get(), name); };
-  for (const char* name : {"", " BLANK"}) CHECK(remove(name) == status::Success);
-  for (const char* name : {"", " blank", "[Default]"}) CHECK(remove(name) == status::FileNotFound);
-  CHECK(scratch.values() == "Name=12345678; ");
-  // What does not fit is told as such.
-  CHECK(scratch.value(0, 5, 8) == status::Success);
-  CHECK(scratch.value(0, 4, 8) == status::MoreData);
-  CHECK(scratch.value(0, 5, 7) == status::MoreData);
-}
+  it.told += "== values are replaced, told and removed; the unnamed one is no other's\n";
+  it.removeValue(key, "v");
+  it.values(key);
+  for (const char* name : {"Name", "NAME", "", " blank"}) it.set(key, name, ValueType::Binary, name + "!"s);
+  it.values(key);
+  for (const char* name : {"", " BLANK", "", " blank", "[Default]"}) it.removeValue(key, name);
+  it.values(key);
+  CHECK(it.value(key, 0, 5, 5) == status::Success);
+  CHECK(it.value(key, 0, 4, 5) == status::MoreData);
+  CHECK(it.value(key, 0, 5, 4) == status::MoreData);
 
-TEST_CASE_TEMPLATE("registry: a key with subkeys goes on the 9x family and stays on NT", Pc, CONTRACT_PCS) {
-  Pc pc;
-  Scratch scratch(pc);
-  const bool nt = isNt(pc);
-  const RegistryKey key = scratch.key.get();
-  REQUIRE(scratch.make("Parent\\Child\\Grandchild") == status::Success);
-  for (const char* name : {"Empty", "Inner"}) REQUIRE(scratch.make(name) == status::Success);
-  OpenKey inner(scratch.registry);
-  REQUIRE(inner.open(Hive::CurrentUser, scratch.path + "\\Inner", access::All) == status::Success);
-  CHECK(scratch.registry.deleteKey(inner.get(), "") == status::Success);  // the key itself
-  CHECK(scratch.registry.deleteKey(key, "Missing") == status::FileNotFound);
-  CHECK(scratch.registry.deleteKey(key, "empty") == status::Success);
-  CHECK(scratch.subkeys() == "Parent; ");
-  const RegistryStatus refused = nt ? status::AccessDenied : status::Success;
-  CHECK(scratch.registry.deleteKey(key, "Parent") == refused);
-  CHECK(scratch.has("Parent\\Child\\Grandchild") == nt);
-  CHECK(scratch.registry.deleteKey(key, "") == refused);
-  CHECK(scratch.has("Parent") == nt);
+  it.told += "== a key with subkeys goes on the 9x family and stays on NT\n";
+  it.close(it.make(key, "Alpha\\below\\deeper"));
+  const RegistryKey inner = it.open(key, "beta");
+  it.remove(inner, "");
+  it.close(inner);
+  for (const char* name : {"missing", "ONE", "Alpha"}) it.remove(key, name);
+  it.keys(key);
+  it.remove(key, "");
+  it.close(key);
+  it.close(it.open(user, pc.key() + "\\Alpha\\below\\deeper"));
+  checkGolden(isNt(pc) ? "registry-nt.txt" : "registry-9x.txt", it.told);
 }
 
 TEST_CASE_TEMPLATE("registry: each told name leads back to its own key", Pc, CONTRACT_PCS) {
@@ -201,11 +186,50 @@ TEST_CASE_TEMPLATE("registry: each told name leads back to its own key", Pc, CON
   // A real Windows of the 9x family has no calls that reach such names.
   if (pc.followsLinks() && !isNt(pc)) return;
   for (const char16_t* name : {u"a", u"\u0101", u"\uFF0E\uFF3C", u"<0101>"}) pc.wideKey(name);
-  Scratch scratch(pc);
-  CHECK(scratch.subkeys() == "<003C>0101>; <0101>; <FF0EFF3C>; a; ");
-  for (const char* gone : {"<0101>", "<FF0EFF3C>", "<003C>0101>"})
-    CHECK(scratch.registry.deleteKey(scratch.key.get(), gone) == status::Success);
-  CHECK(scratch.subkeys() == "a; ");
+  Story it(pc);
+  const RegistryKey key = it.open(pc.platform().registry->hive(Hive::CurrentUser), pc.key());
+  it.keys(key);
+  for (const char* gone : {"<0101>", "<FF0EFF3C>", "<003C>0101>"}) it.remove(key, gone);
+  it.keys(key);
+  it.close(key);
+  checkGolden("registry-names.txt", it.told);
+}
+
+// Only a PC in a folder has keys without rights, and tells what becomes of an open key that is deleted.
+TEST_CASE("registry: what is refused where rights are missing, and by a key that was deleted") {
+  FolderContractPc pc(
+      "nt", "REGEDIT4\n[HKEY_USERS\\Closed\\Below]\n\"v\"=\"x\"\n[HKEY_USERS\\Open\\Closed\\Below]\n",
+      "no rights = HKEY_USERS\\Closed\nno rights = HKEY_USERS\\open\\closed");
+  Story it(pc);
+  const RegistryKey users = pc.platform().registry->hive(Hive::Users);
+  for (const char* path : {"closed", "Closed\\Below", "Open\\Closed", "Open"}) it.close(it.open(users, path));
+  for (const char* path : {"Closed\\New", "Closed2"}) it.close(it.make(users, path));
+  const RegistryKey read = it.open(users, "Closed", false, access::QueryValue | access::EnumerateSubKeys);
+  it.keys(read);
+  it.values(read);
+  it.set(read, "v", ValueType::Text, "");
+  it.removeValue(read, "v");
+  it.make(read, "New");
+  for (const char* path : {"Closed\\Below", "Open", "Closed2"}) it.remove(users, path);
+  it.close(read);
+  const RegistryKey blind = it.open(users, "Open", false, access::SetValue);
+  it.query(blind, "v");
+  CHECK(it.subkey(blind, 0) == status::AccessDenied);
+  CHECK(it.value(blind, 0) == status::AccessDenied);
+  it.remove(users, "Open\\Closed");
+  it.close(blind);
+
+  it.told += "== a key that was deleted\n";
+  const RegistryKey gone = it.make(users, "Gone");
+  it.remove(users, "Gone");
+  it.removeValue(gone, "v");
+  it.remove(gone, "");
+  it.open(gone, "x");
+  it.make(gone, "");
+  it.query(gone, "v");
+  CHECK(it.subkey(gone, 0) == status::KeyDeleted);
+  for (int again = 0; again < 2; ++again) it.close(gone);
+  checkGolden("registry-refusals.txt", it.told);
 }
 
 // Its user is a branch of all users, and its classes are a part of the machine.
@@ -228,48 +252,43 @@ using PretendingJoined = Pretending<JoinedPc>;
 TEST_CASE_TEMPLATE("registry: what a hive shows of another one is the same by both names", Pc, JOINED_PCS) {
   Pc pc;
   Registry& registry = *pc.platform().registry;
-  struct Name {
-    Hive hive;
-    std::string path;
-    bool has(Registry& registry) const {
-      return OpenKey(registry).open(hive, path, access::Read) == status::Success;
-    }
-  };
-  // The last of the keys that a hive shows: where a key is made by the hive's name.
-  const auto lastShown = [&](Hive hive) -> Name {
-    const std::vector<std::string> shown = registry.shownBy(hive);
-    if (shown.empty()) return {hive, {}};
-    const auto end = shown.back().find('\\');
-    const auto row = std::ranges::find(HiveNames, shown.back().substr(0, end), &HiveName::name);
+  const auto at = [&](const std::string& path, auto call) {
+    const auto end = path.find('\\');
+    const auto row = std::ranges::find(HiveNames, path.substr(0, end), &HiveName::name);
     REQUIRE(row != HiveNames.end());
-    return {row->hive, shown.back().substr(end + 1) + '\\'};
+    return call(row->hive, path.substr(end + 1));
   };
-  const auto deleteKey = [&](const Name& name) {
-    return registry.deleteKey(registry.hive(name.hive), name.path);
+  const auto has = [&](const std::string& path) {
+    return at(path, [&](Hive hive, const std::string& below) {
+      return OpenKey(registry).open(hive, below, access::Read) == status::Success;
+    });
   };
-
-  for (const Hive hive : {Hive::CurrentUser, Hive::ClassesRoot}) {
-    CAPTURE(static_cast<std::uint32_t>(hive));
-    const bool user = hive == Hive::CurrentUser;
+  const auto remove = [&](const std::string& path) {
+    return at(path, [&](Hive hive, const std::string& below) {
+      return registry.deleteKey(registry.hive(hive), below);
+    });
+  };
+  for (const bool user : {true, false}) {
+    CAPTURE(user);
     if (user && !isNt(pc) && pc.deviates("user's branch")) continue;
-    const std::string scratch = user ? pc.key() : "ZubraneTest";
-    const Name shown = lastShown(hive);
-    REQUIRE(shown.hive != hive);
-    for (const bool goesByHive : {true, false}) {
-      const Name byHive{hive, scratch + "\\a"};
-      const Name byOther{shown.hive, shown.path + scratch + "\\a"};
-      if (user && goesByHive)
+    const Hive hive = user ? Hive::CurrentUser : Hive::ClassesRoot;
+    const std::string scratch = "\\" + (user ? pc.key() : "ZubraneTest");
+    const std::vector<std::string> shown = registry.shownBy(hive);
+    REQUIRE_FALSE(shown.empty());
+    // Of several keys that it shows the last one is where a key is made by its name.
+    const std::string byHive = (user ? "HKEY_CURRENT_USER" : "HKEY_CLASSES_ROOT") + scratch;
+    const std::string byOther = shown.back() + scratch;
+    for (const std::string& name : {byHive, byOther}) {
+      if (user && name == byHive)
         pc.wideKey(u"a");  // also by a PC that pretends to remove what is there
-      else if (OpenKey(registry).create(hive, byHive.path, access::All) != status::Success)
+      else if (OpenKey(registry).create(hive, scratch.substr(1) + "\\a", access::All) != status::Success)
         continue;  // no rights to the machine's classes
-      CHECK(byHive.has(registry));
-      CHECK(byOther.has(registry));
-      CHECK(deleteKey(goesByHive ? byHive : byOther) == status::Success);
-      CHECK_FALSE(byHive.has(registry));
-      CHECK_FALSE(byOther.has(registry));
+      for (const std::string& each : {byHive, byOther}) CHECK(has(each + "\\a"));
+      CHECK(remove(name + "\\a") == status::Success);
+      for (const std::string& each : {byHive, byOther}) CHECK_FALSE(has(each + "\\a"));
     }
-    deleteKey({hive, scratch});
-    CHECK_FALSE(Name{shown.hive, shown.path + scratch}.has(registry));
+    remove(byHive);
+    CHECK_FALSE(has(byOther));
   }
 }
 

@@ -61,7 +61,8 @@ struct Editor : WashFixture {
   Story::Things shown() {
     Story::Things things{
         {"message", told()},
-        {"window", (state.form.Visible ? "shown " : "hidden ") + std::to_string(state.form.shown)},
+        {"window", (state.form.Visible ? "shown " : "hidden ") +
+                       std::string(state.form.Enabled ? "" : "disabled ") + std::to_string(state.form.shown)},
         {"refreshes of the main window", std::to_string(refreshes)},
         {"cmdApply", state.cmdApply.Enabled ? "on" : "off"},
         {"focus", ""}};

@@ -70,6 +70,7 @@ TEST_CASE("a combo box holds a row, or a typed text that may be no row") {
   CHECK(combo.ListIndex() == 0);
   combo.ListIndex(-1);
   CHECK(combo.Text().empty());
+  CHECK(combo.List(2).empty());
   CHECK(events == "click change change ");
   CHECK_THROWS_AS(combo.ListIndex(2), RuntimeError);
 }

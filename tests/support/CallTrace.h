@@ -66,7 +66,9 @@ class CallTrace {
       std::string prompt = pc_.messages[popUps_].prompt;
       for (auto end = prompt.find("\r\n"); end != prompt.npos; end = prompt.find("\r\n"))
         prompt.replace(end, 2, " / ");
-      tell("! " + pc_.messages[popUps_].title + ": " + prompt + "\n");
+      const int style = pc_.messages[popUps_].style;
+      tell("! " + pc_.messages[popUps_].title + (style == 0 ? "" : ", style " + std::to_string(style)) +
+           ": " + prompt + "\n");
     }
     const std::string now = "= " + window_(engine_.animated.peek().state) + "\n";
     if (now != shown_) tell(now);

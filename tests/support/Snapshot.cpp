@@ -32,21 +32,10 @@ void addFolder(Lines& lines, HostDir& folder, const std::string& path) {
   }
 }
 
-// The bytes, those that are no printing characters as %00.
-std::string dataText(std::string_view data) {
-  std::string text;
-  for (const char c : data) {
-    char hex[8];
-    std::snprintf(hex, sizeof hex, c >= ' ' && c <= '~' ? "%c" : "%%%02x", static_cast<unsigned char>(c));
-    text += hex;
-  }
-  return text;
-}
-
 void addKey(Lines& lines, const RegistryNode& node, const std::string& path) {
   for (const auto& [name, value] : node.values) {
     lines.push_back("value " + path + " \"" + name + "\" = " +
-                    std::to_string(static_cast<std::uint32_t>(value.type)) + ":" + dataText(value.data));
+                    std::to_string(static_cast<std::uint32_t>(value.type)) + ":" + printable(value.data));
   }
   for (const auto& [name, key] : node.keys) {
     const std::string below = path + "\\" + name;
@@ -72,6 +61,16 @@ void addMissing(std::string& diff, std::string_view sign, const Lines& from, con
 }
 
 }  // namespace
+
+std::string printable(std::string_view bytes) {
+  std::string text;
+  for (const char c : bytes) {
+    char hex[8];
+    std::snprintf(hex, sizeof hex, c >= ' ' && c <= '~' ? "%c" : "%%%02x", static_cast<unsigned char>(c));
+    text += hex;
+  }
+  return text;
+}
 
 std::string snapshotOf(FolderPc& pc) {
   Lines lines;

@@ -8,6 +8,9 @@
 
 namespace zub {
 
+// The bytes, those that are no printing characters as %00.
+std::string printable(std::string_view bytes);
+
 std::string snapshotOf(FolderPc& pc);
 std::string diffOf(std::string_view before, std::string_view after);
 

@@ -33,28 +33,42 @@ class Story {
     text.append(text.empty() ? "# " : "\n# ").append(title) += '\n';
     tellChanges();
   }
+  // Steps inside the action stand below the step, and what it has come to when they are over behind them.
   template <class Action>
   void step(std::string_view what, Action action) {
-    text.append("- ").append(onOneLine(what)) += '\n';
-    action();
+    text.append(depth_ * 2, ' ').append("- ").append(onOneLine(what)) += '\n';
+    const std::size_t inside = text.size();
+    {
+      const Deeper deeper(depth_);
+      action();
+    }
+    if (text.size() != inside) text.append(depth_ * 2, ' ') += "- and then\n";
     tellChanges();
   }
   // Takes things as they are, untold.
   void settle() { last_ = look(); }
 
  private:
+  struct Deeper {
+    explicit Deeper(std::size_t& counted) : depth(counted) { ++depth; }
+    ~Deeper() { --depth; }
+    std::size_t& depth;
+  };
   void tellChanges() {
     Things now = look();
     for (std::size_t place = 0; place < now.size(); ++place) {
       const std::string before = place < last_.size() ? last_[place].second : "";
       if (now[place].second != before)
-        text.append("    ").append(now[place].first).append(": ").append(onOneLine(now[place].second)) +=
-            '\n';
+        text.append(depth_ * 2 + 4, ' ')
+            .append(now[place].first)
+            .append(": ")
+            .append(onOneLine(now[place].second)) += '\n';
     }
     last_ = std::move(now);
   }
 
   Things last_;
+  std::size_t depth_ = 0;
 };
 
 }  // namespace zub

@@ -39,7 +39,8 @@ struct WashFixture {
   std::string told() {
     std::string all;
     for (const TestPc::Message& message : std::exchange(pc.messages, {})) {
-      all += message.title + ": " + message.prompt + ";";
+      all += message.title + (message.style == 0 ? "" : ", style " + std::to_string(message.style)) + ": " +
+             message.prompt + ";";
     }
     return all;
   }
