@@ -103,11 +103,11 @@ ImportWanted importWanted(const std::vector<std::string>& arguments) {
     } else if (option == "--user") {
       wanted.user = value;
     } else if (option == "--drive") {
-      const char letter = value.empty() ? '\0' : folded(value.substr(0, 1))[0];
-      if (value.size() < 3 || value[1] != '=' || letter < 'A' || letter > 'Z') {
+      const std::string letter = folded(value.substr(0, 1));
+      if (value.size() < 3 || value[1] != '=' || letter < "A" || letter > "Z") {
         throw UsageError("--drive takes LETTER=FOLDER, such as C=/mnt/xp");
       }
-      wanted.drives[letter] = value.substr(2);
+      wanted.drives[letter[0]] = value.substr(2);
     } else {
       throw UsageError("import knows no \"" + option + "\"");
     }

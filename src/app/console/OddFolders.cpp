@@ -17,7 +17,8 @@ std::string oddity(Registry& registry, RegistryKey key, std::string_view name) {
   std::uint32_t length = 0;
   if (registry.query(key, name, type, nullptr, length) != status::Success) return {};
   if (length > Longest) return "is longer than 1024 bytes, which a wash does not read";
-  std::string data(length, '\0');
+  std::string data;
+  data.resize(length);
   auto* bytes = reinterpret_cast<std::uint8_t*>(data.data());
   if (registry.query(key, name, type, bytes, length) != status::Success || length == 0) return {};
   if (data.back() == '\0') return {};

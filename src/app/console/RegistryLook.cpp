@@ -29,7 +29,8 @@ std::string textOf(Registry& registry, Hive hive, std::string_view path, std::st
   ValueType type{};
   std::uint32_t length = 0;
   if (registry.query(key.get(), name, type, nullptr, length) != status::Success) return {};
-  std::string data(length, '\0');
+  std::string data;
+  data.resize(length);
   auto* bytes = reinterpret_cast<std::uint8_t*>(data.data());
   if (registry.query(key.get(), name, type, bytes, length) != status::Success) return {};
   return std::string(StripAtNull(data));

@@ -19,8 +19,4 @@ void needStoreSaved(const Platform& pc, Options& options) {
   throw RuntimeError(ErrorNumber::PathFileAccess, "the settings cannot be changed: no rights to their key");
 }
 
-void Store::save() {
-  needStoreSaved(engine.pc, options);
-}
-
 }  // namespace zub

@@ -15,7 +15,6 @@ void needStoreSaved(const Platform& pc, Options& options);
 class Store {
  public:
   explicit Store(const Platform& pc);
-  void save();  // RuntimeError where the registry refuses
 
   Options options;
   Engine engine;
