@@ -216,7 +216,7 @@ std::string comboOf(const Window& combo) {
 // What only controls of its class tell.
 std::string ownOf(const Window& control) {
   const auto number = [&control](const char* what, UINT message) {
-    return line("; ", what, ' ', control.send(message));
+    return line("; ", what, ' ', static_cast<unsigned>(control.send(message)));
   };
   const std::pair<const char*, std::string (*)(const Window&)> all[] = {
       {"SysListView32", checksOf},
@@ -304,9 +304,12 @@ std::string Told::changes(const Window& window) {
   const auto rests = [&] {
     std::vector<Line> all = {{window.handle(), lineOf(window), ""}};
     const Screen screen;
-    for (const Window& control : windowsBelow(window))
+    for (const Window& control : windowsBelow(window)) {
+      if (Window(GetParent(control.handle())).className() == "ComboBox")
+        continue;  // the box is told of as a whole
       all.push_back(
           {control.handle(), lineOf(control, window), control.isVisible() ? seen(control, screen) : ""});
+    }
     for (const Window& tips : zub_.windows())
       if (GetWindow(tips.handle(), GW_OWNER) == window.handle() && tips.className() == TOOLTIPS_CLASSA)
         all.push_back({tips.handle(), tipsOf(tips), ""});
