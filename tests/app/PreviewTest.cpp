@@ -41,6 +41,8 @@ TEST_CASE("previews, step by step") {
     begin(pc);
     pc.options().chkSkipMessages.Value(1);
     pc.pc.lock(ProgramPc::Temp + "b");
+    pc.pc.folder(ProgramPc::Temp + "sub");
+    pc.options().LstIcons.Check(iconRow::RunHistory, 1);
     story.settle();
     preview(pc);
   }

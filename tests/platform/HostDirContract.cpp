@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <vector>
 
 #include "platform/host/HostDir.h"
+#include "platform/host/HostFailure.h"
 #include "support/Golden.h"
 #include "support/Snapshot.h"
 #include "support/TempFolder.h"
@@ -102,6 +104,19 @@ TEST_CASE("host folder: what each call answers for each name, and what it leaves
     CHECK(openHostDir(temp.path() + "/missing") == nullptr);
   }
   checkGolden("host.txt", told);
+}
+
+TEST_CASE("what each failure is called, and which of them the host's are") {
+  std::string told;
+  for (int number = 0; number < 1000; ++number) {
+    const std::string_view text = descriptionOf(ErrorNumber{number});
+    if (text != descriptionOf(ErrorNumber{1}))
+      told += std::to_string(number) + ": " + std::string(text) + '\n';
+  }
+  told += "others: " + std::string(descriptionOf(ErrorNumber{1})) + "\n== of the host\n";
+  for (std::uint8_t error = 1; error < std::size(Words); ++error)
+    told += Words[error] + (": " + reasonOf(HostError{error})) + '\n';
+  checkGolden("errors.txt", told);
 }
 
 TEST_CASE("host folder: many names are all told, and two listings do not meet") {

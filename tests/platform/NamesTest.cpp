@@ -31,11 +31,12 @@ TEST_CASE("a path is taken apart where its names can be") {
        parts("C:\\A file. "
              ".;c:\\a/b\\\\c\\;z:\\x;Z:x;a:;D:..;x;\\x;/x\\..\\y;C:x;..;..\\..\\..\\up;C:\\...;C:\\ "
              "\\a;.;C:\\.\\.\\a;"
-             "\\\\server\\share;//"
+             "\\\\server\\share;\\/x;/;//"
              "x;\\;;1:\\x;[:\\x;@:\\x;`:\\x;{:\\x;C:\\a?b;C:\\a*;C:\\a:b;C:\\a|b;C:\\<;C:\\>;C:\\\";C:\\a\tb;"
              "C:\\a\x1f;"
              "C:\\a "
-             "\x7f;C:\\con;C:\\NUL.txt;C:\\aux\\x;C:\\prn;C:\\com1.x;C:\\com9;C:\\com0;C:\\com10;C:\\x\\lpt9;"
+             "\x7f;C:\\con;C:\\NUL.txt;C:\\aux\\x;C:\\prn;C:\\com1.x;C:\\com9;C:\\com0;C:\\coma;C:\\com;C:"
+             "\\com10;C:\\x\\lpt9;"
              "C:\\LPT1;C:\\lpt;"
              "C:\\cons;C:\\conx.con;C:\\<0101>;C:\\<005C>\\<002E002E>;C:\\<01>;C:\\\xE4\xDF\x80")) {
     FolderPath result;

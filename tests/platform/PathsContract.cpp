@@ -24,6 +24,28 @@ TEST_CASE_TEMPLATE("files: many paths mean one file", Pc, CONTRACT_PCS) {
   CHECK(found(files, pc.folder() + "\\My*") == "My Folder");  // as written
 }
 
+TEST_CASE_TEMPLATE("files: what comes and goes is known at once, however it is written", Pc, CONTRACT_PCS) {
+  Pc pc;
+  Files& files = *pc.platform().files;
+  const std::string base = pc.folder() + "\\A long name.";
+  const auto there = [&] { return files.fileExists(base + "TXT") || files.folderExists(base + "TXT"); };
+  pc.file(base + "Txt", "x");
+  files.grip(base + "txt")->remove();
+  CHECK_FALSE(there());
+  files.open(base + "txt", OpenMode::Binary)->close();
+  CHECK(there());
+  files.grip(base + "Txt")->remove();
+  CHECK_FALSE(there());
+  files.replace(base + "tXt", "x");
+  CHECK(there());
+  files.grip(base + "txT")->remove();
+  CHECK_FALSE(there());
+  files.createFolder(base + "txt");
+  CHECK(there());
+  files.deleteFolder(base + "Txt");
+  CHECK_FALSE(there());
+}
+
 TEST_CASE_TEMPLATE("files: each told name leads back to its own entry", Pc, CONTRACT_PCS) {
   Pc pc;
   // A real Windows of the 9x family has no calls that reach such names.

@@ -13,8 +13,8 @@ namespace {
 // Calls that tell what they are answered, one line each.
 class Story {
  public:
-  template <class Pc>
-  explicit Story(Pc& pc) : registry_(*pc.platform().registry), base_(pc.key()) {}
+  // `base` is a path that is told as "it".
+  Story(Platform& pc, std::string base) : registry_(*pc.registry), base_(std::move(base)) {}
 
   RegistryKey open(RegistryKey parent, const std::string& path, bool make = false,
                    std::uint32_t rights = access::All) {
@@ -107,7 +107,7 @@ class Story {
 TEST_CASE_TEMPLATE("registry: what each call answers, on each family", Pc, CONTRACT_PCS) {
   using namespace std::string_literals;
   Pc pc;
-  Story it(pc);
+  Story it(pc.platform(), pc.key());
   const RegistryKey user = pc.platform().registry->hive(Hive::CurrentUser);
   it.told = "== keys are made with those on the way, names have no case, the empty path is the key itself\n";
   it.open(user, pc.key());
@@ -186,7 +186,7 @@ TEST_CASE_TEMPLATE("registry: each told name leads back to its own key", Pc, CON
   // A real Windows of the 9x family has no calls that reach such names.
   if (pc.followsLinks() && !isNt(pc)) return;
   for (const char16_t* name : {u"a", u"\u0101", u"\uFF0E\uFF3C", u"<0101>"}) pc.wideKey(name);
-  Story it(pc);
+  Story it(pc.platform(), pc.key());
   const RegistryKey key = it.open(pc.platform().registry->hive(Hive::CurrentUser), pc.key());
   it.keys(key);
   for (const char* gone : {"<0101>", "<FF0EFF3C>", "<003C>0101>"}) it.remove(key, gone);
@@ -195,12 +195,26 @@ TEST_CASE_TEMPLATE("registry: each told name leads back to its own key", Pc, CON
   checkGolden("registry-names.txt", it.told);
 }
 
-// Only a PC in a folder has keys without rights, and tells what becomes of an open key that is deleted.
-TEST_CASE("registry: what is refused where rights are missing, and by a key that was deleted") {
-  FolderContractPc pc(
-      "nt", "REGEDIT4\n[HKEY_USERS\\Closed\\Below]\n\"v\"=\"x\"\n[HKEY_USERS\\Open\\Closed\\Below]\n",
-      "no rights = HKEY_USERS\\Closed\nno rights = HKEY_USERS\\open\\closed");
-  Story it(pc);
+// With keys that can only be read, which a test cannot make elsewhere.
+template <class Family>
+struct Closed : FolderContractPc {
+  Closed()
+      : FolderContractPc(Family::name,
+                         "REGEDIT4\n[HKEY_USERS\\Closed]\n\"v\"=\"x\"\n[HKEY_USERS\\Closed\\Below]\n"
+                         "[HKEY_USERS\\Open\\Closed\\Below]\n",
+                         "no rights = HKEY_USERS\\Closed\nno rights = HKEY_USERS\\open\\closed") {}
+};
+struct Of9x {
+  static constexpr const char* name = "9x";
+};
+struct OfNt {
+  static constexpr const char* name = "nt";
+};
+
+TEST_CASE_TEMPLATE("registry: what is refused where rights are missing, and by a key that was deleted", Pc,
+                   Closed<Of9x>, Closed<OfNt>, Pretending<Closed<Of9x>>, Pretending<Closed<OfNt>>) {
+  Pc pc;
+  Story it(pc.platform(), pc.key());
   const RegistryKey users = pc.platform().registry->hive(Hive::Users);
   for (const char* path : {"closed", "Closed\\Below", "Open\\Closed", "Open"}) it.close(it.open(users, path));
   for (const char* path : {"Closed\\New", "Closed2"}) it.close(it.make(users, path));
@@ -229,7 +243,7 @@ TEST_CASE("registry: what is refused where rights are missing, and by a key that
   it.query(gone, "v");
   CHECK(it.subkey(gone, 0) == status::KeyDeleted);
   for (int again = 0; again < 2; ++again) it.close(gone);
-  checkGolden("registry-refusals.txt", it.told);
+  checkGolden("refusals.txt", it.told);
 }
 
 // Its user is a branch of all users, and its classes are a part of the machine.
@@ -290,6 +304,39 @@ TEST_CASE_TEMPLATE("registry: what a hive shows of another one is the same by bo
     remove(byHive);
     CHECK_FALSE(has(byOther));
   }
+}
+
+// What is there anew does not count, nor a value that only became another one.
+TEST_CASE("registry: what a PC that pretends has lost is told by the names that its hives show") {
+  JoinedPc pc;
+  for (const char* name : {"gone", "anew", "changed", "stays"})
+    pc.value("HKEY_USERS\\S-1\\Software\\A", name, "x");
+  pc.value("HKEY_USERS\\S-1\\Software\\B\\C", "v", "x");
+  pc.value("HKEY_LOCAL_MACHINE\\Software\\Classes\\.txt", "", "x");
+  for (const char* name : {"gone", "stays"}) pc.value("HKEY_LOCAL_MACHINE\\Software\\Plain", name, "x");
+  pc.value("HKEY_LOCAL_MACHINE\\Software\\Plain\\Below\\Deep", "v", "x");
+  PretendPc pretend(pc.platform());
+  Platform platform = pretend.platform(*pc.platform().events, *pc.platform().messages);
+  const RegistryKey user = platform.registry->hive(Hive::CurrentUser),
+                    users = platform.registry->hive(Hive::Users),
+                    machine = platform.registry->hive(Hive::LocalMachine);
+  Story it(platform, "it");
+  const RegistryKey a = it.open(user, "Software\\A"), plain = it.open(machine, "Software\\Plain");
+  for (const char* name : {"gone", "anew"}) it.removeValue(a, name);
+  for (const char* name : {"changed", "anew"}) it.set(a, name, ValueType::Binary, "y");
+  for (const char* path : {"S-1\\Software\\B\\C", "S-1\\Software\\B"}) it.remove(users, path);
+  it.remove(machine, "Software\\Classes\\.txt");
+  for (const char* path : {"Below\\Deep", "Below", ""}) it.remove(plain, path);
+  const RegistryKey anew = it.make(machine, "Software\\Plain");
+  it.set(anew, "stays", ValueType::Binary, "y");
+  it.close(it.make(anew, "Below"));
+  for (const RegistryKey key : {a, plain, anew}) it.close(key);
+  CHECK(pretend.removals() == 8);
+  it.told += "== what is lost\n";
+  pretend.registry.eachRemoved([&](const PretendRegistry::Removed& lost) {
+    it.told += lost.key + (lost.value == nullptr ? "" : " \"" + *lost.value + '"') + '\n';
+  });
+  checkGolden("lost.txt", it.told);
 }
 
 }  // namespace zub

@@ -2,77 +2,98 @@
 
 #include "base/RuntimeError.h"
 #include "state/Lists.h"
+#include "support/Golden.h"
+#include "support/Story.h"
 
 using namespace zub;
 
 namespace {
 
-std::string texts(const ListRows& rows) {
-  std::string all;
-  for (int row = 0; row < rows.ListCount(); ++row) all += rows.List(row) + ";";
-  return all;
+// Each step of `story` is told with the failure that ended it, if one did.
+template <class Action>
+void tell(Story& story, const std::string& what, Action action) {
+  try {
+    story.step(what, action);
+  } catch (const RuntimeError& failure) {
+    story.text += "    fails: " + failure.description() + "\n";
+  }
 }
 
 }  // namespace
 
-TEST_CASE("a sorted list finds the place itself and keeps checks and the current row with their texts") {
-  ListRows rows(ListRows::Order::Sorted);
-  for (const char* text : {"pear", "Apple", "fig"}) rows.AddItem(text);
-  rows.ListIndex(2);
-  rows.Selected(1, true);
-  rows.AddItem("Banana", 3);
-  rows.AddItem("zebra");
-  CHECK(texts(rows) == "Apple;Banana;fig;pear;zebra;");
-  CHECK(rows.Text() == "pear");
-  CHECK(rows.Selected(2));
-  CHECK(rows.SelCount() == 1);
-}
-
-TEST_CASE("removing rows moves the current row, and loses it with its row") {
-  ListRows rows;
-  for (const char* text : {"b", "c"}) rows.AddItem(text);
-  rows.AddItem("a", 0);
-  CHECK(texts(rows) == "a;b;c;");
-  rows.ListIndex(1);
-  rows.RemoveItem(0);
-  CHECK(rows.Text() == "b");
-  rows.RemoveItem(0);
-  CHECK(rows.ListIndex() == -1);
-  CHECK(rows.Text().empty());
-}
-
-TEST_CASE("a row that becomes current raises Click, and a row that is not there is refused") {
-  ListRows rows;
-  rows.AddItem("a");
-  int clicks = 0;
-  rows.Click = [&] { ++clicks; };
-  for (const int row : {0, 0, -1}) rows.ListIndex(row);
-  CHECK(clicks == 2);
-  CHECK_THROWS_AS(rows.ListIndex(1), RuntimeError);
-  CHECK_THROWS_AS(rows.Selected(1, true), RuntimeError);
-  CHECK_THROWS_AS(rows.AddItem("d", 2), RuntimeError);
-  CHECK_THROWS_AS(rows.RemoveItem(-1), RuntimeError);
-  CHECK(rows.List(1).empty());
-  CHECK_FALSE(rows.Selected(1));
-}
-
-TEST_CASE("a combo box holds a row, or a typed text that may be no row") {
+// A view paints anew what has another revision than it showed.
+TEST_CASE("what lists hold after each step, with the current row and the ticks") {
+  Story story;
+  for (const ListRows::Order order : {ListRows::Order::Sorted, ListRows::Order::AsAdded}) {
+    ListRows rows(order);
+    int clicks = 0;
+    rows.Click = [&] { ++clicks; };
+    story.look = [&]() -> Story::Things {
+      std::string all;
+      for (int row = 0; row < rows.ListCount(); ++row) {
+        all += (row == rows.ListIndex() ? ">" : "") + std::string(rows.Selected(row) ? "*[" : "[") +
+               rows.List(row) + "]";
+      }
+      return {{"rows", all},
+              {"text", rows.Text()},
+              {"ticked", std::to_string(rows.SelCount())},
+              {"clicks", std::to_string(clicks)},
+              {"revision", std::to_string(rows.revision())}};
+    };
+    story.chapter(order == ListRows::Order::Sorted ? "A sorted list" : "A list as it is added to");
+    const auto add = [&](const char* text, int index = -1) {
+      tell(story, std::string("AddItem ") + text + " " + std::to_string(index),
+           [&] { rows.AddItem(text, index); });
+    };
+    const auto remove = [&](int row) {
+      tell(story, "RemoveItem " + std::to_string(row), [&] { rows.RemoveItem(row); });
+    };
+    const auto choose = [&](int row) {
+      tell(story, "ListIndex " + std::to_string(row), [&] { rows.ListIndex(row); });
+    };
+    const auto tick = [&](int row, bool on) {
+      tell(story, "Selected " + std::to_string(row), [&] { rows.Selected(row, on); });
+    };
+    for (const char* text : {"pear", "Apple", "fig"}) add(text);
+    choose(1);
+    tick(2, true);
+    add("Banana", 0);
+    add("zebra", 4);
+    add("yak", 6);
+    for (const int row : {1, 1, -1, 5, -2}) choose(row);
+    choose(2);
+    for (const int row : {5, -1, 0, 1, 2}) remove(row);
+    tick(0, false);
+    tick(2, true);
+    tick(-1, true);
+    tell(story, "selectAll", [&] { rows.selectAll(true); });
+    choose(0);
+    tell(story, "Clear", [&] { rows.Clear(); });
+    CHECK(rows.List(0).empty());
+    CHECK_FALSE(rows.Selected(0));
+  }
   Combo combo({"one", "two"}, 0);
   std::string events;
   combo.Click = [&] { events += "click "; };
   combo.Change = [&] { events += "change "; };
-  combo.ListIndex(1);
-  CHECK(combo.Text() == "two");
-  combo.type("two ");
-  CHECK(combo.ListIndex() == -1);
-  CHECK(combo.Text() == "two ");
-  combo.type("one");
-  CHECK(combo.ListIndex() == 0);
-  combo.ListIndex(-1);
-  CHECK(combo.Text().empty());
-  CHECK(combo.List(2).empty());
-  CHECK(events == "click change change ");
-  CHECK_THROWS_AS(combo.ListIndex(2), RuntimeError);
+  story.look = [&]() -> Story::Things {
+    return {{"row", std::to_string(combo.ListIndex()) + " of " + std::to_string(combo.ListCount())},
+            {"text", combo.Text()},
+            {"last row", combo.List(combo.ListCount() - 1) + combo.List(combo.ListCount()) + combo.List(-1)},
+            {"events", events},
+            {"revision", std::to_string(combo.revision())}};
+  };
+  story.chapter("A combo box: a row, or a typed text that may be no row");
+  for (const int row : {1, 1, 2, -2}) {
+    tell(story, "ListIndex " + std::to_string(row), [&] { combo.ListIndex(row); });
+  }
+  for (const char* text : {"two ", "one"})
+    tell(story, "type " + std::string(text), [&] { combo.type(text); });
+  tell(story, "ListIndex -1", [&] { combo.ListIndex(-1); });
+  tell(story, "AddItem three", [&] { combo.AddItem("three"); });
+  tell(story, "ListIndex 2", [&] { combo.ListIndex(2); });
+  tell(story, "Clear", [&] { combo.Clear(); });
+  checkGolden("lists.txt", story.text);
 }
 
 TEST_CASE("every write of a check option raises its handler, also one that changes nothing") {

@@ -202,6 +202,14 @@ Window focus() {
   return Window(thread.hwndFocus);
 }
 
+bool tipComes(std::string_view text) {
+  return soon([text] {
+    for (HWND tip = nullptr; (tip = FindWindowExA(nullptr, tip, "tooltips_class32", nullptr)) != nullptr;)
+      if (IsWindowVisible(tip) != 0 && Window(tip).text() == text) return true;
+    return false;
+  });
+}
+
 void movePointer(int x, int y) {
   sentTo = {x, y};
   const auto stays = [&] {

@@ -71,6 +71,9 @@ std::vector<Window> windowsBelow(const Window& parent);
 // The control that has the keyboard.
 Window focus();
 
+// Waits for a tip with this text, of any program.
+bool tipComes(std::string_view text);
+
 // The pointer, in pixels of the screen.
 void movePointer(int x, int y);
 void pressButton(bool right = false);

@@ -3,17 +3,6 @@
 
 using namespace zub::drive;
 
-namespace {
-
-// The text of the tip that is shown, of any program.
-std::string shownTip() {
-  for (HWND tip = nullptr; (tip = FindWindowExA(nullptr, tip, "tooltips_class32", nullptr)) != nullptr;)
-    if (IsWindowVisible(tip) != 0) return Window(tip).text();
-  return {};
-}
-
-}  // namespace
-
 TEST_CASE("a dated entry is refused, added, still there at the next start, and removed") {
   const Story story;
   int before = 0;
@@ -61,7 +50,7 @@ TEST_CASE("the automatic interval changes what the clock tells") {
   // Its tip comes over its text as it does over its arrow.
   const RECT text = main.child("COMBOBOX", 0).child("EDIT", 0).place();
   movePointer((text.left + text.right) / 2, (text.top + text.bottom) / 2);
-  CHECK(soon([&] { return shownTip() == "Automatically run ZUB every?"; }));
+  CHECK(tipComes("Automatically run ZUB every?"));
   // A text that names no interval leaves the current minute, in which a wash is due at once.
   const Window interval = main.child("COMBOBOX", 0);
   fill(interval.child("EDIT", 0), "now");

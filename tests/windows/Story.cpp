@@ -125,18 +125,31 @@ void Zub::trayMessage(UINT mouseMessage) const {
 
 // The icon lies at the right end of the taskbar.
 void Zub::clickTray(bool right) const {
+  overTray();
+  pressButton(right);
+  releaseButton(right);
+}
+
+void Zub::overTray() const {
   trayWindow();
   const RECT taskbar = Window(FindWindowA("Shell_TrayWnd", nullptr)).place();
   constexpr int FromTheEnd = 11;
   movePointer(static_cast<int>(taskbar.right) - FromTheEnd,
               static_cast<int>(taskbar.top + taskbar.bottom) / 2);
-  pressButton(right);
-  releaseButton(right);
 }
 
 void Zub::trayEntry(char letter) const {
   clickTray(true);
-  REQUIRE(soon([] { return Window(FindWindowA("#32768", nullptr)).isVisible(); }));
+  const auto comesBesideThePointer = [] {
+    constexpr int TaskbarHeight = 30;
+    const Window menu(FindWindowA("#32768", nullptr));
+    RECT around = menu.place();
+    InflateRect(&around, 1, TaskbarHeight);
+    POINT pointer{};
+    GetCursorPos(&pointer);
+    return menu.isVisible() && PtInRect(&around, pointer) != 0;
+  };
+  REQUIRE(soon(comesBesideThePointer));
   key(letter);
 }
 

@@ -39,6 +39,7 @@ class Zub {
   // entry with this access key.
   Window trayWindow() const;
   void trayMessage(UINT mouseMessage) const;
+  void overTray() const;
   void clickTray(bool right = false) const;
   void trayEntry(char letter) const;
 

@@ -78,6 +78,18 @@ class Screen {
     return line(", seen ", hex(static_cast<LONG_PTR>(at(part.left, part.top))), ' ',
                 hex(static_cast<LONG_PTR>(ground)), ' ', hex(static_cast<LONG_PTR>(ink)));
   }
+  // The colours from the top down at a place without letters, each with its height.
+  std::string colorsAt(LONG x, const RECT& part) const {
+    std::string runs;
+    int count = 0;
+    for (LONG y = part.top, begin = y; y < part.bottom; ++y) {
+      if (y + 1 < part.bottom && at(x, y + 1) == at(x, y)) continue;
+      constexpr int Enough = 9;
+      if (++count <= Enough) runs += line(' ', hex(static_cast<LONG_PTR>(at(x, y))), '*', y + 1 - begin);
+      begin = y + 1;
+    }
+    return ", down" + runs;
+  }
 
  private:
   unsigned at(LONG x, LONG y) const {
@@ -125,11 +137,20 @@ class Accessible {
       all +=
           line("; to ", object_->accNavigate(direction, number(CHILDID_SELF), &end) == S_OK ? end.lVal : 0);
     object_->get_accSelection(&end);
-    return all + line("; selected ", end.lVal);
+    all += line("; selected ", end.lVal);
+    IDispatch* object = nullptr;
+    return all + line(", an object of its own: ", object_->get_accChild(number(1), &object) == S_OK);
+  }
+  // Gives a part the keyboard, and answers which one has it then.
+  LONG select(LONG part) const {
+    CHECK(object_->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, number(part)) == S_OK);
+    VARIANT focused{};
+    object_->get_accFocus(&focused);
+    return focused.vt == VT_I4 ? focused.lVal : -1;
   }
 
  private:
-  using Get = HRESULT (IAccessible::*)(VARIANT, BSTR*);
+  using Get = HRESULT (STDMETHODCALLTYPE IAccessible::*)(VARIANT, BSTR*);
 
   static VARIANT number(LONG value) {
     VARIANT variant{};
@@ -195,7 +216,7 @@ std::string comboOf(const Window& combo) {
 // What only controls of its class tell.
 std::string ownOf(const Window& control) {
   const auto number = [&control](const char* what, UINT message) {
-    return line("; ", what, ' ', control.send(message));
+    return line("; ", what, ' ', static_cast<unsigned>(control.send(message)));
   };
   const std::pair<const char*, std::string (*)(const Window&)> all[] = {
       {"SysListView32", checksOf},
@@ -229,8 +250,21 @@ std::string lineOf(const Window& control, const Window& window) {
 
 // What it is only in sight.
 std::string seen(const Window& control, const Screen& screen) {
-  const bool isOfTheKit = control.className() == "ZubraneControl";
-  return (isOfTheKit ? Accessible(control).text() : "") + screen.colorsIn(control.place());
+  constexpr LONG BesideLetters = 6, BesideCaption = 3, Wide = 80;
+  const RECT place = control.place();
+  const std::string name = control.className();
+  std::string text = screen.colorsIn(place);
+  if (name == "ZubraneControl") text = Accessible(control).text() + text;
+  if (name == "SysTabControl32") {
+    for (int page = 0; page < static_cast<int>(control.send(TCM_GETITEMCOUNT)); ++page) {
+      Asked<RECT> header;
+      ask(control, TCM_GETITEMRECT, page, header);
+      text += screen.colorsAt(place.left + header.record.left + BesideCaption, place);
+    }
+  } else if (name == "SysListView32" || (name == "ZubraneControl" && place.right - place.left > Wide)) {
+    text += screen.colorsAt(place.left + BesideLetters, place);
+  }
+  return text;
 }
 
 std::string lineOf(const Window& window) {
@@ -270,9 +304,12 @@ std::string Told::changes(const Window& window) {
   const auto rests = [&] {
     std::vector<Line> all = {{window.handle(), lineOf(window), ""}};
     const Screen screen;
-    for (const Window& control : windowsBelow(window))
+    for (const Window& control : windowsBelow(window)) {
+      if (Window(GetParent(control.handle())).className() == "ComboBox")
+        continue;  // the box is told of as a whole
       all.push_back(
           {control.handle(), lineOf(control, window), control.isVisible() ? seen(control, screen) : ""});
+    }
     for (const Window& tips : zub_.windows())
       if (GetWindow(tips.handle(), GW_OWNER) == window.handle() && tips.className() == TOOLTIPS_CLASSA)
         all.push_back({tips.handle(), tipsOf(tips), ""});
@@ -291,6 +328,43 @@ std::string Told::changes(const Window& window) {
 
 void press(const Window& control, long part) {
   Accessible(control).press(part);
+}
+
+long select(const Window& control, long part) {
+  return Accessible(control).select(part);
+}
+
+namespace {
+
+std::string heard;
+
+void CALLBACK hear(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG part, DWORD, DWORD) {
+  const Window control(window);
+  if (control.className() == "ZubraneControl")
+    heard += line(hex(static_cast<LONG_PTR>(event)), ' ', control.caption(), ' ', part, '|');
+}
+
+}  // namespace
+
+Listener::Listener(const Zub& zub) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(zub.main().handle(), &process);
+  hook_ = SetWinEventHook(EVENT_OBJECT_FOCUS, EVENT_OBJECT_NAMECHANGE, nullptr, hear, process, 0,
+                          WINEVENT_OUTOFCONTEXT);
+  REQUIRE(hook_ != nullptr);
+}
+
+bool Listener::hears(std::string_view events) {
+  const bool all = soon(
+      [&] {
+        MSG message;
+        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != 0) DispatchMessageA(&message);
+        return heard == events;
+      },
+      5);
+  if (!all) MESSAGE("heard: " << heard);
+  heard.clear();
+  return all;
 }
 
 }  // namespace zub::drive

@@ -24,5 +24,21 @@ class Told {
 
 // As a screen reader does: a control of the kit, or a part of it, numbered from 1.
 void press(const Window& control, long part = 0);
+// Gives a part the keyboard; the part that says that it has it.
+long select(const Window& control, long part);
+
+// Hears what the program tells of changes in the kit's controls: "EVENT CAPTION PART|" for each.
+class Listener {
+ public:
+  explicit Listener(const Zub& zub);
+  Listener(const Listener&) = delete;
+  Listener& operator=(const Listener&) = delete;
+  ~Listener() { UnhookWinEvent(hook_); }
+
+  bool hears(std::string_view events);  // waits for them
+
+ private:
+  HWINEVENTHOOK hook_;
+};
 
 }  // namespace zub::drive

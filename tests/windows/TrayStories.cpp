@@ -28,6 +28,8 @@ TEST_CASE("the menu of the icon shows, washes and ends") {
   const Story story;
   const Trace trace;
   const Zub zub("/STARTUP");
+  zub.overTray();
+  CHECK(tipComes("Zubrone"));
   zub.trayEntry('S');
   zub.main();
   zub.trayEntry('S');

@@ -59,7 +59,7 @@ PathFault parsePath(std::string_view path, const FolderPath& current, FolderPath
   result.drive = current.drive;
   result.parts.clear();
   result.namesFolder = isSeparator(path.back());
-  if (path.size() > 1 && path[1] == ':' && isLetter(path[0])) {
+  if (path.substr(1).starts_with(':') && isLetter(path[0])) {
     result.drive = static_cast<char>(UpperCase1252[static_cast<unsigned char>(path[0])]);
     path.remove_prefix(2);
   }
