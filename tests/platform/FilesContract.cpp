@@ -98,7 +98,8 @@ TEST_CASE_TEMPLATE("files: every failure has its number", Pc, CONTRACT_PCS) {
     std::string spares = {};  // the names on which it would work, or is no failure of the name's
     bool writes = false;
   } calls[] = {
-      {"reset attributes", [&](const auto& path) { files.grip(path)->resetAttributes(); }, "folder readonly"},
+      {"reset attributes", [&](const auto& path) { files.grip(path)->resetAttributes(); },
+       "folder readonly locked"},
       {"length", [&](const auto& path) { files.grip(path)->length(); }, "", true},
       {"open to write", [&](const auto& path) { files.open(path, OpenMode::Binary); }, "missing", true},
       {"open to read", [&](const auto& path) { files.open(path, OpenMode::Input); }},
