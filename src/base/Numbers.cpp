@@ -15,8 +15,7 @@ std::int64_t divideRoundHalfEven(std::int64_t length, std::int64_t unit) {
 
 std::int32_t checkedAdd(std::int32_t a, std::int64_t b) {
   std::int64_t sum = 0;
-  if (__builtin_add_overflow(std::int64_t{a}, b, &sum) || sum > std::numeric_limits<std::int32_t>::max() ||
-      sum < std::numeric_limits<std::int32_t>::min()) {
+  if (__builtin_add_overflow(std::int64_t{a}, b, &sum) || sum > std::numeric_limits<std::int32_t>::max()) {
     throw RuntimeError(ErrorNumber::Overflow);
   }
   return static_cast<std::int32_t>(sum);
@@ -25,8 +24,7 @@ std::int32_t checkedAdd(std::int32_t a, std::int64_t b) {
 std::string groupedThousands(std::int32_t number) {
   if (number == 0) return {};
   std::string text = std::to_string(number);
-  const std::size_t sign = number < 0 ? 1 : 0;
-  for (std::size_t place = text.size(); place > sign + 3;) {
+  for (std::size_t place = text.size(); place > 3;) {
     place -= 3;
     text.insert(place, ",");
   }

@@ -76,15 +76,14 @@ std::string JoinPath(std::string_view folder, std::string_view path) {
 
 std::int32_t leadingNumber(std::string_view text) {
   text = trimLeft(text);
-  const bool negative = text.starts_with('-');
-  if (negative || text.starts_with('+')) text.remove_prefix(1);
+  if (text.starts_with('+')) text.remove_prefix(1);
   constexpr std::int64_t limit = std::numeric_limits<std::int32_t>::max();
   std::int64_t number = 0;
   for (const char c : text) {
     if (c < '0' || c > '9') break;
     number = std::min(limit, number * 10 + (c - '0'));
   }
-  return static_cast<std::int32_t>(negative ? -number : number);
+  return static_cast<std::int32_t>(number);
 }
 
 }  // namespace zub

@@ -109,18 +109,20 @@ for path in "${going[@]}"; do
 done
 
 refused "nobody can be asked here: wash this PC with --yes" wash
-# answered ANSWER: a wash at a terminal, where somebody answers when asked; what the terminal got is in $work/said.
+# answered ANSWER TEXT: a wash at a terminal, where somebody answers when asked, tells this text. The terminal has not been
+# tried through the system of the 32-bit Windows.
 answered() {
+  [ -z "${ZUB_WINDOWS:-}" ] || return
   rm -f "$work/answers" "$work/said"
   mkfifo "$work/answers"
   exec 5<>"$work/answers"
-  script -qefc "stty cols 200; ${program[*]@Q} wash" "$work/said" <"$work/answers" >/dev/null 2>&1 &
+  timeout 60 script -qefc "stty raw -echo cols 200; ${program[*]@Q} wash" "$work/said" <"$work/answers" >/dev/null 2>&1 &
   until grep -aq 'Remove .*y/N' "$work/said" 2>/dev/null || ! kill -0 $! 2>/dev/null; do :; done
   printf '%s\r' "$1" >&5
-  wait $! || fail "the wash that was answered with $1 ends with $?"
+  wait $!
+  check "the wash that was answered with $1 does not tell: $2" grep -aqF "$2" "$work/said"
 }
-answered n
-check "a no is not told" grep -aq 'Nothing has been removed.' "$work/said"
+answered n "Nothing has been removed."
 for path in "${going[@]}"; do here "$pc$path"; done
 run 0 wash --yes
 for text in "	Deleting file old.tmp" "	Deleting file read-only.tmp" "	Deleting file Diary.lnk" "	Deleting file FILE0000.CHK" \
@@ -159,8 +161,9 @@ inRun() {
 inRun "$run" "$run-"
 run 0 set chkLoadStartup=0
 inRun "$run-" "$run"
-answered yes
-check "a yes begins no wash" grep -aq 'Total amount of space restored: 100 Bytes' "$work/said"  # the wording for none
+run 0 wash --yes
+says "Total amount of space restored: 100 Bytes"  # the wording for none
+answered yes "Total amount of space restored: 100 Bytes"
 
 # A dated wash starts the program with windows, which lies beside this one. A listing does not even make the task.
 job=$pc/windows/tasks/ZUB.job

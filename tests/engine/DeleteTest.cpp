@@ -140,7 +140,7 @@ TEST_CASE("each pass of the shredder, and how it fails") {
     pc.pc.readOnly(File);
     pc.deleteFile(title, File);
   };
-  for (const char* passes : {"1", "2", "", "x", "-3", " 3 times"}) {
+  for (const char* passes : {"1", "2", "", "x", "-3", " +3 times"}) {
     pc.options.cmbShredder.type(passes);
     shred("Passes: " + std::string(passes));
   }

@@ -31,7 +31,7 @@ TEST_CASE("a path is taken apart where its names can be") {
        parts("C:\\A file. "
              ".;c:\\a/b\\\\c\\;z:\\x;Z:x;a:;D:..;x;\\x;/x\\..\\y;C:x;..;..\\..\\..\\up;C:\\...;C:\\ "
              "\\a;.;C:\\.\\.\\a;"
-             "\\\\server\\share;//"
+             "\\\\server\\share;\\/x;/;//"
              "x;\\;;1:\\x;[:\\x;@:\\x;`:\\x;{:\\x;C:\\a?b;C:\\a*;C:\\a:b;C:\\a|b;C:\\<;C:\\>;C:\\\";C:\\a\tb;"
              "C:\\a\x1f;"
              "C:\\a "

@@ -56,7 +56,8 @@ TEST_CASE("a damaged text is refused with its line and the reason") {
   refuse("REGEDIT4\n", registry,
          {"\"a\"=\"value below no key\"\n", "[HKEY_CURRENT_USER\\Sof", "[", "[HKEY_NONE\\Software]\n", "[]\n",
           "[-HKEY_USERS]\n", "[HKEY_USERS\\a\\\\b]\n", "[HKEY_USERS\\a\\\\]\n", "[\\Software]\n",
-          "[HKEY_USERS\\" + std::string(256, 'k') + "]\n", deep + "]\n"});
+          "[HKEY_USERS\\a\rb]\n", "[HKEY_USERS\\a\0b]\n"s, "[HKEY_USERS\\" + std::string(256, 'k') + "]\n",
+          deep + "]\n"});
   refuse("", registry,
          {"", "regedit5\n", "REGEDIT4 and more\n", utf16, utf16 + "x", "\xFE\xFF\0R"s, "regf\1\0"s, "CREG\0"s,
           "WINE REGISTRY Version 2\n"});

@@ -136,23 +136,18 @@ TEST_CASE_TEMPLATE("registry: what each call answers, on each family", Pc, CONTR
   CHECK(it.name == first);
 
   it.told += "== a value keeps its type and its bytes, a text as its family stores it\n";
-  const std::pair<ValueType, std::string> data[] = {{ValueType::Text, "C:\\Temp\0"s},
-                                                    {ValueType::Text, "no NUL"s},
-                                                    {ValueType::Text, "one\0two\0"s},
-                                                    {ValueType::Text, "one\0tw"s},
-                                                    {ValueType::Text, "\xE9\xDF\xFC\x80\0"s},
-                                                    {ValueType::Text, ""s},
-                                                    {ValueType::ExpandText, "%TEMP%\0"s},
-                                                    {ValueType::ExpandText, "%TEMP%"s},
-                                                    {ValueType::Binary, "\0\1\xFF\0"s},
-                                                    {ValueType::Binary, ""s},
-                                                    {ValueType::Number, "\1\2\3\4"s},
-                                                    {ValueType::SeveralTexts, "a\0b\0\0"s},
-                                                    {ValueType::None, "xyz"s}};
-  for (const auto& [type, bytes] : data) {
-    it.set(key, "v", type, bytes);
-    it.query(key, "V");
-  }
+  const auto keep = [&](ValueType type, const std::vector<std::string>& all) {
+    for (const std::string& bytes : all) {
+      it.set(key, "v", type, bytes);
+      it.query(key, "V");
+    }
+  };
+  keep(ValueType::Text, {"C:\\Temp\0"s, "no NUL"s, "one\0two\0"s, "one\0tw"s, "\xE9\xDF\xFC\x80\0"s, ""s});
+  keep(ValueType::ExpandText, {"%TEMP%\0"s, "%TEMP%"s});
+  keep(ValueType::Binary, {"\0\1\xFF\0"s, ""s});
+  keep(ValueType::Number, {"\1\2\3\4"s});
+  keep(ValueType::SeveralTexts, {"a\0b\0\0"s});
+  keep(ValueType::None, {"xyz"s});
   it.query(key, "v", 3);
   it.query(key, "v", 2);
   for (const char* missing : {"missing", ""}) it.query(key, missing);
@@ -196,23 +191,17 @@ TEST_CASE_TEMPLATE("registry: each told name leads back to its own key", Pc, CON
 }
 
 // With keys that can only be read, which a test cannot make elsewhere.
-template <class Family>
+template <bool ofNt>
 struct Closed : FolderContractPc {
   Closed()
-      : FolderContractPc(Family::name,
+      : FolderContractPc(ofNt ? "nt" : "9x",
                          "REGEDIT4\n[HKEY_USERS\\Closed]\n\"v\"=\"x\"\n[HKEY_USERS\\Closed\\Below]\n"
                          "[HKEY_USERS\\Open\\Closed\\Below]\n",
                          "no rights = HKEY_USERS\\Closed\nno rights = HKEY_USERS\\open\\closed") {}
 };
-struct Of9x {
-  static constexpr const char* name = "9x";
-};
-struct OfNt {
-  static constexpr const char* name = "nt";
-};
 
 TEST_CASE_TEMPLATE("registry: what is refused where rights are missing, and by a key that was deleted", Pc,
-                   Closed<Of9x>, Closed<OfNt>, Pretending<Closed<Of9x>>, Pretending<Closed<OfNt>>) {
+                   Closed<false>, Closed<true>, Pretending<Closed<false>>, Pretending<Closed<true>>) {
   Pc pc;
   Story it(pc.platform(), pc.key());
   const RegistryKey users = pc.platform().registry->hive(Hive::Users);
@@ -266,21 +255,14 @@ using PretendingJoined = Pretending<JoinedPc>;
 TEST_CASE_TEMPLATE("registry: what a hive shows of another one is the same by both names", Pc, JOINED_PCS) {
   Pc pc;
   Registry& registry = *pc.platform().registry;
-  const auto at = [&](const std::string& path, auto call) {
+  // The key of a path that begins with its hive's name: whether it is there, and it removed.
+  const auto at = [&](const std::string& path, bool removed) {
     const auto end = path.find('\\');
     const auto row = std::ranges::find(HiveNames, path.substr(0, end), &HiveName::name);
     REQUIRE(row != HiveNames.end());
-    return call(row->hive, path.substr(end + 1));
-  };
-  const auto has = [&](const std::string& path) {
-    return at(path, [&](Hive hive, const std::string& below) {
-      return OpenKey(registry).open(hive, below, access::Read) == status::Success;
-    });
-  };
-  const auto remove = [&](const std::string& path) {
-    return at(path, [&](Hive hive, const std::string& below) {
-      return registry.deleteKey(registry.hive(hive), below);
-    });
+    const std::string below = path.substr(end + 1);
+    return (removed ? registry.deleteKey(registry.hive(row->hive), below)
+                    : OpenKey(registry).open(row->hive, below, access::Read)) == status::Success;
   };
   for (const bool user : {true, false}) {
     CAPTURE(user);
@@ -297,12 +279,12 @@ TEST_CASE_TEMPLATE("registry: what a hive shows of another one is the same by bo
         pc.wideKey(u"a");  // also by a PC that pretends to remove what is there
       else if (OpenKey(registry).create(hive, scratch.substr(1) + "\\a", access::All) != status::Success)
         continue;  // no rights to the machine's classes
-      for (const std::string& each : {byHive, byOther}) CHECK(has(each + "\\a"));
-      CHECK(remove(name + "\\a") == status::Success);
-      for (const std::string& each : {byHive, byOther}) CHECK_FALSE(has(each + "\\a"));
+      for (const std::string& each : {byHive, byOther}) CHECK(at(each + "\\a", false));
+      CHECK(at(name + "\\a", true));
+      for (const std::string& each : {byHive, byOther}) CHECK_FALSE(at(each + "\\a", false));
     }
-    remove(byHive);
-    CHECK_FALSE(has(byOther));
+    at(byHive, true);
+    CHECK_FALSE(at(byOther, false));
   }
 }
 

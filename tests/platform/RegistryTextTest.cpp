@@ -114,6 +114,8 @@ TEST_CASE("the forms and encodings of an export give the same 8-bit content") {
       {"UTF-8 without a mark", New + inKey("\"a\"=\"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80\"\n")},
       {"its shortest and longest characters",
        New + inKey("\"a\"=\"\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBD\xF0\x90\x80\x80\xF4\x8F\xBF\xBF\"\n")},
+      {"what is too long, half a pair and beyond the last one, byte by byte",
+       New + inKey("\"a\"=\"\xE0\x9F\xBF \xED\xA0\x80 \xED\xBF\xBF \xF0\x8F\xBF\xBF \xF4\x90\x80\x80\"\n")},
       {"a lead beyond them", New + inKey("\"a\"=\"\xF5\x80\x80\x80\"\n")},
       {"bytes that are no UTF-8 are the code page's", New + inKey("\"a\"=\"\xC3\xA4\xE4\"\n")},
       {"neither is a lead that cannot be", New + inKey("\"a\"=\"\xC1\xA4\"\n")},

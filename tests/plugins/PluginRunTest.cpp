@@ -45,6 +45,8 @@ const Catalogue& sample() {
       "file HKEY_LOCAL_MACHINE\\Software\\Editor+ Value`= Folder | Activity.log\n"
       "trace HKEY_CURRENT_USER\\Software\\Editor+ Value`= Last\n"
       "[Classes]\nabout a\ntrace HKEY_CLASSES_ROOT\\K- Key*\n"
+      "[Borrowed]\nabout a\n"
+      "file HKEY_LOCAL_MACHINE\\Software\\Editor+ Value`= Folder | a.log\ntrace HKEY_CLASSES_ROOT\\K- Key*\n"
       "[Wrong]\nabout a\n"
       "file windows | first.ini\ntrace HKEY_CURRENT_USER\\Software Value`- Key*\nfile windows | "
       "second.ini\n");
@@ -141,14 +143,13 @@ TEST_CASE("the calls, the report and the rest of standard plugins, and what is s
   };
   plant();
   wash.trace.act("What is shown of the rows", [&] {
-    shown("Editor");
-    shown("Classes");
+    for (const char* row : {"Editor", "Classes", "Borrowed"}) shown(row);
   });
   wash.runRow(sample(), "Editor");
   plant();
   wash.pc.shellFolder("AppData", "C:\\User\\Data\\");
   wash.pc.value("HKEY_LOCAL_MACHINE\\Software\\Editor", "Folder", "C:\\Editor");
   wash.trace.act("and with the folders that the rows name", [&] { shown("Editor"); });
-  for (const char* row : {"Editor", "Classes", "wrong", "Wrong"}) wash.runRow(sample(), row);
+  for (const char* row : {"Editor", "Classes", "Borrowed", "wrong", "Wrong"}) wash.runRow(sample(), row);
   checkGolden("standard.txt", wash.trace.text);
 }

@@ -1,64 +1,41 @@
 #include <doctest/doctest.h>
 
 #include "plugins/Plugins.h"
-#include "support/WashFixture.h"
+#include "support/Golden.h"
+#include "support/TracedWash.h"
 
 using namespace zub;
 
-namespace {
-
-const std::string Folder = "C:\\Program Files\\Zubrane\\Plugins";
-
-}  // namespace
-
-TEST_CASE("an absent plugin folder is an empty list, until it is there") {
-  WashFixture wash;
+// A refresh unticks the rows.
+TEST_CASE("the list of custom plugins, and what Remove takes") {
+  TracedWash wash;
+  ListRows& rows = wash.options.lstFiles;
+  const std::string folder = "C:\\Program Files\\Zubrane\\Plugins\\";
   Plugins plugins(wash.engine);
-  plugins.RefreshPluginList();
-  CHECK(plugins.CurPath() == Folder);
-  CHECK(rowsOf(wash.options.lstFiles) == "");
-  wash.pc.file(Folder + "\\a.zb1");
-  plugins.RefreshPluginList();
-  CHECK(rowsOf(wash.options.lstFiles) == "a;");
-  wash.pc.platform().files->deleteFolder(Folder);
-  plugins.RefreshPluginList();
-  CHECK(rowsOf(wash.options.lstFiles) == "");
-}
-
-TEST_CASE("the list has a row for each .zb1, sorted, cut by four characters, unticked") {
-  WashFixture wash;
-  for (const char* name : {"\\beta.zb1", "\\Alpha.ZB1", "\\gamma.zb2", "\\delta.one.zb1", "\\Sub.zb1\\x",
-                           "\\.zb1", "\\notes.zb1.txt"}) {
-    wash.pc.file(Folder + name);
+  const auto act = [&](const char* title, const auto& work) {
+    rows.selectAll(true);
+    wash.trace.act(title, work);
+    wash.trace.tell("rows " + rowsOf(rows) + "\n");
+  };
+  const auto refresh = [&] { plugins.RefreshPluginList(); };
+  const auto remove = [&] { plugins.RemovePlugin(); };
+  act("There is no folder", refresh);
+  for (const char* name : {"beta.zb1", "beta.zb2", "beta.zb3", "beta.zb4", "Alpha.ZB1", "gamma.zb2",
+                           "delta.one.zb1", "Sub.zb1\\x", ".zb1", ".zb3", "notes.zb1.txt"}) {
+    wash.pc.file(folder + name);
   }
-  Plugins plugins(wash.engine);
-  plugins.RefreshPluginList();
-  wash.options.lstFiles.selectAll(true);
-  plugins.RefreshPluginList();
-  CHECK(rowsOf(wash.options.lstFiles) == ";Alpha;beta;delta.one;");
-}
-
-TEST_CASE("removing takes the three files of the current row as a wash does, or those without a name") {
-  for (const std::string current : {"a", ""}) {
-    WashFixture wash;
-    for (const char* name : {"\\a.zb1", "\\a.zb2", "\\a.zb3", "\\a.zb4", "\\b.zb1", "\\.zb3"}) {
-      wash.pc.file(Folder + name);
-    }
-    wash.pc.readOnly(Folder + "\\a.zb2");
-    Plugins plugins(wash.engine);
-    plugins.RefreshPluginList();
-    wash.options.lstFiles.selectAll(true);
-    if (current == "a") wash.options.lstFiles.ListIndex(0);
-    const std::string before = wash.pc.snapshot();
-    plugins.RemovePlugin();
-    CHECK(rowsOf(wash.options.lstFiles) == (current == "a" ? "b;" : "a;b;"));
-    const std::string name = Folder + "\\" + current + ".zb";
-    CHECK(beyond(wash.pc.diffSince(before), {name + "1", name + "2", name + "3"}) == "");
-    CHECK_FALSE(wash.pc.hasFile(name + "3"));
-    CHECK(wash.engine.TotalBytes == (current == "a" ? 3 : 1));
-    wash.pc.lock(Folder + "\\b.zb1");
-    wash.options.lstFiles.ListIndex(current == "a" ? 0 : 1);
-    plugins.RemovePlugin();  // what others hold is not left for the next start
-    CHECK_FALSE(wash.pc.hasFile("C:\\WINDOWS\\wininit.ini"));
-  }
+  wash.pc.hide(folder + "Hidden.zb1");
+  wash.pc.file(folder + "Hidden.zb1");
+  act("A row for each .zb1, sorted, cut by four characters", refresh);
+  wash.pc.readOnly(folder + "beta.zb2");
+  rows.ListIndex(2);
+  act("Remove with beta current", remove);
+  act("Remove without a current row takes the files without a name", remove);
+  wash.pc.lock(folder + "delta.one.zb1");
+  rows.ListIndex(1);
+  act("Remove of what another program holds, which is not left for the next start", remove);
+  wash.pc.unlock(folder + "delta.one.zb1");
+  wash.pc.platform().files->deleteFolder(folder);
+  act("The folder has gone", refresh);
+  checkGolden("list.txt", wash.trace.text);
 }

@@ -1,66 +1,38 @@
 #include <doctest/doctest.h>
 
 #include "settings/WindowsStartup.h"
+#include "support/Golden.h"
 #include "support/TestPc.h"
 
 using namespace zub;
 
-namespace {
-
-constexpr const char* command = "C:\\Z\\zub.exe /STARTUP";
-const std::string stored = command + std::string(1, '\0');
-constexpr const char* hives[] = {"HKEY_LOCAL_MACHINE", "HKEY_CURRENT_USER"};
-
-std::string run(std::string_view hive) {
-  return std::string(hive) + "\\Software\\Microsoft\\Windows\\CurrentVersion\\Run";
-}
-std::string parked(std::string_view hive) {
-  return run(hive) + "-";
-}
-
-}  // namespace
-
-TEST_CASE("the entry moves between the Run keys and their twins") {
-  TestPc pc;
-  for (const char* hive : hives) {
-    pc.value(run(hive), "Other", "decoy");
-    pc.value(parked(hive), "Other", "decoy");
-  }
-  WindowsStartup startup(*pc.platform().registry);
-  for (const bool on : {false, true, true, false}) {
-    if (on) {
-      startup.AddStartupEntry(command, "Zubrane");
-    } else {
-      startup.RemoveStartupEntry(command, "Zubrane");
-    }
-    for (const char* hive : hives) {
-      CHECK(pc.data(on ? run(hive) : parked(hive), "Zubrane") == stored);
-      CHECK_FALSE(pc.hasValue(on ? parked(hive) : run(hive), "Zubrane"));
-      CHECK(pc.hasValue(run(hive), "Other"));
-      CHECK(pc.hasValue(parked(hive), "Other"));
-    }
-  }
-  startup.RemoveStartupEntry("D:\\Moved\\zub.exe /STARTUP", "Zubrane");
-  CHECK(pc.text(parked(hives[1]), "Zubrane") == "D:\\Moved\\zub.exe /STARTUP");
-}
-
-TEST_CASE("a key that is missing or denied stays as it is, and the others still get their part") {
-  for (const bool denied : {false, true}) {
-    TestPc pc;
-    pc.key(run(hives[1]));
-    if (denied) {
-      pc.key(run(hives[0]));
-      pc.fail("open " + run(hives[0]), status::AccessDenied);
-    }
+TEST_CASE("the calls that move the entry between the Run keys and their twins, and what comes of them") {
+  const std::string run = "\\Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+  std::string text;
+  const auto move = [&](TestPc& pc, const char* title, bool on, const char* command) {
+    text += title + std::string(on ? ": on\n" : ": off\n");
+    const std::string before = pc.snapshot();
+    pc.onCall = [&](const std::string& call) { text += call + "\n"; };
     WindowsStartup startup(*pc.platform().registry);
-    startup.AddStartupEntry(command, "Zubrane");
-    CHECK(pc.data(run(hives[1]), "Zubrane") == stored);
-    CHECK_FALSE(pc.hasValue(run(hives[0]), "Zubrane"));
-    startup.RemoveStartupEntry(command, "Zubrane");
-    CHECK_FALSE(pc.hasValue(run(hives[1]), "Zubrane"));
-    CHECK_FALSE(pc.hasKey(parked(hives[1])));
-    CHECK(pc.hasKey(run(hives[0])) == denied);
+    if (on) startup.AddStartupEntry(command, "Zubrane");
+    if (!on) startup.RemoveStartupEntry(command, "Zubrane");
+    text += pc.diffSince(before) + "\n";
+  };
+  const char* command = "C:\\Z\\zub.exe /STARTUP";
+  TestPc pc;
+  for (const std::string hive : {"HKEY_LOCAL_MACHINE", "HKEY_CURRENT_USER"}) {
+    for (const char* twin : {"", "-"}) pc.value(hive + run + twin, "Other", "decoy");
   }
+  move(pc, "# For the first time", false, command);
+  for (const bool on : {true, true, false}) move(pc, "# Again", on, command);
+  move(pc, "# The program has moved", false, "D:\\Moved\\zub.exe /STARTUP");
+  TestPc few;
+  few.key("HKEY_CURRENT_USER" + run);
+  for (const bool on : {true, false}) move(few, "# The user's Run key alone", on, command);
+  few.key("HKEY_LOCAL_MACHINE" + run);
+  few.fail("open HKEY_LOCAL_MACHINE" + run, status::AccessDenied);
+  move(few, "# The machine's Run key is refused", true, command);
+  checkGolden("startup.txt", text);
 }
 
 TEST_CASE("the command has one backslash behind the program's folder") {

@@ -55,10 +55,11 @@ class Over : public Service {
     if (const std::int32_t number = calls.failureOf(what, which))
       throw RuntimeError(static_cast<ErrorNumber>(number));
   }
-  // A call on what was found or opened.
-  void step(const std::string& what, std::string_view detail = {}) const {
+  // What takes a call on what was found or opened, once it is told.
+  auto& on(const std::string& what, std::string_view detail = {}) const {
     calls.tell("  " + what, detail);
     strike(what, path);
+    return *under;
   }
 
   Under under;
@@ -69,26 +70,11 @@ class Over : public Service {
 struct TestChannel : Over<FileChannel, std::unique_ptr<FileChannel>> {
   using Over::Over;
   std::int64_t length() override { return under->length(); }
-  void seek(std::int64_t offset) override {
-    step("go to", std::to_string(offset));
-    under->seek(offset);
-  }
-  std::size_t read(std::span<char> buffer) override {
-    step("read");
-    return under->read(buffer);
-  }
-  void write(std::string_view bytes) override {
-    step("write", std::to_string(bytes.size()));
-    under->write(bytes);
-  }
-  void close() override {
-    step("close");
-    under->close();
-  }
-  void sync() override {
-    step("wait for the disk");
-    under->sync();
-  }
+  void seek(std::int64_t offset) override { on("go to", std::to_string(offset)).seek(offset); }
+  std::size_t read(std::span<char> buffer) override { return on("read").read(buffer); }
+  void write(std::string_view bytes) override { on("write", std::to_string(bytes.size())).write(bytes); }
+  void close() override { on("close").close(); }
+  void sync() override { on("wait for the disk").sync(); }
 };
 
 // Where calls are heard the entries come by their names: each host has an order of its own.
@@ -113,22 +99,15 @@ struct TestGrip : Over<FileGrip, std::unique_ptr<FileGrip>> {
   using Over::Over;
   std::uint32_t attributes() override { return under->attributes(); }
   void resetAttributes() override { under->resetAttributes(); }
-  std::int64_t length(ReadOnlyBit bit) override {
-    step("length");
-    return under->length(bit);
-  }
+  std::int64_t length(ReadOnlyBit bit) override { return on("length").length(bit); }
   std::unique_ptr<FileChannel> open() override {
-    step("open to write over");
-    return std::make_unique<TestChannel>(under->open(), calls, path);
+    return std::make_unique<TestChannel>(on("open to write over").open(), calls, path);
   }
   std::int64_t removable(Removal how) override {
     strike("remove", path);
     return under->removable(how);
   }
-  void remove() override {
-    step("remove");
-    under->remove();
-  }
+  void remove() override { on("remove").remove(); }
 };
 
 class TestFiles : public Over<Files, Files&> {
@@ -168,19 +147,17 @@ class TestFiles : public Over<Files, Files&> {
   }
 };
 
-struct TestDrives : Over<Drives, Drives&> {
+class TestDrives : public Over<Drives, Drives&> {
+ public:
   using Over::Over;
-  std::vector<std::string> list() override {
-    calls.tell("list of drives");
-    return under.list();
-  }
-  bool exists(std::string_view drive) override {
-    calls.tell("is there a drive", drive);
-    return under.exists(drive);
-  }
-  DriveType type(std::string_view drive) override {
-    calls.tell("kind of drive", drive);
-    return under.type(drive);
+  std::vector<std::string> list() override { return on("list of drives").list(); }
+  bool exists(std::string_view drive) override { return on("is there a drive", drive).exists(drive); }
+  DriveType type(std::string_view drive) override { return on("kind of drive", drive).type(drive); }
+
+ private:
+  Drives& on(std::string_view what, std::string_view drive = {}) const {
+    calls.tell(what, drive);
+    return under;
   }
 };
 

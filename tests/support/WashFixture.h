@@ -1,7 +1,6 @@
 // A test PC with everything that a wash needs but the cleaners.
 #pragma once
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -33,8 +32,6 @@ struct WashFixture {
   }
 
   frmAnimated::State& progress() { return engine.animated->state; }
-  // The report so far, which then is empty.
-  std::string takeReport() { return std::exchange(engine.clean.txtResult, {}); }
   // The pop-ups so far, each as "TITLE: PROMPT;", which then are forgotten.
   std::string told() {
     std::string all;
@@ -64,20 +61,6 @@ inline std::string ticksOf(const ListRows& rows) {
   std::string marks;
   for (int row = 0; row < rows.ListCount(); ++row) marks += rows.Selected(row) ? '*' : '-';
   return marks;
-}
-
-// The lines of a diff that are no removals of something whose line names one of `expected`: what a wash did beyond
-// that.
-inline std::string beyond(std::string_view diff, const std::vector<std::string>& expected) {
-  std::string lines;
-  while (!diff.empty()) {
-    const std::string_view line = diff.substr(0, diff.find('\n'));
-    diff.remove_prefix(std::min(diff.size(), line.size() + 1));
-    const bool named = std::ranges::any_of(
-        expected, [&](const std::string& part) { return line.find(part) != std::string_view::npos; });
-    if (!line.starts_with("- ") || !named) lines.append(line) += '\n';
-  }
-  return lines;
 }
 
 }  // namespace zub

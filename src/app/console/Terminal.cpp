@@ -14,17 +14,6 @@ bool outputWritten() {
   return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
 }
 
-std::string ask(std::string_view question) {
-  flush(Stream::Output);
-  write(Stream::Errors, question);
-  flush(Stream::Errors);
-  std::string answer;
-  for (int c = std::fgetc(stdin); c != EOF && c != '\n'; c = std::fgetc(stdin)) {
-    answer += static_cast<char>(c);
-  }
-  return std::string(trim(answer));
-}
-
 std::string programName(std::string_view path) {
   std::string name(path.substr(std::min(path.find_last_of("/\\") + 1, path.size())));
   constexpr std::string_view extension = ".EXE";

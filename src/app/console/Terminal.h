@@ -20,11 +20,6 @@ bool isTerminal(Stream stream);
 // Characters of a line of it; 80 where it does not tell.
 std::size_t width(Stream stream);
 
-// Whether somebody sits there to answer a question.
-bool canAsk();
-// Shows the question, and reads the line that answers it; empty where none comes.
-std::string ask(std::string_view question);
-
 // The words of the command line, the program first; and a program without its folder and extension.
 std::vector<std::string> commandWords(int count, char** words);
 std::string programName(std::string_view path);

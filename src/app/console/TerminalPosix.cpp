@@ -39,10 +39,6 @@ std::size_t terminal::width(Stream stream) {
   return size.ws_col;
 }
 
-bool terminal::canAsk() {
-  return isatty(STDIN_FILENO) != 0 && isTerminal(Stream::Errors);
-}
-
 std::vector<std::string> terminal::commandWords(int count, char** words) {
   return {words, words + count};
 }

@@ -38,10 +38,6 @@ std::size_t terminal::width(Stream stream) {
   return static_cast<std::size_t>(width > 0 ? width : Usual);
 }
 
-bool terminal::canAsk() {
-  return console::isConsole(console::Stream::Input) && isTerminal(Stream::Errors);
-}
-
 std::vector<std::string> terminal::commandWords(int, char**) {
   return console::words();
 }

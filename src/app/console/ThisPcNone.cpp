@@ -1,9 +1,14 @@
+#include "app/console/AskFirst.h"
 #include "app/console/ConsolePc.h"
 
 namespace zub {
 
 std::unique_ptr<ConsolePc> openThisPc(EventLoop&, Messages&) {
   return nullptr;
+}
+
+bool washWanted(CommandContext&, WashChoice) {
+  return true;
 }
 
 }  // namespace zub

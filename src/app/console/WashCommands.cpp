@@ -1,17 +1,15 @@
 #include <exception>
 #include <functional>
 
-#include "app/PreviewText.h"
 #include "app/Program.h"
+#include "app/console/AskFirst.h"
 #include "app/console/Commands.h"
 #include "app/console/Interrupt.h"
 #include "app/console/Json.h"
 #include "app/console/Report.h"
 #include "app/console/Store.h"
 #include "app/console/Terminal.h"
-#include "app/console/WashChoice.h"
 #include "base/RuntimeError.h"
-#include "base/Text.h"
 #include "platform/folder/HostText.h"
 #include "platform/folder/PcError.h"
 
@@ -29,21 +27,6 @@ void saveReport(const std::string& path, const std::string& report) {
   const auto folder = openHostDir(end == 0 ? "." : path.substr(0, end));
   if (!folder) throw std::runtime_error(path + ": its folder cannot be opened");
   replaceHostText(*folder, path.substr(end), report);
-}
-
-// On the PC that this runs on somebody is asked once, with the sums of a preview.
-bool agreed(CommandContext& context, WashChoice choice) {
-  if (!context.pc.folder().empty() || context.given.has("--yes")) return true;
-  if (!terminal::canAsk()) throw Refusal("nobody can be asked here: wash this PC with --yes");
-  Preview preview(context.pc.platform(), context.loop, context.loop);
-  {
-    const Attached attached(context.loop, preview.program);
-    preview.program.start();
-    choice.apply(preview.program);
-    preview.wash();
-  }
-  const std::string answer = terminal::ask("Remove " + sumsText(preview.sums()) + "? [y/N] ");
-  return upperAscii(answer) == "Y" || upperAscii(answer) == "YES";
 }
 
 void printWash(const CommandContext& context, Program& program, const std::exception_ptr& failure) {
@@ -126,16 +109,7 @@ void checkWash(const Given& given) {
 int washCommand(CommandContext& context) {
   context.needAlone();
   WashChoice choice(context.given);
-  if (!agreed(context, choice)) {
-    if (context.given.has("--json")) {
-      Json json(context, "wash");
-      json.flag("washed", false);
-      json.write();
-    } else {
-      context.print("Nothing has been removed.");
-    }
-    return exitStatus::Done;
-  }
+  if (!washWanted(context, choice)) return exitStatus::Done;
   return runProgram(context, choice, [&choice](Program& program) {
     choice.apply(program);
     program.main.cmdRemove_Click();

@@ -59,8 +59,8 @@ bool takeCharacter(std::string_view& utf8, std::uint32_t& character) {
       if ((at(i) & 0xC0) != 0x80) return false;
       character = character << 6 | (at(i) & 0x3Fu);
     }
-    constexpr std::array<std::uint32_t, 5> least = {0, 0, 0x80, 0x800, 0x10000};
-    if (character < least[length] || character > 0x10FFFF || isSurrogate(character)) return false;
+    const std::uint32_t least = length == 4 ? 0x10000 : length == 3 ? 0x800 : 0;
+    if (character < least || character > 0x10FFFF || isSurrogate(character)) return false;
   }
   utf8.remove_prefix(length);
   return true;
