@@ -66,6 +66,4 @@ struct ProgramPc {
   AutoLoad<frmAnimated>& progress() { return program->engine.animated; }
 };
 
-inline constexpr const char* WashedNow = "Last removal on 9/14/2001 at 10:20:30 AM";
-
 }  // namespace zub

@@ -137,5 +137,15 @@ TEST_CASE("where nothing names a folder for temporary files there is none") {
   CHECK_FALSE(pc.platform().folders->temp(512).empty());
 }
 
+TEST_CASE("the steady clock counts the milliseconds that the system counts") {
+  Win32ContractPc pc;
+  Clock& clock = *pc.platform().clock;
+  const std::uint64_t first = clock.ticks();
+  const DWORD begin = GetTickCount();
+  while (GetTickCount() - begin < 20) SwitchToThread();
+  CHECK(clock.ticks() - first >= 5);
+  CHECK(clock.ticks() - first < 60000);
+}
+
 }  // namespace zub
 #endif

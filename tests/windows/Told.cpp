@@ -192,7 +192,9 @@ std::string rowsOf(const Window& list) {
 std::string checksOf(const Window& list) {
   std::string text = rowsOf(list) + ' ';
   for (int row = 0; row < rows::count(list); ++row) text += rows::isChecked(list, row) ? '*' : '-';
-  return text + line("; column ", list.send(LVM_GETCOLUMNWIDTH), ", with ",
+  RECT inner{};
+  GetClientRect(list.handle(), &inner);
+  return text + line("; beside its column ", inner.right - list.send(LVM_GETCOLUMNWIDTH), ", with ",
                      hex(list.send(LVM_GETEXTENDEDLISTVIEWSTYLE)), ", current ",
                      list.send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
@@ -305,8 +307,8 @@ std::string Told::changes(const Window& window) {
     std::vector<Line> all = {{window.handle(), lineOf(window), ""}};
     const Screen screen;
     for (const Window& control : windowsBelow(window)) {
-      if (Window(GetParent(control.handle())).className() == "ComboBox")
-        continue;  // the box is told of as a whole
+      const std::string holder = Window(GetParent(control.handle())).className();
+      if (holder == "ComboBox" || holder == "SysListView32") continue;  // which are told of as a whole
       all.push_back(
           {control.handle(), lineOf(control, window), control.isVisible() ? seen(control, screen) : ""});
     }

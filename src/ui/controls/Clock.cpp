@@ -7,10 +7,9 @@ namespace zub::controls {
 namespace {
 
 // In twips; those of the digits and of the colon are counted from the panel's corner.
-constexpr Box Picture1 = {15, 15, 1020, 390};
-constexpr int ImgCharLeft[] = {60, 270, 570, 780};
-constexpr int ImgCharTop = 45;
-constexpr Point ImgBlink = {480, 105};
+constexpr Box Picture1 = px(1, 1, 68, 26);
+constexpr Point ImgChar[] = {px(4, 3), px(18, 3), px(38, 3), px(52, 3)};
+constexpr Point ImgBlink = px(32, 7);
 
 int digitAt(std::string_view text, std::size_t place) {
   const bool isDigit = place < text.size() && text[place] >= '0' && text[place] <= '9';
@@ -40,7 +39,7 @@ void Clock::paint(Surface& surface) const {
   draw(panel, "clock-background", {});
   for (std::size_t i = 0; i < digits_.size(); ++i) {
     const std::string name = digits_[i] == Blank ? "blank" : std::to_string(digits_[i]);
-    draw(panel, "digit-" + name, pixels(Point{ImgCharLeft[i], ImgCharTop}));
+    draw(panel, "digit-" + name, pixels(ImgChar[i]));
   }
   if (colonIsVisible_) draw(panel, "clock-colon", pixels(ImgBlink));
 }

@@ -44,6 +44,18 @@ constexpr Box common(const Box& a, const Box& b) {
 inline constexpr int TwipsPerPixel = 15;
 inline constexpr int TitleTwipsPerPixel = 12;
 
+// Places that are told in pixels, as the twips that stand for them.
+constexpr Point px(int x, int y) {
+  return {x * TwipsPerPixel, y * TwipsPerPixel};
+}
+constexpr Box px(int left, int top, int width, int height) {
+  return {left * TwipsPerPixel, top * TwipsPerPixel, width * TwipsPerPixel, height * TwipsPerPixel};
+}
+constexpr Box titlePx(int left, int top, int width, int height) {
+  return {left * TitleTwipsPerPixel, top * TitleTwipsPerPixel, width * TitleTwipsPerPixel,
+          height * TitleTwipsPerPixel};
+}
+
 // From what the kit is told in to the pixels of the screen that it is painted on.
 struct Scale {
   static constexpr int DesignDpi = 96;

@@ -9,22 +9,22 @@ namespace zub::controls {
 namespace {
 
 // Places in twips; those of the items are counted from the panel's corner.
-constexpr Box PicContainer = {15, 15, 5805, 1095};
+constexpr Box PicContainer = px(1, 1, 387, 73);
 constexpr int PanelHeights = 3;  // the panel is so many times as high as the window that it shows through
-constexpr Size CheckSize = {210, 240};
+constexpr Point CheckSize = px(14, 16);
 struct ItemPlace {
   Point check, picture;
 };
 constexpr ItemPlace ItemPlaces[] = {
-    {{75, 120}, {270, 165}},      {{915, 120}, {1185, 195}},   {{1920, 120}, {2070, 165}},
-    {{2760, 120}, {3060, 180}},   {{3750, 120}, {3900, 135}},  {{4590, 120}, {4815, 135}},
-    {{105, 1335}, {285, 1515}},   {{945, 1335}, {1260, 1365}}, {{1965, 1335}, {2085, 1380}},
-    {{2805, 1335}, {3135, 1380}},
+    {px(5, 8), px(18, 11)},     {px(61, 8), px(79, 13)},  {px(128, 8), px(138, 11)},
+    {px(184, 8), px(204, 12)},  {px(250, 8), px(260, 9)}, {px(306, 8), px(321, 9)},
+    {px(7, 89), px(19, 101)},   {px(63, 89), px(84, 91)}, {px(131, 89), px(139, 92)},
+    {px(187, 89), px(209, 92)},
 };
 enum ScrollPart { DownArrow, UpArrow, Thumb };
-constexpr Box ImgClick[] = {{5850, 855, 240, 255}, {5865, -15, 225, 270}, {5850, 255, 240, 300}};
-constexpr Point ImgScrollArrows[] = {{5865, 870}, {5865, 15}};
-constexpr Point ImgScroll = {5865, 270};
+constexpr Box ImgClick[] = {px(390, 57, 16, 17), px(391, -1, 15, 18), px(390, 17, 16, 20)};
+constexpr Point ImgScrollArrows[] = {px(391, 58), px(391, 1)};
+constexpr Point ImgScroll = px(391, 18);
 
 constexpr int LowestPanelTop = -1200, PanelStep = 4, ThumbStep = 1;
 
@@ -39,7 +39,7 @@ ListBox::ListBox(const Kit& kit)
     : Control(kit, {407, 75}), thumbTop_(ImgScroll.y), thumbAreaTop_(ImgClick[Thumb].top) {
   for (int item = 0; item < Items; ++item) {
     SimpleCheck& check = checks_.emplace_back(kit);
-    check.resize(pixels(CheckSize.width), pixels(CheckSize.height));
+    check.resize(pixels(CheckSize.x), pixels(CheckSize.y));
     check.Click = [this, item] {
       std::int16_t index = static_cast<std::int16_t>(item);
       raise(ClickCheck, index);
@@ -108,7 +108,7 @@ Box ListBox::picturePlace(int item) const {
 
 Box ListBox::checkPlace(int item) const {
   const Point at = ItemPlaces[item].check;
-  return pixels(Box{at.x, at.y, CheckSize.width, CheckSize.height});
+  return pixels(Box{at.x, at.y, CheckSize.x, CheckSize.y});
 }
 
 Box ListBox::hitArea(int index) const {

@@ -4,7 +4,7 @@ namespace zub::controls {
 
 namespace {
 
-constexpr Box Buttons[] = {{0, 0, 252, 300}, {240, 0, 252, 300}};  // twips
+constexpr Box Buttons[] = {titlePx(0, 0, 21, 25), titlePx(20, 0, 21, 25)};  // twips
 constexpr std::string_view ToolTips[] = {"Minimise to tray", "Close"};
 constexpr std::string_view HotPictures[] = {"minmax-minimise-hot", "minmax-close-hot"};
 constexpr std::string_view PressedPictures[] = {"minmax-minimise-pressed", "minmax-close-pressed"};

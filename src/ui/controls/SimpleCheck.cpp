@@ -8,7 +8,7 @@ namespace zub::controls {
 
 namespace {
 
-constexpr Box PicCheck = {0, 30, 195, 195};  // twips
+constexpr Box PicCheck = px(0, 2, 13, 13);  // twips
 
 }  // namespace
 

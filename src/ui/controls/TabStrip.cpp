@@ -6,13 +6,9 @@ namespace zub::controls {
 
 namespace {
 
-constexpr Box XPTabAreas[] = {
-    {-12, 0, 732, 300}, {720, 0, 732, 300}, {1440, 12, 840, 300}, {2280, 12, 1032, 300}};
-constexpr Box EditorAreas[] = {{36, 36, 696, 276}, {720, 36, 1020, 276}, {1680, 0, 708, 276}};
-
-constexpr Size sizeOf(int width, int height) {
-  return {width / TitleTwipsPerPixel, height / TitleTwipsPerPixel};
-}
+constexpr Box XPTabAreas[] = {titlePx(-1, 0, 61, 25), titlePx(60, 0, 61, 25), titlePx(120, 1, 70, 25),
+                              titlePx(190, 1, 86, 25)};
+constexpr Box EditorAreas[] = {titlePx(3, 3, 58, 23), titlePx(60, 3, 85, 23), titlePx(140, 0, 59, 23)};
 
 }  // namespace
 
@@ -40,7 +36,7 @@ int TabStrip::partAt(float x, float y) const {
   return Nothing;
 }
 
-XPTab::XPTab(const Kit& kit) : TabStrip(kit, sizeOf(3372, 300), XPTabAreas, "tab-top-") {}
+XPTab::XPTab(const Kit& kit) : TabStrip(kit, Size{281, 25}, XPTabAreas, "tab-top-") {}
 
 void XPTab::raiseOwnEvent(int tab) const {
   const Handler* const events[] = {&Main, &Plugins, &Options, &ZUBScheduler};
@@ -48,7 +44,7 @@ void XPTab::raiseOwnEvent(int tab) const {
 }
 
 TabPluginsEditor::TabPluginsEditor(const Kit& kit)
-    : TabStrip(kit, sizeOf(2412, 300), EditorAreas, "tab-editor-") {}
+    : TabStrip(kit, Size{201, 25}, EditorAreas, "tab-editor-") {}
 
 void TabPluginsEditor::raiseOwnEvent(int tab) const {
   const Handler* const events[] = {&Registry, &Files, &Comments};
