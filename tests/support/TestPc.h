@@ -95,9 +95,7 @@ class TestPc {
   FolderPick folderPick;             // what the folder picker answers
   std::string folderPrompt;          // what it was asked with
   std::int32_t recycleResult = 0;    // what emptying the recycle bin answers
-  std::vector<std::uint32_t> recycleFlags;
-  int recycleIconUpdates = 0;
-  std::vector<std::string> tray;  // "add TIP", "remove"
+  std::vector<std::string> tray;     // "add TIP", "remove"
 
  private:
   class Impl;

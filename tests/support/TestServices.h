@@ -240,14 +240,10 @@ class TestDesk : public Clock, public Shell, public Process, public EventLoop, p
 
   std::int32_t emptyRecycleBin(std::uint32_t flags) override {
     calls_.tell("empty the recycle bin, flags", std::to_string(flags));
-    pc_.recycleFlags.push_back(flags);
     return pc_.recycleResult;
   }
   std::vector<std::string> recycleBins() override { return {}; }
-  void updateRecycleBinIcon() override {
-    calls_.tell("refresh the icon of the bin");
-    ++pc_.recycleIconUpdates;
-  }
+  void updateRecycleBinIcon() override { calls_.tell("refresh the icon of the bin"); }
   void open(std::string_view document) override { pc_.opened.emplace_back(document); }
   void start(std::string_view program) override { pc_.started.emplace_back(program); }
   FolderPick browseForFolder(std::string_view prompt) override {

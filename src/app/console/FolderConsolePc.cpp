@@ -17,8 +17,10 @@ constexpr const char* NoDrive =
     "\"drive C = fixed at FOLDER\" in pc.txt names";
 // Without the folders of the shell, cookies would be looked for at the root of the drive.
 constexpr const char* NoUser =
-    "is not washed: its HKEY_CURRENT_USER has no Shell Folders that name the folder of the cookies, so the traces "
-    "of its user would not be found, and other files would be taken for them; choose a user with --user NAME, or "
+    "is not washed: its HKEY_CURRENT_USER has no Shell Folders that name the folder of the cookies, so the "
+    "traces "
+    "of its user would not be found, and other files would be taken for them; choose a user with --user "
+    "NAME, or "
     "with \"user = NAME\" in pc.txt (the command \"users\" lists them)";
 
 class FolderConsolePc : public ConsolePc {

@@ -26,7 +26,7 @@ class FolderTree {
  private:
   struct Level {
     std::string name;
-    HostError kept = HostError::None;  // why something stays, first of all
+    HostError kept = HostError::None;    // why something stays, first of all
     std::vector<std::string> folders{};  // in it, and how many have been tried
     std::size_t tried = 0;
     bool removedSome = false;

@@ -36,7 +36,8 @@ std::uint64_t Win32Clock::ticks() {
   LARGE_INTEGER count{};
   QueryPerformanceFrequency(&frequency);
   QueryPerformanceCounter(&count);
-  const auto perSecond = static_cast<std::uint64_t>(std::max<LONGLONG>(1, frequency.QuadPart));  // 0: no counter
+  const auto perSecond =
+      static_cast<std::uint64_t>(std::max<LONGLONG>(1, frequency.QuadPart));  // 0: no counter
   const auto counted = static_cast<std::uint64_t>(count.QuadPart);
   return counted / perSecond * 1000 + counted % perSecond * 1000 / perSecond;
 }
