@@ -8,6 +8,6 @@ namespace zub {
 
 // True for a PC in a folder and with --yes. Else somebody is asked once, with the sums of a preview; a no is told.
 // Refusal where nobody can be asked.
-bool washWanted(CommandContext& context, WashChoice choice);
+bool washWanted(CommandContext& context, const WashChoice& choice);
 
 }  // namespace zub

@@ -32,7 +32,7 @@ void tellNothingRemoved(const CommandContext& context) {
 
 }  // namespace
 
-bool washWanted(CommandContext& context, WashChoice choice) {
+bool washWanted(CommandContext& context, const WashChoice& choice) {
   if (!context.pc.folder().empty() || context.given.has("--yes")) return true;
   if (!console::isConsole(console::Stream::Input) || !terminal::isTerminal(terminal::Stream::Errors)) {
     throw Refusal("nobody can be asked here: wash this PC with --yes");
@@ -41,7 +41,7 @@ bool washWanted(CommandContext& context, WashChoice choice) {
   {
     const Attached attached(context.loop, preview.program);
     preview.program.start();
-    choice.apply(preview.program);
+    WashChoice(choice).apply(preview.program);
     preview.wash();
   }
   const std::string answer = ask("Remove " + sumsText(preview.sums()) + "? [y/N] ");

@@ -7,7 +7,7 @@ std::unique_ptr<ConsolePc> openThisPc(EventLoop&, Messages&) {
   return nullptr;
 }
 
-bool washWanted(CommandContext&, WashChoice) {
+bool washWanted(CommandContext&, const WashChoice&) {
   return true;
 }
 
