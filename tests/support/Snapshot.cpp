@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <functional>
 #include <vector>
 
 #include "platform/folder/HostText.h"
@@ -11,6 +10,13 @@ namespace zub {
 namespace {
 
 using Lines = std::vector<std::string>;
+
+// The same on every machine, as approved texts hold it (FNV-1a, 32 bits).
+std::uint32_t checksum(std::string_view bytes) {
+  std::uint32_t sum = 0x811C9DC5;
+  for (const char byte : bytes) sum = (sum ^ static_cast<unsigned char>(byte)) * 0x01000193;
+  return sum;
+}
 
 void addFolder(Lines& lines, HostDir& folder, const std::string& path) {
   std::unique_ptr<HostList> listing;
@@ -25,7 +31,7 @@ void addFolder(Lines& lines, HostDir& folder, const std::string& path) {
     } else if (entry.stat.kind == HostKind::File) {
       const std::string bytes = readHostText(folder, entry.name).value_or("");
       lines.push_back("file " + entryPath + " " + std::to_string(bytes.size()) + " " +
-                      std::to_string(std::hash<std::string>{}(bytes)));
+                      std::to_string(checksum(bytes)));
     } else {
       lines.push_back("link or device " + entryPath);
     }

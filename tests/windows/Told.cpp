@@ -296,7 +296,7 @@ std::string tipsOf(const Window& tips) {
 
 }  // namespace
 
-std::string Told::changes(const Window& window) {
+std::string Told::changes(const Window& window, std::string_view awaited) {
   struct Line {
     HWND handle;
     std::string told, seen;
@@ -315,7 +315,9 @@ std::string Told::changes(const Window& window) {
     for (const Window& tips : zub_.windows())
       if (GetWindow(tips.handle(), GW_OWNER) == window.handle() && tips.className() == TOOLTIPS_CLASSA)
         all.push_back({tips.handle(), tipsOf(tips), ""});
-    return std::exchange(now, std::move(all)) == now;
+    const bool told = std::ranges::any_of(
+        all, [awaited](const Line& one) { return one.seen.find(awaited) != one.seen.npos; });
+    return std::exchange(now, std::move(all)) == now && told;
   };
   const bool painted = soon(rests);
   CHECK(painted);

@@ -14,8 +14,8 @@ class Told {
   explicit Told(const Zub& zub) : zub_(zub) {}
 
   // What this window, which is in front, tells otherwise than at the last time: a line for each control, a deeper one
-  // further in. Times and dates are told as "#".
-  std::string changes(const Window& window);
+  // further in. Times and dates are told as "#". Waits until nothing changes any more, and a control tells `awaited`.
+  std::string changes(const Window& window, std::string_view awaited = {});
 
  private:
   const Zub& zub_;
