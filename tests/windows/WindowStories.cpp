@@ -29,6 +29,7 @@ TEST_CASE("each window tells and shows what was approved, on each of its pages")
     if (tab != std::string_view(" Standard Plugins")) continue;
     main.child("Select All").tick();
     tell("all of them ticked", main);
+    main.child("Select All").tick();  // as the 9x family, two of them would take the user's whole branch
   }
   icons::clickPicture(main, 5);
   main.child("Mail");
