@@ -94,14 +94,14 @@ TEST_CASE("drives lie in folders of the PC's folder, or where the facts tell") {
   for (const char* folder : {"E", "not a drive"}) REQUIRE(root->makeDir(folder) == HostError::None);
   writeHostFile(*root, "pc.txt",
                 "drive C = fixed at ../disk\ndrive D = removable at " + temp.path() +
-                    "/disk\ndrive F = fixed at gone\ndrive G = cdrom\n");
+                    "/disk\ndrive F = fixed at gone\ndrive A = removable\ndrive Z = cdrom\n");
   FolderPc pc(temp.path() + "/pc");
   CHECK(pc.files.fileExists("C:\\f"));
   CHECK(pc.files.fileExists("d:\\F"));
   CHECK(pc.drives.type("D:") == DriveType::Removable);
-  CHECK(pc.driveFolders().letters() == std::vector<char>{'C', 'D', 'E', 'F', 'G'});
+  CHECK(pc.driveFolders().letters() == std::vector<char>{'A', 'C', 'D', 'E', 'F', 'Z'});
   CHECK(pc.driveFolders().withDisk() == std::vector<char>{'C', 'D', 'E'});
-  for (const char* path : {"F:\\f", "G:\\f"})
+  for (const char* path : {"F:\\f", "Z:\\f"})
     CHECK(failure([&] { pc.files.open(path, OpenMode::Input); }) == 71);
   CHECK(pc.driveFolders().oddities() ==
         std::vector<std::string>{
