@@ -59,6 +59,7 @@ void CleanIE(Engine& engine, frmIECookieKeep& cookieKeep) {
   frame.announce();
   const std::string cacheFolder = shellFolder(engine, "Cache");
   const std::string historyFolder = shellFolder(engine, "History");
+  shellFolder(engine, "Cookies");  // the keep list asks for itself: these three reads are the task's beginning
   frame.heading();
   engine.clean.AddItem("");
   const Options& options = engine.options;
