@@ -76,6 +76,7 @@ TEST_CASE("host folder: what each call answers for each name, and what it leaves
       {"may go", [](HostDir& dir, const Name& name) { return dir.mayRemove(name); }},
       {"make anew", [](HostDir& dir, const Name& name) { return open(dir, name, HostOpen::New); }},
       {"make empty", [](HostDir& dir, const Name& name) { return open(dir, name, HostOpen::Empty); }},
+      {"protect", [](HostDir& dir, const Name& name) { return dir.setReadOnly(name, true); }},
       {"remove the file", [](HostDir& dir, const Name& name) { return dir.removeFile(name); }},
       {"make a folder", [](HostDir& dir, const Name& name) { return dir.makeDir(name); }},
       {"rename", [](HostDir& dir, const Name& name) { return dir.rename(name, "renamed"); }},

@@ -42,9 +42,9 @@ FolderPc::Texts FolderPc::readTexts(HostDir& root) {
   return {readHostText(root, RegistryName), readHostText(root, PcFacts::FileName)};
 }
 
-std::size_t FolderPc::Texts::mark() const {
+FolderPc::Marks FolderPc::Texts::marks() const {
   const std::hash<std::string_view> hash;
-  return hash(registry.value_or("")) * 31 + hash(facts.value_or(""));
+  return {hash(registry.value_or("")), hash(facts.value_or(""))};
 }
 
 FolderPc::FolderPc(const std::string& folder, std::string commandLine, DamagedTasks damaged,
@@ -54,7 +54,7 @@ FolderPc::FolderPc(const std::string& folder, std::string commandLine, DamagedTa
 FolderPc::FolderPc(Opened opened, const std::string& folder, std::string commandLine, DamagedTasks damaged,
                    const std::string& user)
     : root_(std::move(opened.root)),
-      textsRead_(opened.texts.mark()),
+      textsRead_(opened.texts.marks()),
       isExport_(opened.texts.registry && !isOwnRegistryText(*opened.texts.registry)),
       tree_(readRegistry(opened.texts.registry)),
       facts_(opened.texts.facts.value_or("")),
@@ -85,7 +85,7 @@ bool FolderPc::isOutdated() {
   for (const char* name : {RegistryName, PcFacts::FileName, FolderTasks::FileName}) {
     removeLeftBeside(*root_, name);
   }
-  return readTexts(*root_).mark() != textsRead_;
+  return readTexts(*root_).marks() != textsRead_;
 }
 
 Platform FolderPc::platform(EventLoop& events, Messages& messages) {

@@ -1,6 +1,7 @@
 // A PC kept in a folder: drives as directories, the registry, the facts and the tasks as texts.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
@@ -53,11 +54,12 @@ class FolderPc {
   DriveFolders& driveFolders() { return driveFolders_; }
 
  private:
+  using Marks = std::array<std::size_t, 2>;
   // As they stood when they were read, once and together.
   struct Texts {
     std::optional<std::string> registry;
     std::optional<std::string> facts;
-    std::size_t mark() const;  // differs, as good as surely, when one of the texts does
+    Marks marks() const;  // one for each text: differs, as good as surely, when the text does
   };
   struct Opened {
     std::unique_ptr<HostDir> root;
@@ -72,8 +74,8 @@ class FolderPc {
 
   // Below the services that use them, so made before them.
   std::unique_ptr<HostDir> root_;
-  std::size_t textsRead_;  // the mark of the texts as they were read
-  bool isExport_;          // the registry was written by others
+  Marks textsRead_;  // the marks of the texts as they were read
+  bool isExport_;    // the registry was written by others
   RegistryTree tree_;
   PcFacts facts_;
   FolderRegistry::Rules rules_;

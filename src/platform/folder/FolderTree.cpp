@@ -5,16 +5,6 @@
 #include "platform/folder/CodePage1252.h"
 
 namespace zub {
-namespace {
-
-// Some hosts do not remove a read-only file.
-HostError removeForced(HostDir& folder, const std::string& name) {
-  const HostError error = folder.removeFile(name);
-  if (error != HostError::NoRights || folder.setReadOnly(name, false) != HostError::None) return error;
-  return folder.removeFile(name);
-}
-
-}  // namespace
 
 HostError FolderTree::remove(const std::string& name) {
   begin(name);
@@ -89,7 +79,7 @@ void FolderTree::end(HostError error) {
 
 HostError FolderTree::removeFile(const std::string& name) {
   if (isLocked()) return HostError::InUse;
-  const HostError error = removeForced(disk_.here(), name);
+  const HostError error = disk_.here().removeFile(name);
   if (error == HostError::NotFound) return HostError::None;  // gone meanwhile
   if (error == HostError::None && facts_.anyAttributes()) facts_.dropAttributes(path_.key());
   return error;

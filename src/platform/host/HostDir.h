@@ -103,7 +103,7 @@ class HostDir {
   // meanwhile; InUse where they do not allow that.
   virtual HostError openFile(const std::string& name, HostOpen mode, std::unique_ptr<HostFile>& file) = 0;
 
-  // Removes anything but a folder (NotAFile for one). A read-only file goes too where the host allows it.
+  // Removes anything but a folder (NotAFile for one), a read-only file too.
   virtual HostError removeFile(const std::string& name) = 0;
   // Whether this user may remove the entry; changes nothing. Rights that change while the folder is open may not count.
   virtual HostError mayRemove(const std::string& name) = 0;

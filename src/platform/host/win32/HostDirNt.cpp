@@ -186,7 +186,10 @@ HostError HostDirNt::removeFile(const std::string& name) {
   const Opened file = openKnown(name, RemoveRights, FILE_OPEN, 0);
   if (file.error != HostError::None) return file.error;
   if (file.stat.kind == HostKind::Folder) return HostError::NotAFile;
-  return file.handle.get() != nullptr ? removeOpened(file.handle) : HostError::NoRights;
+  if (file.handle.get() == nullptr) return HostError::NoRights;
+  const HostError error = removeOpened(file.handle);
+  if (error != HostError::NoRights || !file.stat.readOnly) return error;
+  return setReadOnly(name, false) == HostError::None ? removeOpened(file.handle) : error;
 }
 
 HostError HostDirNt::mayRemove(const std::string& name) {
