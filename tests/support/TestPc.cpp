@@ -121,6 +121,7 @@ const std::string& TestPc::hostFolder() const {
 void TestPc::file(std::string_view path, std::string_view bytes) {
   const FolderPath parts = parsed(path);
   const FolderDisk::Place place = impl_->makeParent(parts);
+  place.parent->setReadOnly(place.name, false);  // an old one, which only root could write over
   writeHostFile(*place.parent, place.name, bytes);
   impl_->disk.forget();  // a kept handle would hold folders that are removed later
 }
