@@ -2,6 +2,7 @@
 // forgivingly than a run does: markers count in any case, and a value's name begins at the first "=".
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -230,7 +230,7 @@ TEST_CASE("a registry that could not be saved is not taken") {
   NewPc folder;
   // A key writes the path of each key above it, a control character makes bytes of a text.
   std::string deep = "[HKEY_USERS";
-  for (int level = 0; level < 500; ++level) deep += "\\" + std::string(200, 'k');
+  for (int level = 0; level < 512; ++level) deep += "\\" + std::string(200, 'k');
   RegistryTree tree =
       readRegistryText("REGEDIT4\n" + deep + "]\n\"v\"=\"a\x01" + std::string(300, 'x') + "\\\\\"\n", "x");
   const std::uint64_t length = writeRegistryText(tree).size();

@@ -9,6 +9,10 @@
 #include "support/Golden.h"
 #include "support/Snapshot.h"
 #include "support/TempFolder.h"
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 namespace zub {
 namespace {
@@ -137,5 +141,32 @@ TEST_CASE("host folder: many names are all told, and two listings do not meet") 
   CHECK(left(*one) == 700);
   CHECK(left(*two) == 699);
 }
+
+#ifndef _WIN32
+TEST_CASE("host folder: whether an entry may go is what its removal then answers") {
+  constexpr uid_t Stranger = 65534;
+  const uid_t owner = geteuid();
+  for (const uid_t user : {owner, Stranger}) {
+    if (owner != 0 && user != owner) continue;  // only root becomes somebody else
+    for (const mode_t mode : {0755U, 0555U, 0777U, 01777U, 0666U}) {
+      CAPTURE(mode);
+      TempFolder temp;
+      REQUIRE(temp.dir().makeDir("in") == HostError::None);
+      std::unique_ptr<HostDir> dir;
+      REQUIRE(temp.dir().openDir("in", dir) == HostError::None);
+      for (const char* name : {"one", "own"}) writeHostFile(*dir, name, "x");
+      REQUIRE(lchown((temp.path() + "/in/own").c_str(), user, getegid()) == 0);
+      REQUIRE(chmod((temp.path() + "/in").c_str(), mode) == 0);
+      REQUIRE(seteuid(user) == 0);
+      std::vector<HostError> foretold, answered;
+      for (const char* name : {"one", "own"}) foretold.push_back(dir->mayRemove(name));
+      for (const char* name : {"one", "own"}) answered.push_back(dir->removeFile(name));
+      REQUIRE(seteuid(owner) == 0);
+      chmod((temp.path() + "/in").c_str(), 0755);
+      CHECK(foretold == answered);
+    }
+  }
+}
+#endif
 
 }  // namespace zub

@@ -83,8 +83,8 @@ const Setting& settingNamed(const CommandContext& context, const std::vector<Set
 const Setting& apply(const CommandContext& context, const std::vector<Setting>& settings,
                      const std::string& argument) {
   const auto sign = argument.rfind('=');
-  const std::string value = argument.substr(sign + 1);
-  const Setting& setting = settingNamed(context, settings, argument.substr(0, sign));
+  const std::string name = argument.substr(0, sign), value = argument.substr(sign + 1);
+  const Setting& setting = settingNamed(context, settings, name);
   const int number = value.size() == 1 && value[0] >= '0' && value[0] <= '9' ? value[0] - '0' : -1;
   if (number < setting.lowest || number > setting.highest) {
     throw Refusal("\"" + setting.name + "\" takes " + setting.values() + ", not \"" + value + "\"");

@@ -133,7 +133,7 @@ HostError FolderDisk::down(const std::string& hostName) {
 }
 
 void FolderDisk::foundIn(std::string_view folder) {
-  const bool plain = folder.size() > 2 && folder[1] == ':' && folder.back() == '\\' &&
+  const bool plain = folder.find(':') == 1 && folder.ends_with('\\') &&
                      static_cast<std::size_t>(std::ranges::count(folder, '\\')) == open_.size();
   text_ = plain ? folder : std::string_view();
 }
