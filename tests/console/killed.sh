@@ -10,7 +10,7 @@ left() { find "$pc/C/WINDOWS/TEMP" -name 'work*.tmp' | wc -l; }
 # The text without the time of the wash, which may go over several lines.
 timeless() { LC_ALL=C awk '/^"lblLastRemoval"/ { skip = 1 } !skip; !/\\\r?$/ { skip = 0 }' "$1"; }
 makePc() { rm -rf "$pc" && cp -R "$work/first" "$pc"; }
-killedAt() { ZUB_FAULT_AT=$1 ZUB_FAULT=kill ZUB_FAULT_LOG=$calls LD_PRELOAD=$faults "${program[@]}" --pc "$pc" $words; }
+killedAt() { ZUB_FAULT_AT=$1 ZUB_FAULT=kill ZUB_FAULT_LOG=$calls with "$faults" "${program[@]}" --pc "$pc" $words; }
 
 run 0 new "$work/first"
 printf '\n[%s\\RunMRU]\n"a"="private"\n' 'HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Explorer' \

@@ -6,6 +6,8 @@ root=$(cd "$tests/../.." && pwd)
 
 # A fresh sample PC in a folder.
 sample() { "$root/tools/sample-copy" "$1"; }
+# with LIBRARY COMMAND...: runs it with a library before all others, whose path may hold blanks.
+with() { LD_LIBRARY_PATH=$(dirname "$1") LD_PRELOAD=$(basename "$1") "${@:2}"; }
 # The registry of a PC as sorted lines "KEY" and "KEY -> NAME".
 registry() { LC_ALL=C awk -f "$tests/registry.awk" "$1/registry.reg" | sort; }
 # Everything about the files in a folder, to be compared.
