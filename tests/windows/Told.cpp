@@ -215,6 +215,14 @@ std::string comboOf(const Window& combo) {
   return line("; row ", combo.send(CB_GETCURSEL), " of ", combo.send(CB_GETCOUNT));
 }
 
+// Where the part without a frame begins.
+std::string insideOf(const Window& control) {
+  POINT corner{};
+  ClientToScreen(control.handle(), &corner);
+  const RECT whole = control.place();
+  return line(corner.x - whole.left, ',', corner.y - whole.top);
+}
+
 // What only controls of its class tell.
 std::string ownOf(const Window& control) {
   const auto number = [&control](const char* what, UINT message) {
@@ -229,7 +237,8 @@ std::string ownOf(const Window& control) {
   const std::string name = control.className();
   for (const auto& [className, tell] : all)
     if (lstrcmpiA(name.c_str(), className) == 0) return tell(control);
-  if (lstrcmpiA(name.c_str(), "Edit") == 0) return number("room", EM_GETLIMITTEXT);
+  if (lstrcmpiA(name.c_str(), "Edit") == 0)
+    return number("room", EM_GETLIMITTEXT) + line("; inside ", insideOf(control));
   if (lstrcmpiA(name.c_str(), "Button") == 0) return number("check", BM_GETCHECK);
   if (lstrcmpiA(name.c_str(), STATUSCLASSNAMEA) == 0) return number("parts", SB_GETPARTS);
   return {};
@@ -263,6 +272,8 @@ std::string seen(const Window& control, const Screen& screen) {
       ask(control, TCM_GETITEMRECT, page, header);
       text += screen.colorsAt(place.left + header.record.left + BesideCaption, place);
     }
+  } else if (name == "Edit") {
+    text += screen.colorsAt(place.right - BesideLetters, place);
   } else if (name == "SysListView32" || (name == "ZubraneControl" && place.right - place.left > Wide)) {
     text += screen.colorsAt(place.left + BesideLetters, place);
   }
