@@ -72,14 +72,14 @@ TEST_CASE("the highlighted row is the current one, also where its box was clicke
   const Zub zub;
   const Window main = zub.main();
   const Window list = pluginList(main);
-  const int album = rows::find(list, "Home Photo Album"), logs = rows::find(list, "Modem and Fax Logs");
+  const int shop = rows::find(list, "Card Shop Deluxe"), logs = rows::find(list, "Modem and Fax Logs");
   rows::click(list, logs);
-  rows::clickCheck(list, album);
-  CHECK(rows::isHighlighted(list, album));
+  rows::clickCheck(list, shop);
+  CHECK(rows::isHighlighted(list, shop));
   list.clickAt(120, 250);  // below the rows
-  CHECK(rows::isHighlighted(list, album));
+  CHECK(rows::isHighlighted(list, shop));
   main.child("Edit Plugin").click();
-  CHECK(zub.window(title::Editor).child("EDIT", 0).comesToSay("Home Photo Album"));
+  CHECK(zub.window(title::Editor).child("EDIT", 0).comesToSay("Card Shop Deluxe"));
   zub.window(title::Editor).child("&Cancel").click();
   main.child("Remove").click();
   CHECK(soon([&] { return rows::count(list) == 2; }));
