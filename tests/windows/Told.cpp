@@ -78,6 +78,12 @@ class Screen {
     return line(", seen ", hex(static_cast<LONG_PTR>(at(part.left, part.top))), ' ',
                 hex(static_cast<LONG_PTR>(ground)), ' ', hex(static_cast<LONG_PTR>(ink)));
   }
+  int inkIn(const RECT& part) const {
+    int count = 0;
+    for (LONG y = part.top; y < part.bottom; ++y)
+      for (LONG x = part.left; x < part.right; ++x) count += at(x, y) != at(part.left, part.top);
+    return count;
+  }
   // The colours from the top down at a place without letters, each with its height.
   std::string colorsAt(LONG x, const RECT& part) const {
     std::string runs;
@@ -339,6 +345,10 @@ std::string Told::changes(const Window& window, std::string_view awaited) {
     if (isNew || looksNew) text += one.told + one.seen + '\n';
   }
   return text;
+}
+
+int inkOf(const Window& control) {
+  return Screen().inkIn(control.place());
 }
 
 void press(const Window& control, long part) {

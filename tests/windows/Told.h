@@ -22,6 +22,9 @@ class Told {
   std::map<HWND, std::string> told_, seen_;
 };
 
+// How many pixels of a control, as it is seen, have another colour than its corner.
+int inkOf(const Window& control);
+
 // As a screen reader does: a control of the kit, or a part of it, numbered from 1.
 void press(const Window& control, long part = 0);
 // Gives a part the keyboard; the part that says that it has it.

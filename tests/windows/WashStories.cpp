@@ -1,5 +1,6 @@
 // Washes from the main window: what they remove, show and report.
 #include "windows/Story.h"
+#include "windows/Told.h"
 
 using namespace zub::drive;
 
@@ -69,7 +70,11 @@ TEST_CASE("Cancel closes the display, and the removal goes on") {
   const Zub zub;
   const Window main = zub.main();
   main.child("&Start Cleaning").click();
-  zub.window(title::Progress).child("&Cancel").click();
+  const Window progress = zub.window(title::Progress);
+  const Window task = progress.child("Temp Directory");
+  CHECK(soon([&] { return pc::filesIn(pc::temp()) < files; }));
+  const int bold = inkOf(task);
+  progress.child("&Cancel").click();
   CHECK(zub.hides(title::Progress));
   CHECK(main.isVisible());
   const std::size_t left = pc::filesIn(pc::temp());
@@ -78,6 +83,8 @@ TEST_CASE("Cancel closes the display, and the removal goes on") {
   CHECK(soon([] { return pc::filesIn(pc::temp()) == 0; }, 2 * Patience));
   CHECK_FALSE(zub.shows(title::Progress));
   CHECK(main.child("STATIC", 2).comesToSay("Last removal on "));
+  wash(zub);
+  CHECK(soon([&] { return inkOf(task) < bold; }));
 }
 
 TEST_CASE("the report tells of the last wash, and a minimised one comes up again as it was") {
