@@ -12,7 +12,6 @@
 #include "support/TempFolder.h"
 
 #ifndef _WIN32
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -144,19 +143,6 @@ TEST_CASE("a link goes in every place, and its target stays") {
     REQUIRE(::mkfifo((c + place + "/pipe").c_str(), 0600) == 0);
   }
   link(outside, fenced.temp.path() + "/pc/D");  // no drive
-
-  link(outside, fenced.temp.path() + "/pc/e");
-  REQUIRE(fenced.pc->root().makeDir("f") == HostError::None);
-
-  std::vector<std::string> oddities = fenced.pc->driveFolders().oddities();
-  std::ranges::sort(oddities);
-  CHECK(oddities ==
-        std::vector<std::string>{
-            "\"D\" is a link, which is no drive; with \"drive D = fixed at FOLDER\" in pc.txt a drive "
-            "lies in another folder",
-            "\"e\" is a link, which is no drive; with \"drive E = fixed at FOLDER\" in pc.txt a drive "
-            "lies in another folder",
-            "\"f\" is no drive: those have capital letters"});
   CHECK_FALSE(fenced.pc->drives.exists("D:"));
   CHECK(failure([&] { files.grip("D:\\secret"); }) == 53);
   CHECK(failure([&] { files.grip("C:\\folder\\secret")->remove(); }) == 70);
@@ -211,20 +197,6 @@ TEST_CASE("a folder that another takes the place of is found anew, and a grip st
   grip->remove();
   CHECK(readHostFile(*other, "f") == "another");
   CHECK_FALSE(files.fileExists("C:\\b\\f"));
-}
-
-TEST_CASE("a tree that is deeper than the limit of open files goes") {
-  Fenced fenced;
-  rlimit limit{};
-  REQUIRE(::getrlimit(RLIMIT_NOFILE, &limit) == 0);
-  const rlimit few{std::min<rlim_t>(limit.rlim_cur, 200), limit.rlim_max};
-  REQUIRE(::setrlimit(RLIMIT_NOFILE, &few) == 0);
-  std::string path = "C:\\tree";
-  for (int level = 0; level < 700; ++level, path += "\\d") fenced.files().createFolder(path);
-  fenced.files().open(path + "f", OpenMode::Binary);
-  fenced.files().deleteFolder("C:\\tree");
-  ::setrlimit(RLIMIT_NOFILE, &limit);
-  CHECK_FALSE(fenced.files().folderExists("C:\\tree"));
 }
 
 TEST_CASE("a profile is replaced in one step, and no file beside it is lost") {
