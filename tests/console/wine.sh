@@ -34,9 +34,9 @@ exported "$explorer\\Shell Folders" >/dev/null
 # folder NAME: the path below C: of a folder of the user.
 folder() { sed -n "s/^\"$1\"=\"C:\\(.*\\)\"\$/\\1/p" "$work/exported.reg" | sed 's/\\\\/\//g'; }
 recent=$(folder Recent) cookies=$(folder Cookies) appData=$(folder AppData)
+temp=$("$emulator" cmd /c 'echo %TEMP%' 2>/dev/null | tr -d '\r' | sed -n 's/^C://; s/\\/\//gp')
 # None of them may be empty: what is removed below would be the drive.
-for path in "$recent" "$cookies" "$appData"; do [ -n "$path" ] || { fail "a folder of the user is not known"; exit 1; }; done
-temp=${appData%/AppData/*}/Temp
+for path in "$recent" "$cookies" "$appData" "$temp"; do [ -n "$path" ] || { fail "a folder of the user is not known"; exit 1; }; done
 
 # What is to go, and what is to stay.
 traces=("$explorer\\RecentDocs" "$explorer\\StreamMRU" "$explorer\\Doc Find Spec MRU" "$explorer\\RunMRU"
