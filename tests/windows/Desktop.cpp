@@ -1,6 +1,7 @@
 #include "windows/Desktop.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace zub::drive {
 namespace {
@@ -30,13 +31,13 @@ void input(const INPUT& event) {
 POINT sentTo{};
 
 void pointer(DWORD flags) {
-  // The system counts the screen's width and height as 65536 each.
+  // The system counts width and height of the whole desktop, which may be several screens, as 65536 each.
   const auto share = [](LONG pixel, int size) { return (pixel * 65536 + size - 1) / size; };
   INPUT event{};
   event.type = INPUT_MOUSE;
-  event.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-  event.mi.dx = share(sentTo.x, GetSystemMetrics(SM_CXSCREEN));
-  event.mi.dy = share(sentTo.y, GetSystemMetrics(SM_CYSCREEN));
+  event.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK;
+  event.mi.dx = share(sentTo.x - GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_CXVIRTUALSCREEN));
+  event.mi.dy = share(sentTo.y - GetSystemMetrics(SM_YVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN));
   input(event);
 }
 
@@ -200,6 +201,14 @@ Window focus() {
   thread.cbSize = sizeof thread;
   GetGUIThreadInfo(GetWindowThreadProcessId(GetForegroundWindow(), nullptr), &thread);
   return Window(thread.hwndFocus);
+}
+
+bool isLaterWine() {
+  using Version = const char*(CDECL*)();
+  const auto version = reinterpret_cast<Version>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version")));
+  constexpr int Known = 8;
+  return version != nullptr && std::atoi(version()) > Known;
 }
 
 bool tipComes(std::string_view text) {

@@ -13,6 +13,10 @@ namespace zub::drive {
 
 inline constexpr int Patience = 30;  // seconds
 
+// A Wine behind version 8 shows no program the pixels and tips of others, counts handles otherwise and keeps the screen's
+// resolution elsewhere: what looks at these is left out there.
+bool isLaterWine();
+
 // Looks again and again until the condition holds. Whether it did within the time.
 template <class Condition>
 bool soon(Condition condition, int seconds = Patience) {

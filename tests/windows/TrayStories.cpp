@@ -24,7 +24,7 @@ TEST_CASE("a minimised window goes to the tray, and a click on the icon brings i
   CHECK(progress.comesToFront());
 }
 
-TEST_CASE("the menu of the icon shows, washes and ends") {
+TEST_CASE("the menu of the icon shows, washes and ends" * doctest::skip(isLaterWine())) {
   const Story story;
   const Trace trace;
   const Zub zub("/STARTUP");
