@@ -111,6 +111,8 @@ TEST_CASE("a malformed catalogue is refused with line and reason") {
   const std::pair<std::string, std::string> cases[] = {
       {row + "fille windows | a", "line 3: unknown word \"fille\""},
       {"trace HKEY_USERS\\a- Key*", "line 1: no name in square brackets stands before this line"},
+      {"[]", "line 1: a name stands in square brackets"},
+      {"[Ab", "line 1: a name stands in square brackets"},
       {"\n[A]\n[B]\nabout b", "line 2: the description is missing"},
       {"[A]\nabout " + std::string(301, 'x'), "line 2: the description is longer than 300 characters"},
       {row + "\n[B]\nabout b\nfile windows | b", "line 1: there is no action"},
