@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "platform/host/win32/LoadedCall.h"
+
 namespace zub::drive {
 namespace {
 
@@ -204,9 +206,7 @@ Window focus() {
 }
 
 bool isLaterWine() {
-  using Version = const char*(CDECL*)();
-  const auto version = reinterpret_cast<Version>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version")));
+  const auto version = loadedCall<const char*(CDECL*)()>("ntdll.dll", "wine_get_version");
   constexpr int Known = 8;
   return version != nullptr && std::atoi(version()) > Known;
 }

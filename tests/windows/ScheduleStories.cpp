@@ -26,7 +26,7 @@ TEST_CASE("a dated entry is refused, added and removed") {
   CHECK(soon([&] { return rows::text(list, before).find("12/24/2031") == std::string::npos; }));
 }
 
-TEST_CASE("the automatic interval changes what the clock tells" * doctest::skip(isLaterWine())) {
+TEST_CASE("the automatic interval changes what the clock tells") {
   const Story story;
   const Zub zub;
   const Window main = zub.main();
@@ -39,7 +39,7 @@ TEST_CASE("the automatic interval changes what the clock tells" * doctest::skip(
   // Its tip comes over its text as it does over its arrow.
   const RECT text = main.child("COMBOBOX", 0).child("EDIT", 0).place();
   movePointer((text.left + text.right) / 2, (text.top + text.bottom) / 2);
-  CHECK(tipComes("Automatically run ZUB every?"));
+  CHECK((isLaterWine() || tipComes("Automatically run ZUB every?")));
   // A text that names no interval leaves the current minute, in which a wash is due at once.
   const Window interval = main.child("COMBOBOX", 0);
   fill(interval.child("EDIT", 0), "now");
